@@ -1,0 +1,64 @@
+# One place for the flags and for the three kinds of target: a subsystem's library, a test program, a benchmark.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+add_library(pixmosa_flags INTERFACE)
+target_include_directories(pixmosa_flags INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(pixmosa_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
+                       -Woverloaded-virtual -Wextra-semi -fno-math-errno -ffp-contract=off)
+if(PIXMOSA_WERROR)
+  target_compile_options(pixmosa_flags INTERFACE -Werror)
+endif()
+if(PIXMOSA_SANITIZE)
+  add_compile_options(-fsanitize=${PIXMOSA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=${PIXMOSA_SANITIZE})
+  add_compile_definitions(PIXMOSA_SANITIZED)
+endif()
+
+# pixmosa_library(NAME SOURCES a.cpp ... LINKS lib ...): a static library with its sources listed.
+function(pixmosa_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(${name} PUBLIC pixmosa_flags ${ARG_LINKS})
+endfunction()
+
+# pixmosa_test(NAME LABEL core SOURCES a.cpp ... LINKS lib ...): one test program of a subsystem.
+# Labels: core and cli run GoogleTest; gui runs Qt Test without a display.
+function(pixmosa_test name)
+  cmake_parse_arguments(ARG "" "LABEL" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE pixmosa_flags ${ARG_LINKS})
+  if(NOT ARG_LABEL STREQUAL "gui")
+    target_link_libraries(${name} PRIVATE GTest::gtest_main GTest::gmock)
+  endif()
+  target_compile_definitions(${name} PRIVATE PIXMOSA_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES LABELS ${ARG_LABEL} TIMEOUT 300
+                       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+endfunction()
+
+# pixmosa_fuzzer(NAME SOURCE a.cpp CORPUS dir LINKS lib ...): a libFuzzer program; its test is a short run.
+function(pixmosa_fuzzer name)
+  cmake_parse_arguments(ARG "" "SOURCE;CORPUS" "LINKS" ${ARGN})
+  if(NOT PIXMOSA_FUZZ)
+    return()
+  endif()
+  add_executable(${name} ${ARG_SOURCE})
+  target_link_libraries(${name} PRIVATE pixmosa_flags ${ARG_LINKS})
+  target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+  set(work ${CMAKE_BINARY_DIR}/fuzz/${name})
+  file(MAKE_DIRECTORY ${work})
+  add_test(NAME ${name} COMMAND ${name} -max_total_time=4 -rss_limit_mb=1024 -print_final_stats=0
+           ${work} ${ARG_CORPUS})
+  set_tests_properties(${name} PROPERTIES LABELS fuzz TIMEOUT 120)
+endfunction()
+
+# pixmosa_bench(NAME SOURCES a.cpp ... LINKS lib ...): a Google Benchmark program.
+function(pixmosa_bench name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE pixmosa_flags ${ARG_LINKS} benchmark::benchmark_main)
+endfunction()

@@ -1,0 +1,82 @@
+// From a picture to the produced text: character tables, the driver and the grayscale method.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "platform/Picture.h"
+#include "platform/Rounding.h"
+#include "platform/TextSurface.h"
+
+namespace pixmosa {
+
+// What the conversion reads; the window fills it from its controls, the command line from its options.
+struct AsciiSettings {
+  Font font;
+  int size = 100;        // percent of the characters that fit across the screen, 1..198
+  int luminosity = 0;    // -100..100, added twice to every gray level
+  int palette = 0;       // 0..3, see kPalettes
+  bool relleno = false;  // outlines: fill the insides of shapes
+};
+
+struct CharacterPalette {
+  const char* caption;  // UTF-8
+  int first, last;      // codes, both included
+};
+
+inline constexpr std::array<CharacterPalette, 4> kPalettes = {{
+    {"AsciiArt Extendido (32-255)", 32, 255},
+    {"AsciiArt clasico (32-127)", 32, 127},
+    {"Caracteres (a-Z)", 65, 122},
+    {"Números (0-9)", 48, 57},
+}};
+
+enum Method { kGrayscale = 0, kEdges = 1, kAntiAlias = 2 };
+
+// The state of the conversion, one for the program's run.
+struct BasAscii {
+  std::array<float, 256>
+      CharBrightness{};  // share of counted pixels in each code's cell, on a scale of 0..255
+  float BrightnessMin = 0, BrightnessMax = 0;
+  std::array<std::int32_t, 256> GrayToChar{};  // the code for each gray level
+  Colour CountedColour = kWhite;               // white normally, black with the negative option
+  float PaletteFirst = 32, PaletteLast = 255;
+  std::int32_t AsciiColumns = 250;
+  std::int32_t CellWidth = 1, CellHeight = 1;  // pixels of "A" in the chosen font
+  std::string ProducedText;                    // 8-bit code page, rows separated by CR LF
+};
+
+// Plain average of the three parts, half to even; a pixel outside a picture (-1) is black.
+inline int PixelGray(Colour c) {
+  const int red = std::abs(c % 256), green = std::abs(c % 65536 / 256), blue = std::abs(c / 65536);
+  return RoundHalfEven((red + green + blue) / 3.0);
+}
+
+// Sets the palette range from settings.palette, clears the tables, measures and builds the lookup.
+void RebuildCharacterTables(BasAscii& ascii, const AsciiSettings& settings, TextSurface& surface);
+
+// Measures the palette range in the font: CharBrightness, BrightnessMin, BrightnessMax and the cell.
+void MeasureCharacterSet(BasAscii& ascii, const Font& font, TextSurface& surface);
+
+// GrayToChar from CharBrightness: nearest brightness, ties to the lowest code.
+void BuildGrayLookup(BasAscii& ascii);
+
+// AsciiColumns from the size, the screen's width in pixels and CellWidth.
+void ComputeColumnCount(BasAscii& ascii, int size, int screenWidth);
+
+// Pixels of the scaled copy that a method converts: one for each character, 3 x 3 for kAntiAlias.
+Extent ResizedExtent(const BasAscii& ascii, Extent source, int method);
+
+// Runs a method on `resized`, a picture of ResizedExtent. False for an unknown method, which leaves the text.
+bool ConvertResized(BasAscii& ascii, const AsciiSettings& settings, const Picture& resized, int method);
+
+// The driver: stretches `source` and converts it; ProducedText is replaced whole. `source` is not empty.
+bool GenerateAscii(BasAscii& ascii, const AsciiSettings& settings, const Picture& source, int method);
+
+// One character a pixel. A row that is all gray-0 character is dropped and leaves a line break at the text's
+// end.
+std::string ConvertGrayscale(const BasAscii& ascii, int luminosity, const Picture& resized);
+
+}  // namespace pixmosa

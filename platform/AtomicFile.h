@@ -1,0 +1,49 @@
+// Files written whole or not at all, and files read whole within a bound.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace pixmosa {
+
+// what() is a Spanish sentence in UTF-8 that names the file and the reason.
+class FileError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// Writes beside the place and renames in Commit(); without Commit the earlier file of that name stays as it
+// was. A link keeps pointing where it did; a device or pipe is written directly. Every member throws
+// FileError.
+class AtomicFile {
+ public:
+  explicit AtomicFile(const std::filesystem::path& file);
+  ~AtomicFile();
+  AtomicFile(const AtomicFile&) = delete;
+  AtomicFile& operator=(const AtomicFile&) = delete;
+
+  void Write(std::string_view bytes);
+  void Commit();
+
+ private:
+  [[noreturn]] void Fail(int error);
+
+  std::filesystem::path named_, target_, temporary_;
+  std::FILE* stream_ = nullptr;
+  bool direct_ = false;
+};
+
+// The whole of `bytes` as the file, through AtomicFile.
+void EscribirArchivo(const std::filesystem::path& file, std::string_view bytes);
+
+// The whole file. Throws FileError, also for a folder or for more than `most` bytes.
+std::string LeerArchivo(const std::filesystem::path& file, std::uintmax_t most = std::uintmax_t{1} << 31);
+
+// A short Spanish reason for an errno value, such as "permiso denegado".
+std::string RazonDelError(int error);
+
+}  // namespace pixmosa

@@ -1,0 +1,39 @@
+// The system's dialogs and message boxes. All texts and paths are UTF-8; modal, on the main window.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/Colour.h"
+#include "platform/Font.h"
+
+namespace pixmosa {
+
+struct FontChoice {
+  std::string name;
+  int pixelHeight;  // its sign does not count
+};
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+
+  // Filters alternate description and patterns with "|" separators. An empty path on cancel.
+  virtual std::string OpenFile(const std::string& title, const std::string& filter) = 0;
+  virtual std::string SaveFile(const std::string& title, const std::string& filter,
+                               const std::string& defaultExtension) = 0;
+  virtual std::string ChooseFolder(const std::string& title) = 0;
+
+  // The chosen colour, or kNoColour on cancel.
+  virtual Colour ChooseColour(Colour current) = 0;
+  virtual std::optional<FontChoice> ChooseFont(const Font& current) = 0;
+
+  // Yes and No with the information icon; true on Yes only.
+  virtual bool Ask(const std::string& text, const std::string& title = {}) = 0;
+  // Information icon and OK.
+  virtual void Inform(const std::string& text, const std::string& title = {}) = 0;
+  // Critical icon and OK.
+  virtual void Fail(const std::string& text, const std::string& title = {}) = 0;
+};
+
+}  // namespace pixmosa

@@ -1,0 +1,20 @@
+// The desktop around the program: opening things, the clipboard.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace pixmosa {
+
+class Shell {
+ public:
+  virtual ~Shell() = default;
+  // Opens a file or a link with the program that the desktop has for it. False where there is none.
+  virtual bool Open(const std::string& fileOrLink) = 0;
+  // Starts the system's character map. False where there is none.
+  virtual bool StartCharacterMap() = 0;
+  // Puts plain text (8-bit code page) on the clipboard in place of what is there.
+  virtual void CopyText(std::string_view text) = 0;
+};
+
+}  // namespace pixmosa
