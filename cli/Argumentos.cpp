@@ -1,0 +1,87 @@
+#include "cli/Argumentos.h"
+
+#include <algorithm>
+#include <charconv>
+#include <climits>
+
+namespace pixmosa::cli {
+namespace {
+
+std::string Citado(std::string_view s) {
+  return "\"" + std::string(s) + "\"";
+}
+
+std::string Unidas(const std::vector<const char*>& words) {
+  std::string s;
+  for (const char* w : words) s += (s.empty() ? "" : w == words.back() ? " o " : ", ") + std::string(w);
+  return s;
+}
+
+void Comprobar(const Opcion& o, const std::string& value) {
+  const std::string name = o.nombre;
+  if (o.tipo == Tipo::Entero && !EnteroDeTexto(value, o.minimo, o.maximo)) {
+    const std::string range = o.maximo == INT_MAX
+                                  ? "de " + std::to_string(o.minimo) + " en adelante"
+                                  : "de " + std::to_string(o.minimo) + " a " + std::to_string(o.maximo);
+    throw ErrorDeUso("la opción " + name + " espera un número entero " + range + ", no " + Citado(value));
+  }
+  const auto same = [&](const char* e) { return value == e; };
+  if (o.tipo == Tipo::Eleccion && std::none_of(o.elecciones.begin(), o.elecciones.end(), same))
+    throw ErrorDeUso("la opción " + name + " espera " + Unidas(o.elecciones) + ", no " + Citado(value));
+}
+
+}  // namespace
+
+std::optional<int> EnteroDeTexto(std::string_view text, int minimo, int maximo) {
+  int v = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), v);
+  if (error != std::errc() || end != text.data() + text.size() || v < minimo || v > maximo)
+    return std::nullopt;
+  return v;
+}
+
+Argumentos::Argumentos(std::span<const std::string> words, std::span<const Opcion> options) {
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const std::string& word = words[i];
+    if (word == "--") {
+      operandos_.insert(operandos_.end(), words.begin() + static_cast<std::ptrdiff_t>(i) + 1, words.end());
+      return;
+    }
+    if (word.size() < 2 || word[0] != '-') {
+      operandos_.push_back(word);
+      continue;
+    }
+    const std::size_t equals = word.find('=');
+    const std::string name = word.substr(0, equals);
+    const auto o =
+        std::find_if(options.begin(), options.end(), [&](const Opcion& x) { return name == x.nombre; });
+    if (o == options.end()) throw ErrorDeUso("no existe la opción " + Citado(name));
+    if (o->tipo == Tipo::Interruptor) {
+      if (equals != std::string::npos) throw ErrorDeUso("la opción " + name + " no lleva valor");
+      valores_[name];
+      continue;
+    }
+    if (equals == std::string::npos && i + 1 == words.size())
+      throw ErrorDeUso("falta el valor de la opción " + name);
+    const std::string value = equals == std::string::npos ? words[++i] : word.substr(equals + 1);
+    Comprobar(*o, value);
+    valores_[name] = value;
+  }
+}
+
+std::optional<std::string> Argumentos::Texto(const std::string& option) const {
+  const auto at = valores_.find(option);
+  return at == valores_.end() ? std::nullopt : std::optional(at->second);
+}
+
+int Argumentos::Entero(const std::string& option, int otherwise) const {
+  const auto at = valores_.find(option);
+  return at == valores_.end() ? otherwise : EnteroDeTexto(at->second, INT_MIN, INT_MAX).value_or(otherwise);
+}
+
+void Argumentos::ExigirOperandos(std::size_t least, std::size_t most, std::string_view what) const {
+  if (operandos_.size() < least) throw ErrorDeUso("falta " + std::string(what));
+  if (operandos_.size() > most) throw ErrorDeUso("sobra el operando " + Citado(operandos_[most]));
+}
+
+}  // namespace pixmosa::cli

@@ -1,0 +1,60 @@
+// Reading an order's words: options before or after the operands, as `--name value` or `--name=value`.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace pixmosa::cli {
+
+// what() is a Spanish sentence in UTF-8 without a final period; the program ends with status 2.
+class ErrorDeUso : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// what() is a Spanish sentence in UTF-8; the program ends with status 1.
+class ErrorDeTrabajo : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+enum class Tipo { Interruptor, Texto, Entero, Eleccion };
+
+// One option of an order: its name with the dashes, how its value is called in the help, what the value may
+// be.
+struct Opcion {
+  const char* nombre;
+  Tipo tipo;
+  const char* valor;                      // "N", "DIR"; unused for a switch
+  const char* ayuda;                      // one Spanish line
+  int minimo = 0, maximo = 0;             // Entero
+  std::vector<const char*> elecciones{};  // Eleccion
+};
+
+class Argumentos {
+ public:
+  // Throws ErrorDeUso for an unknown option, a missing or a wrong value. "--" ends the options.
+  Argumentos(std::span<const std::string> words, std::span<const Opcion> options);
+
+  const std::vector<std::string>& Operandos() const { return operandos_; }
+  bool Tiene(const std::string& option) const { return valores_.contains(option); }
+  std::optional<std::string> Texto(const std::string& option) const;
+  int Entero(const std::string& option, int otherwise) const;
+
+  // Throws ErrorDeUso unless there are between least and most operands; `what` names them.
+  void ExigirOperandos(std::size_t least, std::size_t most, std::string_view what) const;
+
+ private:
+  std::vector<std::string> operandos_;
+  std::map<std::string, std::string> valores_;
+};
+
+// The whole of `text` as a decimal integer within minimo..maximo, or nothing.
+std::optional<int> EnteroDeTexto(std::string_view text, int minimo, int maximo);
+
+}  // namespace pixmosa::cli

@@ -1,0 +1,168 @@
+#include "cli/Consola.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <optional>
+#include <set>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <QGuiApplication>
+
+#include "cli/Argumentos.h"
+#include "platform/AtomicFile.h"
+#include "platform/CodePage.h"
+#include "platform/ProgramFolder.h"
+#include "platform/Stretch.h"
+#include "platform/qt/QtPictureCodec.h"
+#include "platform/qt/QtTextSurface.h"
+
+namespace pixmosa::cli {
+namespace {
+
+constexpr int kColumnasSinTerminal = 80;
+
+// Turns what the platform throws into the program's own failure.
+template <typename Work>
+auto Trabajo(Work work) {
+  try {
+    return work();
+  } catch (const PictureError& e) {
+    throw ErrorDeTrabajo(e.what());
+  } catch (const FileError& e) {
+    throw ErrorDeTrabajo(e.what());
+  } catch (const std::bad_alloc&) {
+    throw ErrorDeTrabajo("No queda memoria para este trabajo.");
+  }
+}
+
+std::string LeerEntrada() {
+  std::string bytes;
+  char chunk[65536];
+  while (const std::size_t n = std::fread(chunk, 1, sizeof chunk, stdin)) bytes.append(chunk, n);
+  if (std::ferror(stdin)) throw ErrorDeTrabajo("No se ha podido leer la entrada estándar.");
+  return bytes;
+}
+
+}  // namespace
+
+struct Consola::Servicios {
+  int argc = 1;
+  char name[12] = "pixmosa-cli";
+  char* argv[2] = {name, nullptr};
+  QGuiApplication app{argc, argv};
+  QtTextSurface superficie;
+  QtPictureCodec imagenes;
+};
+
+Consola::Consola() = default;
+Consola::~Consola() = default;
+
+Consola::Servicios& Consola::Arrancar() {
+  if (!servicios_) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", "/tmp");
+    qputenv("QT_LOGGING_RULES", "*.debug=false;*.warning=false");
+    servicios_ = std::make_unique<Servicios>();
+  }
+  return *servicios_;
+}
+
+TextSurface& Consola::Superficie() {
+  return Arrancar().superficie;
+}
+
+PictureCodec& Consola::Imagenes() {
+  return Arrancar().imagenes;
+}
+
+Picture Consola::LeerImagen(const std::string& operand) {
+  return Trabajo(
+      [&] { return operand == "-" ? Imagenes().ReadBytes(LeerEntrada(), "-") : Imagenes().Read(operand); });
+}
+
+Picture Consola::LeerImagenReducida(const std::string& operand, const std::function<Extent(Extent)>& size) {
+  return Trabajo([&] {
+    if (operand != "-") return Imagenes().ReadStretched(operand, size);
+    const Picture whole = LeerImagen(operand);
+    return Stretch(whole, size(whole.Size()));
+  });
+}
+
+std::string Consola::LeerBytes(const std::string& operand) {
+  return Trabajo([&] { return operand == "-" ? LeerEntrada() : LeerArchivo(operand); });
+}
+
+void Consola::Escribir(std::string_view utf8) {
+  if (std::fwrite(utf8.data(), 1, utf8.size(), stdout) != utf8.size() || std::fflush(stdout) != 0)
+    throw ErrorDeTrabajo("No se ha podido escribir en la salida estándar: " + RazonDelError(errno) + ".");
+}
+
+void Consola::EscribirTexto(std::string_view text) {
+  std::string lines;
+  lines.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i)
+    if (text[i] != '\r' || text.substr(i, 2) != "\r\n") lines += text[i];
+  if (isatty(STDOUT_FILENO) && !lines.ends_with('\n')) lines += '\n';
+  Escribir(Utf8OfBytes(lines));
+}
+
+void Consola::EscribirArchivo(const std::string& file, std::string_view bytes) {
+  Trabajo([&] { pixmosa::EscribirArchivo(file, bytes); });
+}
+
+void Consola::Avisar(std::string_view sentence) {
+  std::fprintf(stderr, "pixmosa-cli: %.*s\n", static_cast<int>(sentence.size()), sentence.data());
+}
+
+void Consola::Progreso(std::string_view what, std::size_t n, std::size_t of) {
+  if (!isatty(STDERR_FILENO)) return;
+  if (n == of) {
+    std::fputs("\r\033[K", stderr);
+  } else {
+    std::fprintf(stderr, "\r\033[K%.*s %zu/%zu", static_cast<int>(what.size()), what.data(), n + 1, of);
+  }
+  std::fflush(stderr);
+}
+
+int Consola::AnchoDeTerminal() const {
+  winsize size{};
+  return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : kColumnasSinTerminal;
+}
+
+std::string Consola::CarpetaDelPrograma() {
+  return ProgramFolder().string();
+}
+
+int ConvertirACarpeta(Consola& consola, const std::vector<std::string>& operands, const std::string& folder,
+                      const std::string& ending,
+                      const std::function<void(const std::string&, const std::string&)>& work) {
+  namespace fs = std::filesystem;
+  std::vector<std::string> files;
+  std::set<std::string> seen;
+  for (const std::string& operand : operands) {
+    const std::string name = operand == "-" ? "entrada" : fs::path(operand).stem().string();
+    files.push_back((fs::path(folder) / (name + ending)).string());
+    if (!seen.insert(files.back()).second)
+      throw ErrorDeUso("dos imágenes darían el mismo archivo \"" + files.back() + "\"");
+  }
+  std::error_code error;
+  fs::create_directories(folder, error);
+  if (error)
+    throw ErrorDeTrabajo("No se ha podido crear la carpeta \"" + folder +
+                         "\": " + RazonDelError(error.value()) + ".");
+  int status = 0;
+  for (std::size_t i = 0; i < operands.size(); ++i) {
+    consola.Progreso("Imagen", i, operands.size());
+    try {
+      work(operands[i], files[i]);
+    } catch (const ErrorDeTrabajo& e) {
+      consola.Avisar(e.what());
+      status = 1;
+    }
+  }
+  consola.Progreso("Imagen", operands.size(), operands.size());
+  return status;
+}
+
+}  // namespace pixmosa::cli

@@ -1,0 +1,70 @@
+// What an order works with: the three streams and the platform's services, each made when first asked for.
+#pragma once
+
+#include <functional>
+#include <iosfwd>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/PictureCodec.h"
+#include "platform/TextSurface.h"
+
+namespace pixmosa::cli {
+
+class Consola {
+ public:
+  Consola();
+  ~Consola();
+  Consola(const Consola&) = delete;
+  Consola& operator=(const Consola&) = delete;
+
+  // Fonts and picture files, without a display.
+  TextSurface& Superficie();
+  PictureCodec& Imagenes();
+
+  // The picture of an operand; "-" is standard input. Throws ErrorDeTrabajo.
+  Picture LeerImagen(const std::string& operand);
+
+  // Stretch(LeerImagen(operand), size(its size)), quicker where the format allows.
+  Picture LeerImagenReducida(const std::string& operand, const std::function<Extent(Extent)>& size);
+
+  // The bytes of an operand; "-" is standard input. Throws ErrorDeTrabajo.
+  std::string LeerBytes(const std::string& operand);
+
+  // Writes to standard output as it stands. Throws ErrorDeTrabajo.
+  void Escribir(std::string_view utf8);
+
+  // Produced text (8-bit code page, CR LF) as UTF-8 with LF line ends; a terminal gets its last line ended.
+  void EscribirTexto(std::string_view text);
+
+  // Writes a file whole or not at all. Throws ErrorDeTrabajo.
+  void EscribirArchivo(const std::string& file, std::string_view bytes);
+
+  // One line "pixmosa-cli: sentence" on standard error.
+  void Avisar(std::string_view sentence);
+
+  // "what n/of" on standard error where that is a terminal; n == of clears the line.
+  void Progreso(std::string_view what, std::size_t n, std::size_t of);
+
+  // Columns of the terminal on standard output, or 80.
+  int AnchoDeTerminal() const;
+
+  // The folder with the files that ship with the program.
+  static std::string CarpetaDelPrograma();
+
+ private:
+  struct Servicios;
+  Servicios& Arrancar();
+  std::unique_ptr<Servicios> servicios_;
+};
+
+// Runs `work(operand, file)` for every operand, the file being DIR/NAME.ending with NAME the operand's name
+// without its ending; the folder is made if missing. An operand that fails is reported and the next one goes
+// on. The status.
+int ConvertirACarpeta(Consola& consola, const std::vector<std::string>& operands, const std::string& folder,
+                      const std::string& ending,
+                      const std::function<void(const std::string& operand, const std::string& file)>& work);
+
+}  // namespace pixmosa::cli

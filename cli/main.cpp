@@ -1,0 +1,10 @@
+#include <string>
+#include <vector>
+
+#include "cli/Orden.h"
+
+int main(int argc, char** argv) {
+  const std::vector<std::string> words(argv + 1, argv + argc);
+  pixmosa::cli::Consola consola;
+  return pixmosa::cli::Ejecutar(consola, words);
+}

@@ -1,0 +1,26 @@
+#include "conversion/TextoGuardado.h"
+
+#include "platform/CodePage.h"
+
+namespace pixmosa {
+
+std::string PanelFuente(const Font& font) {
+  return "Fuente: " + font.name;
+}
+
+std::string PanelTamaño(const Font& font) {
+  return "Tamaño: " + std::to_string(font.points);
+}
+
+std::string TextoGuardado(std::string_view fontPanel, std::string_view sizePanel, std::string_view text) {
+  std::string bytes = "Ascii Art generado por Pixmosa. ";
+  bytes += BytesOfUtf8(fontPanel);
+  bytes += ' ';
+  bytes += BytesOfUtf8(sizePanel);
+  bytes += "\r\n";
+  bytes += text;
+  bytes += "\r\n";
+  return bytes;
+}
+
+}  // namespace pixmosa

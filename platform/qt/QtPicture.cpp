@@ -1,0 +1,40 @@
+#include "platform/qt/QtPicture.h"
+
+#include <cstring>
+#include <memory>
+#include <utility>
+
+#include <QPainter>
+
+namespace pixmosa {
+
+QImage ImageOf(const Picture& picture) {
+  if (picture.IsEmpty()) return {};
+  using Block = std::shared_ptr<const std::uint32_t[]>;
+  auto* keep = new Block(picture.Block());
+  return {reinterpret_cast<const uchar*>(picture.Pixels()),
+          picture.Width(),
+          picture.Height(),
+          picture.Width() * 4,
+          QImage::Format_RGB32,
+          [](void* block) { delete static_cast<Block*>(block); },
+          keep};
+}
+
+Picture PictureOf(QImage image) {
+  if (image.isNull()) return {};
+  if (image.hasAlphaChannel()) {
+    QImage onWhite(image.size(), QImage::Format_RGB32);
+    onWhite.fill(Qt::white);
+    QPainter(&onWhite).drawImage(0, 0, image);
+    image = std::move(onWhite);
+  } else {
+    image.convertTo(QImage::Format_RGB32);
+  }
+  const int w = image.width(), h = image.height();
+  auto held = std::make_shared<QImage>(std::move(image));
+  auto* pixels = reinterpret_cast<std::uint32_t*>(held->bits());
+  return {w, h, std::shared_ptr<std::uint32_t[]>(held, pixels)};
+}
+
+}  // namespace pixmosa

@@ -1,0 +1,17 @@
+// Between pictures and the platform's images, sharing the pixels where both agree on their layout.
+#pragma once
+
+#include <QImage>
+
+#include "platform/Picture.h"
+
+namespace pixmosa {
+
+// Shows a picture's block without copying it; the image keeps the block alive. A null image for an empty
+// picture.
+QImage ImageOf(const Picture& picture);
+
+// Takes over an image's pixels: transparent ones lie on white, the fourth byte is opaque.
+Picture PictureOf(QImage image);
+
+}  // namespace pixmosa
