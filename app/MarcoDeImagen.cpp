@@ -1,0 +1,115 @@
+#include "app/MarcoDeImagen.h"
+
+#include <algorithm>
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include "platform/Rounding.h"
+#include "platform/qt/Named.h"
+#include "platform/qt/QtPicture.h"
+
+namespace pixmosa {
+namespace {
+
+constexpr int kVisibleWidth = 320, kVisibleHeight = 250;
+constexpr int kStepAcross = 6, kStepDown = 12;
+
+}  // namespace
+
+VistaDeImagen::VistaDeImagen(QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void VistaDeImagen::Mostrar(const Picture& picture) {
+  picture_ = picture;
+  resize(picture.Width(), picture.Height());
+  setVisible(!picture.IsEmpty());
+  update();
+}
+
+void VistaDeImagen::paintEvent(QPaintEvent* event) {
+  if (picture_.IsEmpty()) return;
+  QPainter(this).drawImage(event->rect(), ImageOf(picture_), event->rect());
+}
+
+MarcoDeImagen::MarcoDeImagen(QWidget* parent) : QWidget(parent) {
+  auto* frame = named<QFrame>("picMarco", this);
+  frame->setFrameShape(QFrame::NoFrame);
+  frame->setAutoFillBackground(true);
+  frame->setBackgroundRole(QPalette::Dark);
+  frame->setToolTip(tr("Imagen de trabajo: arrastre aquí una imagen para cargarla"));
+  marco_ = frame;
+  vista_ = named<VistaDeImagen>("picMain", frame);
+  vista_->hide();
+  horizontal_ = named<QScrollBar>("HScroll1", Qt::Horizontal, this);
+  vertical_ = named<QScrollBar>("VScroll1", Qt::Vertical, this);
+
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setSpacing(0);
+  grid->addWidget(marco_, 0, 0);
+  grid->addWidget(vertical_, 0, 1);
+  grid->addWidget(horizontal_, 1, 0);
+  connect(horizontal_, &QScrollBar::valueChanged, this, &MarcoDeImagen::Mover);
+  connect(vertical_, &QScrollBar::valueChanged, this, &MarcoDeImagen::Mover);
+  AjustarBarras();
+}
+
+QSize MarcoDeImagen::sizeHint() const {
+  return {kVisibleWidth + vertical_->sizeHint().width(), kVisibleHeight + horizontal_->sizeHint().height()};
+}
+
+void MarcoDeImagen::Mostrar(const Picture& picture) {
+  const QSize before = vista_->size();
+  vista_->Mostrar(picture);
+  AjustarBarras();
+  if (before == vista_->size()) return;
+  horizontal_->setValue(0);
+  vertical_->setValue(0);
+  Mover();
+}
+
+int MarcoDeImagen::Desplazamiento(int hidden, int value, int maximum, int step) {
+  if (hidden <= 0 || maximum <= 0) return 0;
+  return -step * (RoundHalfEven(static_cast<double>(hidden) * value / maximum) / step);
+}
+
+void MarcoDeImagen::AjustarBarras() {
+  const auto adjust = [](QScrollBar* bar, int whole, int visible, int step) {
+    bar->setRange(0, std::max(0, whole - visible));
+    bar->setPageStep(std::max(step, visible));
+    bar->setSingleStep(step);
+    bar->setEnabled(whole > visible);
+  };
+  const bool shown = !vista_->isHidden();
+  adjust(horizontal_, shown ? vista_->width() : 0, marco_->width(), kStepAcross);
+  adjust(vertical_, shown ? vista_->height() : 0, marco_->height(), kStepDown);
+}
+
+void MarcoDeImagen::Mover() {
+  vista_->move(Desplazamiento(vista_->width() - marco_->width(), horizontal_->value(), horizontal_->maximum(),
+                              kStepAcross),
+               Desplazamiento(vista_->height() - marco_->height(), vertical_->value(), vertical_->maximum(),
+                              kStepDown));
+}
+
+void MarcoDeImagen::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  layout()->activate();
+  AjustarBarras();
+  Mover();
+}
+
+void MarcoDeImagen::wheelEvent(QWheelEvent* event) {
+  const bool sideways = event->modifiers().testFlag(Qt::ShiftModifier) || event->angleDelta().y() == 0;
+  QScrollBar* bar = sideways ? horizontal_ : vertical_;
+  const int turn = event->angleDelta().y() != 0 ? event->angleDelta().y() : event->angleDelta().x();
+  bar->setValue(bar->value() - turn / 120 * 3 * bar->singleStep());
+  event->accept();
+}
+
+}  // namespace pixmosa

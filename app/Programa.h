@@ -1,0 +1,32 @@
+// The one object that owns the program's state; windows and handlers get it by reference.
+#pragma once
+
+#include <filesystem>
+
+#include "conversion/basAscii.h"
+#include "effects/ImagenDeTrabajo.h"
+#include "platform/Dialogs.h"
+#include "platform/PictureCodec.h"
+#include "platform/Shell.h"
+#include "platform/TextSurface.h"
+
+namespace pixmosa {
+
+// What the platform offers; real adapters in the program, recording ones in tests.
+struct Plataforma {
+  TextSurface& superficie;
+  PictureCodec& imagenes;
+  Dialogs& dialogos;
+  Shell& entorno;
+};
+
+struct Programa {
+  Plataforma plataforma;
+  std::filesystem::path carpeta;  // the folder with the files that ship with the program
+
+  ImagenDeTrabajo imagen{};
+  BasAscii basAscii{};
+  AsciiSettings ajustes{};
+};
+
+}  // namespace pixmosa

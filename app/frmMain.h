@@ -1,0 +1,91 @@
+// The main window: the working picture, the produced text, the mode, the font, and the way to every other
+// window.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+#include <QMainWindow>
+
+#include "app/Programa.h"
+#include "platform/qt/QtProgress.h"
+
+class QCheckBox;
+class QLabel;
+class QProgressBar;
+class QVBoxLayout;
+
+namespace pixmosa {
+
+class AreaDeTexto;
+class frmPreview;
+class MarcoDeImagen;
+
+class frmMain final : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit frmMain(Programa& program);
+  ~frmMain() override;
+
+  // --- frmMain_Archivo.cpp: pictures in, text out ---
+  void CargarImagen();                                  // asks for the file
+  bool AbrirImagen(const std::filesystem::path& file);  // false, after the message, where it cannot be loaded
+  void Guardar();
+  void CopiarTexto();
+
+  // --- frmMain_Generar.cpp ---
+  void Play();
+  void GenerateAscii(int method);  // the driver with its window side; `picMain` holds a picture
+  void ShowPreview();
+
+  // --- frmMain_Fuentes.cpp ---
+  void ChangeFontFromDialog();
+  void ApplyFont(const Font& font);  // text area, status bar, character tables and column count
+  void MostrarFuentesFijas();
+  void AskRegenerateAfterFontChange();
+
+  // --- frmMain_Ventanas.cpp ---
+  void MapaDeCaracteres();
+  void MostrarImagenCompleta();
+  void AcercaDe();
+
+  // 0..5, from the text of `lblModo`.
+  int IndiceDelModo() const;
+
+  // `picMain` holds a picture.
+  bool HayImagen() const;
+
+  // The picture as it is now; shown and kept by the state that owns it.
+  const Picture& Imagen() const;
+  void MostrarImagen();
+
+  Programa& programa() { return programa_; }
+  AreaDeTexto& areaDeTexto() { return *txtAscii_; }
+  QtProgress& progreso() { return *progreso_; }
+  QCheckBox& vistaPrevia() { return *chkAsciiPrev_; }
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void CrearMenus();
+  void CrearBarras();
+  void CrearCentro();
+  void CrearBarraDeEstado();
+  void Arrancar();
+
+  Programa& programa_;
+  AreaDeTexto* txtAscii_ = nullptr;
+  MarcoDeImagen* marco_ = nullptr;
+  QLabel* lblModo_ = nullptr;
+  QCheckBox* chkAsciiPrev_ = nullptr;
+  QLabel* panelFuente_ = nullptr;
+  QLabel* panelTamaño_ = nullptr;
+  QProgressBar* prgBar1_ = nullptr;
+  std::optional<QtProgress> progreso_;
+  frmPreview* preview_ = nullptr;
+};
+
+}  // namespace pixmosa

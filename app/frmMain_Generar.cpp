@@ -1,0 +1,51 @@
+// Generating the text and showing it.
+#include <QCheckBox>
+
+#include "app/MarcoDeImagen.h"
+#include "app/Modos.h"
+#include "app/frmMain.h"
+#include "app/frmPreview.h"
+#include "platform/qt/AreaDeTexto.h"
+
+namespace pixmosa {
+
+void frmMain::Play() {
+  if (!HayImagen()) {
+    if (programa_.plataforma.dialogos.Ask("Antes debe cargar una imagen\r\n¿Desea cargarla ahora?"))
+      CargarImagen();
+    return;
+  }
+  switch (IndiceDelModo()) {
+    case kModoGrises:
+      GenerateAscii(kGrayscale);
+      break;
+    default:
+      break;
+  }
+}
+
+void frmMain::GenerateAscii(int method) {
+  pixmosa::GenerateAscii(programa_.basAscii, programa_.ajustes, Imagen(), method);
+  txtAscii_->PonerTexto(programa_.basAscii.ProducedText);
+  if (chkAsciiPrev_->isChecked()) ShowPreview();
+}
+
+void frmMain::ShowPreview() {
+  if (programa_.basAscii.ProducedText.empty()) return;
+  if (!preview_) preview_ = new frmPreview(this);
+  preview_->Mostrar(programa_.basAscii.ProducedText, programa_.ajustes.font);
+}
+
+bool frmMain::HayImagen() const {
+  return !programa_.imagen.picMain.IsEmpty();
+}
+
+const Picture& frmMain::Imagen() const {
+  return programa_.imagen.picMain;
+}
+
+void frmMain::MostrarImagen() {
+  marco_->Mostrar(Imagen());
+}
+
+}  // namespace pixmosa

@@ -1,0 +1,31 @@
+#include "app/frmPreview.h"
+
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/Named.h"
+
+namespace pixmosa {
+
+frmPreview::frmPreview(QWidget* parent) : QDialog(parent, Qt::Window) {
+  setObjectName("frmPreview");
+  setWindowTitle(QStringLiteral("Vista previa"));
+  txtAscii_ = named<AreaDeTexto>("txtAscii");
+  txtAscii_->setReadOnly(true);
+  txtAscii_->PonerColores(Qt::white, Qt::black);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(txtAscii_);
+  resize(screen()->availableSize() * 9 / 10);
+}
+
+void frmPreview::Mostrar(std::string_view text, const Font& font) {
+  txtAscii_->PonerFuente(font);
+  txtAscii_->PonerTexto(text);
+  show();
+  raise();
+  activateWindow();
+}
+
+}  // namespace pixmosa

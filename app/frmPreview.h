@@ -1,0 +1,27 @@
+// The preview: the produced text in a window of its own, large and read-only.
+#pragma once
+
+#include <string_view>
+
+#include <QDialog>
+
+#include "platform/Font.h"
+
+namespace pixmosa {
+
+class AreaDeTexto;
+
+class frmPreview final : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmPreview(QWidget* parent);
+
+  // Shows the window with a text of the 8-bit code page.
+  void Mostrar(std::string_view text, const Font& font);
+
+ private:
+  AreaDeTexto* txtAscii_;
+};
+
+}  // namespace pixmosa

@@ -1,0 +1,38 @@
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include "app/frmMain.h"
+#include "platform/ProgramFolder.h"
+#include "platform/qt/QtDialogs.h"
+#include "platform/qt/QtPictureCodec.h"
+#include "platform/qt/QtShell.h"
+#include "platform/qt/QtTextSurface.h"
+
+int main(int argc, char** argv) {
+  using namespace pixmosa;
+  QApplication app(argc, argv);
+  QApplication::setApplicationName("pixmosa");
+  QApplication::setApplicationDisplayName("Pixmosa");
+  QApplication::setApplicationVersion(PIXMOSA_VERSION);
+  // A quick stroke in the editor must keep every position that the pointer reported.
+  QApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+  // The system's own dialogs speak Spanish too.
+  QLocale::setDefault(QLocale(QLocale::Spanish));
+  QTranslator spanish;
+  if (spanish.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(&spanish);
+
+  QtTextSurface surface;
+  QtPictureCodec pictures;
+  QtDialogs dialogs;
+  QtShell shell;
+  Programa program{{surface, pictures, dialogs, shell}, ProgramFolder()};
+  frmMain window(program);
+  dialogs.SetOwner(&window);
+  window.show();
+  if (const QStringList files = QApplication::arguments().mid(1); !files.isEmpty())
+    window.AbrirImagen(files.first().toStdString());
+  return QApplication::exec();
+}

@@ -1,0 +1,92 @@
+#include "platform/qt/QtDialogs.h"
+
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "platform/qt/QtFont.h"
+#include "platform/qt/QtText.h"
+
+namespace pixmosa {
+namespace {
+
+// The part of a filter's description before its patterns in brackets.
+QString Description(const QString& text) {
+  const qsizetype bracket = text.indexOf(u" (");
+  return bracket < 0 ? text : text.left(bracket);
+}
+
+void Show(QWidget* owner, QMessageBox::Icon icon, const std::string& text, const std::string& title) {
+  QMessageBox box(icon, Q(title), Q(text), QMessageBox::Ok, owner);
+  box.setTextFormat(Qt::PlainText);
+  box.button(QMessageBox::Ok)->setText(QStringLiteral("Aceptar"));
+  box.exec();
+}
+
+}  // namespace
+
+QString QtFilterOf(const std::string& filter) {
+  const QStringList parts = Q(filter).split(u'|');
+  if (parts.size() < 2) return Q(filter).replace(u';', u' ');
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+    filters += Description(parts[i]) + " (" + QString(parts[i + 1]).replace(u';', u' ') + ")";
+  return filters.join(";;");
+}
+
+std::string QtDialogs::OpenFile(const std::string& title, const std::string& filter) {
+  return QFileDialog::getOpenFileName(owner_, Q(title), {}, QtFilterOf(filter)).toStdString();
+}
+
+std::string QtDialogs::SaveFile(const std::string& title, const std::string& filter,
+                                const std::string& defaultExtension) {
+  QFileDialog dialog(owner_, Q(title), {}, QtFilterOf(filter));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(Q(defaultExtension));
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0).toStdString() : std::string();
+}
+
+std::string QtDialogs::ChooseFolder(const std::string& title) {
+  return QFileDialog::getExistingDirectory(owner_, Q(title)).toStdString();
+}
+
+Colour QtDialogs::ChooseColour(Colour current) {
+  const ColourParts c = SplitColour(current);
+  const QColor chosen = QColorDialog::getColor(QColor(c.red, c.green, c.blue), owner_);
+  return chosen.isValid() ? Rgb(chosen.red(), chosen.green(), chosen.blue()) : kNoColour;
+}
+
+std::optional<FontChoice> QtDialogs::ChooseFont(const Font& current) {
+  QFont start(FamilyFor(current.name));
+  start.setPixelSize(PixelHeight(current));
+  bool accepted = false;
+  const QFont chosen = QFontDialog::getFont(&accepted, start, owner_);
+  if (!accepted) return std::nullopt;
+  // Dialogs speak in points of 1/72 inch at 96 dots, which are pixels x 0.75.
+  const int pixels = chosen.pixelSize() > 0 ? chosen.pixelSize() : RoundHalfEven(chosen.pointSizeF() / 0.75);
+  // The name that the stand-in stands for stays, so that leaving the dialog as it opened changes nothing.
+  const bool same = chosen.family() == start.family();
+  return FontChoice{same ? current.name : chosen.family().toStdString(), pixels};
+}
+
+bool QtDialogs::Ask(const std::string& text, const std::string& title) {
+  QMessageBox box(QMessageBox::Information, Q(title), Q(text), QMessageBox::Yes | QMessageBox::No, owner_);
+  box.setTextFormat(Qt::PlainText);
+  box.button(QMessageBox::Yes)->setText(QStringLiteral("&Sí"));
+  box.button(QMessageBox::No)->setText(QStringLiteral("&No"));
+  box.setDefaultButton(QMessageBox::Yes);
+  return box.exec() == QMessageBox::Yes;
+}
+
+void QtDialogs::Inform(const std::string& text, const std::string& title) {
+  Show(owner_, QMessageBox::Information, text, title);
+}
+
+void QtDialogs::Fail(const std::string& text, const std::string& title) {
+  Show(owner_, QMessageBox::Critical, text, title);
+}
+
+}  // namespace pixmosa

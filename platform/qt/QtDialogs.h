@@ -1,0 +1,33 @@
+// The desktop's dialogs, on a window of the program.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "platform/Dialogs.h"
+
+namespace pixmosa {
+
+class QtDialogs final : public Dialogs {
+ public:
+  // Dialogs open on `owner` from now on.
+  void SetOwner(QWidget* owner) { owner_ = owner; }
+
+  std::string OpenFile(const std::string& title, const std::string& filter) override;
+  std::string SaveFile(const std::string& title, const std::string& filter,
+                       const std::string& defaultExtension) override;
+  std::string ChooseFolder(const std::string& title) override;
+  Colour ChooseColour(Colour current) override;
+  std::optional<FontChoice> ChooseFont(const Font& current) override;
+  bool Ask(const std::string& text, const std::string& title) override;
+  void Inform(const std::string& text, const std::string& title) override;
+  void Fail(const std::string& text, const std::string& title) override;
+
+ private:
+  QPointer<QWidget> owner_;
+};
+
+// "Imagenes (*.bmp;*.gif)|*.bmp;*.gif" as "Imagenes (*.bmp *.gif)"; a pattern alone stays one.
+QString QtFilterOf(const std::string& filter);
+
+}  // namespace pixmosa

@@ -1,0 +1,15 @@
+// The desktop's opener, clipboard and character map.
+#pragma once
+
+#include "platform/Shell.h"
+
+namespace pixmosa {
+
+class QtShell final : public Shell {
+ public:
+  bool Open(const std::string& fileOrLink) override;
+  bool StartCharacterMap() override;
+  void CopyText(std::string_view text) override;
+};
+
+}  // namespace pixmosa
