@@ -37,7 +37,7 @@ function(pixmosa_test name)
   target_compile_definitions(${name} PRIVATE PIXMOSA_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES LABELS ${ARG_LABEL} TIMEOUT 300
-                       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+                       ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QT_LOGGING_RULES=qt.qpa.*=false")
 endfunction()
 
 # pixmosa_fuzzer(NAME SOURCE a.cpp CORPUS dir LINKS lib ...): a libFuzzer program; its test is a short run.

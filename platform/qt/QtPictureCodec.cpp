@@ -41,7 +41,6 @@ void CheckSize(const std::string& name, QSize size) {
 
 // A file of several pictures (an icon) gives its largest one.
 void GoToLargest(QImageReader& reader) {
-  if (reader.format() != "ico") return;
   int best = 0;
   qint64 area = -1;
   for (int i = 0; i < reader.imageCount() && reader.jumpToImage(i); ++i) {
@@ -56,9 +55,9 @@ void GoToLargest(QImageReader& reader) {
 }
 
 // The general readers show what they have of a file that was cut short; a user wants to know instead.
-bool CutShort(const std::string& bytes, const QByteArray& format) {
+bool CutShort(const std::string& bytes) {
   if (IsJpeg(bytes)) return !JpegReachesItsEnd(bytes);
-  if (format == "bmp" && bytes.size() >= 54) {
+  if (bytes.starts_with("BM") && bytes.size() >= 54) {
     const auto word = [&](std::size_t at, int n) {
       std::uint32_t v = 0;
       for (int i = n - 1; i >= 0; --i)
@@ -91,10 +90,9 @@ Picture QtPictureCodec::ReadBytes(const std::string& bytes, const std::string& n
   reader.setDecideFormatFromContent(true);
   reader.setAutoTransform(true);
   if (!reader.canRead()) Fail(name, "no es una imagen de un formato conocido");
-  const QByteArray format = reader.format();
   CheckSize(name, reader.size());
-  if (CutShort(bytes, format)) Fail(name, "el archivo está incompleto");
-  GoToLargest(reader);
+  if (CutShort(bytes)) Fail(name, "el archivo está incompleto");
+  if (bytes.starts_with(std::string_view("\0\0\1\0", 4))) GoToLargest(reader);
   QImage image;
   if (!reader.read(&image)) Fail(name, "el archivo está dañado o incompleto");
   CheckSize(name, image.size());

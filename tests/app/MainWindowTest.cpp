@@ -1,0 +1,288 @@
+#include <QCheckBox>
+#include <QDialog>
+#include <QDropEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
+
+#include "app/MarcoDeImagen.h"
+#include "app/frmPreview.h"
+#include "tests/support/DrawnPicture.h"
+#include "tests/support/MainWindow.h"
+
+using namespace pixmosa;
+using test::Find;
+using test::Grays;
+using Log = std::vector<std::string>;
+
+namespace {
+
+const std::string kOpen =
+    "OpenFile|Seleccione una imagen...|Imagenes "
+    "(*.bmp;*.gif;*.jpg;*.ico;*.wmf)|*.bmp;*.gif;*.jpg;*.ico;*.wmf";
+const std::string kRegenerate =
+    "Ask||Se ha cambiado la fuente. Para un resultado óptimo es convenientecrear de nuevo el AsciiArt\r\n"
+    "¿Desea generarlo ahora?";
+
+QString LabelText(const QObject& root, const char* name) {
+  return Find<QLabel>(root, name).text();
+}
+
+}  // namespace
+
+class MainWindowTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void StartsWithItsDefaults();
+  void PlayWithoutPictureAsksFirst();
+  void PlaysALoadedPicture();
+  void PreviewFollowsTheCheckBox();
+  void FailedLoadsLeaveEverything_data();
+  void FailedLoadsLeaveEverything();
+  void DroppedPictureLoads();
+  void SavesTheEditedTextAndCopiesTheGenerated();
+  void SaveSaysWhatIsWrong();
+  void EveryCodeGoesThroughTheTextArea();
+  void FontDialogMeasuresAgainAndPrompts();
+  void FixedFontListAppliesTheChosenRow();
+  void ScrollBarsMoveThePictureInSteps();
+  void OtherWindowsOpen();
+};
+
+void MainWindowTest::StartsWithItsDefaults() {
+  test::MainWindow m;
+  QCOMPARE(LabelText(m.window, "Fuente"), "Fuente: Lucida Console");
+  QCOMPARE(LabelText(m.window, "Tamaño"), "Tamaño: 6");
+  QCOMPARE(LabelText(m.window, "Modo"), "MODO ASCIIART");
+  QCOMPARE(LabelText(m.window, "lblModo"), "AsciiArt -> Escala de grises");
+  const BasAscii& ascii = m.program.basAscii;
+  QCOMPARE(ascii.AsciiColumns, m.surface.ScreenWidth() / ascii.CellWidth);
+  QVERIFY(ascii.BrightnessMin < ascii.BrightnessMax);
+}
+
+void MainWindowTest::PlayWithoutPictureAsksFirst() {
+  test::MainWindow m;
+  m.dialogs.answers = {false, true};
+  m.Trigger("Play");
+  QCOMPARE(m.dialogs.log, Log{"Ask||Antes debe cargar una imagen\r\n¿Desea cargarla ahora?"});
+  m.Trigger("Play");
+  QCOMPARE(m.dialogs.log.back(), kOpen);
+  QVERIFY(!m.window.HayImagen());
+}
+
+void MainWindowTest::PlaysALoadedPicture() {
+  test::MainWindow m;
+  m.Load(Picture::Filled(40, 30, kWhite));
+  QVERIFY(m.window.HayImagen());
+  m.Trigger("Play");
+  const BasAscii& ascii = m.program.basAscii;
+  const auto columns = static_cast<std::size_t>(ascii.AsciiColumns);
+  QCOMPARE(m.Text().substr(0, columns + 2), std::string(columns, ' ') + "\r\n");
+  QCOMPARE(m.Text(), ascii.ProducedText);
+}
+
+void MainWindowTest::PreviewFollowsTheCheckBox() {
+  test::MainWindow m;
+  m.Trigger("VistaPrevia");
+  QVERIFY(!m.window.findChild<frmPreview*>());
+  m.Load(Grays({{0, 255}}));
+  m.Trigger("Play");
+  QVERIFY(!m.window.findChild<frmPreview*>());
+  Find<QCheckBox>(m.window, "chkAsciiPrev").click();
+  m.Trigger("Play");
+  auto& preview = Find<frmPreview>(m.window, "frmPreview");
+  QVERIFY(preview.isVisible());
+  QCOMPARE(Find<AreaDeTexto>(preview, "txtAscii").Texto(), m.Text());
+}
+
+void MainWindowTest::FailedLoadsLeaveEverything_data() {
+  QTest::addColumn<QByteArray>("bytes");
+  QTest::newRow("empty") << QByteArray();
+  QTest::newRow("not a picture") << QByteArray("hola, esto no es una imagen");
+  QTest::newRow("cut BMP") << QByteArray::fromHex(
+      "424d360c0000000000003600000028000000200000002000000001001800000000000000000000000000000000000000000000"
+      "0000000102");
+  QTest::newRow("absurdly large BMP") << QByteArray::fromHex(
+      "424d3600000000000000360000002800000000000f4200000f4201001800000000000000000000000000000000000000000000"
+      "000000");
+}
+
+void MainWindowTest::FailedLoadsLeaveEverything() {
+  QFETCH(QByteArray, bytes);
+  test::MainWindow m;
+  m.Load(Grays({{0, 255}, {255, 0}}));
+  m.Trigger("Play");
+  const std::string text = m.Text();
+  const ImagenDeTrabajo before = m.program.imagen;
+  m.dialogs.log.clear();
+  const std::string bad = m.folder.File("mala.bmp");
+  EscribirArchivo(bad, bytes.toStdString());
+  for (const std::string& path : {bad, m.folder.Path().string(), m.folder.File("no-existe.gif")}) {
+    m.dialogs.paths = {path};
+    m.Trigger("CargarImagen");
+  }
+  const std::string failed = "Fail|Error en la carga|No se ha podido cargar la imagen";
+  QCOMPARE(m.dialogs.log, (Log{kOpen, failed, kOpen, failed, kOpen, failed}));
+  QVERIFY(m.program.imagen.picMain.SharesBlockWith(before.picMain));
+  QVERIFY(m.program.imagen.picUndo.SharesBlockWith(before.picUndo));
+  QCOMPARE(m.Text(), text);
+  QVERIFY(m.window.statusBar()->currentMessage().contains("no-existe.gif"));
+}
+
+void MainWindowTest::DroppedPictureLoads() {
+  test::MainWindow m;
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(QString::fromStdString(m.Save(Grays({{1, 2, 3}}))))});
+  QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&m.window, &enter);
+  QVERIFY(enter.isAccepted());
+  QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&m.window, &drop);
+  QCOMPARE(m.program.imagen.picMain.Width(), 3);
+}
+
+void MainWindowTest::SavesTheEditedTextAndCopiesTheGenerated() {
+  test::MainWindow m;
+  const std::string file = m.folder.File("dibujo.txt");
+  m.dialogs.paths = {file};
+  m.Trigger("Guardar");
+  m.Trigger("mnuClipboard");
+  QVERIFY2(m.dialogs.log.empty(), "an empty text is neither saved nor copied");
+
+  m.dialogs.paths.clear();
+  m.Load(Grays({{0, 255}}));
+  m.Trigger("Play");
+  QTest::keyClicks(&m.window.areaDeTexto(), "hola");
+  QVERIFY(m.Text().starts_with("hola"));
+  m.dialogs.paths = {file};
+  m.dialogs.log.clear();
+  m.Trigger("Guardar");
+  m.Trigger("mnuClipboard");
+  QCOMPARE(m.dialogs.log,
+           (Log{"SaveFile|Guardar el AsciiArt...|*.txt|txt",
+                "Inform||Dibujo copiado en el portapapeles.\r\nUsar fuente: Lucida Console. Tamaño: 6"}));
+  QCOMPARE(LeerArchivo(file),
+           "Ascii Art generado por Pixmosa. Fuente: Lucida Console Tama\xF1o: 6\r\n" + m.Text() + "\r\n");
+  QCOMPARE(m.shell.clipboard, m.program.basAscii.ProducedText);
+  QVERIFY(!m.shell.clipboard.starts_with("hola"));
+}
+
+void MainWindowTest::SaveSaysWhatIsWrong() {
+  test::MainWindow m;
+  m.window.areaDeTexto().PonerTexto("x");
+  m.dialogs.paths = {"/dev/full", ""};
+  m.Trigger("Guardar");
+  QCOMPARE(m.dialogs.log.back(),
+           "Fail|Error al guardar|No se ha podido escribir \"/dev/full\": no queda espacio en el disco.");
+  m.Trigger("Guardar");
+  QCOMPARE(m.dialogs.log.back(), "SaveFile|Guardar el AsciiArt...|*.txt|txt");
+}
+
+void MainWindowTest::EveryCodeGoesThroughTheTextArea() {
+  std::string all = "\xAD\xA0 ";
+  for (int c = 1; c < 256; ++c) all += static_cast<char>(c);
+  all += "\r\n\r\n\r\r\n\n\x1F\x1F\r\n";
+  AreaDeTexto area;
+  area.PonerTexto(all);
+  QCOMPARE(area.Texto(), all);
+  QTest::keyClick(&area, Qt::Key_Return, Qt::ShiftModifier);
+  QCOMPARE(area.Texto(), "\r\n" + all);
+  area.PonerTexto("");
+  QVERIFY(area.EstaVacia());
+  area.insertPlainText(QString::fromUtf8("a≠😀ñ"));
+  QCOMPARE(area.Texto(), "a??\xF1");
+}
+
+void MainWindowTest::FontDialogMeasuresAgainAndPrompts() {
+  test::MainWindow m;
+  m.Trigger("Fuentes");
+  QCOMPARE(m.dialogs.log, Log{"ChooseFont|Lucida Console|6"});
+  const int narrow = m.program.basAscii.CellWidth, columns = m.program.basAscii.AsciiColumns;
+
+  m.dialogs.fonts = {{"DejaVu Sans Mono", -16}, {"DejaVu Sans Mono", -13}, {"DejaVu Sans Mono", 12}};
+  m.Trigger("mnuFontsChange");
+  QCOMPARE(LabelText(m.window, "Fuente"), "Fuente: DejaVu Sans Mono");
+  QCOMPARE(LabelText(m.window, "Tamaño"), "Tamaño: 12");
+  QVERIFY(m.program.basAscii.CellWidth > narrow);
+  QVERIFY(m.program.basAscii.AsciiColumns < columns);
+  QCOMPARE(m.dialogs.log.size(), 2U);  // no text, no prompt
+
+  m.Load(Grays({{0, 255}}));
+  m.Trigger("Play");
+  const std::string text = m.Text();
+  m.dialogs.answers = {true};
+  m.Trigger("mnuFontsChange");
+  QCOMPARE(m.program.ajustes.font.points, 9);
+  QCOMPARE(m.dialogs.log.back(), kRegenerate);
+  QVERIFY(m.Text() != text);
+
+  m.dialogs.log.clear();
+  m.Trigger("mnuFontsChange");  // 12 pixels are 9 points again: the same font, no prompt
+  QCOMPARE(m.dialogs.log, Log{"ChooseFont|DejaVu Sans Mono|9"});
+}
+
+void MainWindowTest::FixedFontListAppliesTheChosenRow() {
+  test::MainWindow m;
+  const auto names = m.surface.ListFixedFonts();
+  QTimer::singleShot(0, [&] {
+    auto* list = QApplication::activeModalWidget();
+    QCOMPARE(LabelText(*list, "lblFontCount"), QString("Fuentes encontradas: %1").arg(names.size()));
+    auto& rows = Find<QListWidget>(*list, "lvwFuentes");
+    QCOMPARE(rows.count(), static_cast<int>(names.size()));
+    rows.setCurrentItem(rows.findItems("DejaVu Sans Mono", Qt::MatchExactly).value(0));
+    list->close();
+  });
+  m.Trigger("mnuFixedFonts");
+  QCOMPARE(m.program.ajustes.font, (Font{"DejaVu Sans Mono", 6}));
+  QCOMPARE(LabelText(m.window, "Fuente"), "Fuente: DejaVu Sans Mono");
+}
+
+void MainWindowTest::ScrollBarsMoveThePictureInSteps() {
+  struct Row {
+    int hidden, value, maximum, step, left;
+  };
+  for (const Row& r : {Row{680, 340, 680, 6, -336},
+                       {681, 1, 2, 6, -336},
+                       {680, 680, 680, 6, -678},
+                       {5, 5, 5, 6, 0},
+                       {250, 30, 100, 12, -72},
+                       {0, 0, 0, 6, 0},
+                       {-50, 1, 1, 6, 0}})
+    QCOMPARE(MarcoDeImagen::Desplazamiento(r.hidden, r.value, r.maximum, r.step), r.left);
+
+  test::MainWindow m;
+  m.Load(Picture::Filled(1500, 1400, kWhite));
+  auto& bar = Find<QScrollBar>(m.window, "HScroll1");
+  bar.setValue(bar.maximum());
+  const int hidden = 1500 - Find<QWidget>(m.window, "picMarco").width();
+  QCOMPARE(Find<QWidget>(m.window, "picMain").x(), -(hidden / 6 * 6));
+  m.Load(Picture::Filled(20, 20, kWhite));
+  QCOMPARE(Find<QWidget>(m.window, "picMain").pos(), QPoint(0, 0));
+  QVERIFY(!bar.isEnabled());
+}
+
+void MainWindowTest::OtherWindowsOpen() {
+  test::MainWindow m;
+  m.shell.found = false;
+  m.Trigger("mnuCharMap");
+  QCOMPARE(m.dialogs.log.back(),
+           "Fail|Mapa de caracteres|No se ha encontrado el mapa de caracteres del sistema.");
+  m.Load(Picture::Filled(500, 400, kWhite));
+  m.Trigger("mnuImagePreview");
+  QCOMPARE(Find<QWidget>(Find<QDialog>(m.window, "frmImagePreview"), "picMain").size(), QSize(500, 400));
+  QTimer::singleShot(0, [&] {
+    auto* about = QApplication::activeModalWidget();
+    emit Find<QLabel>(*about, "lblWeb").linkActivated("https://pixmosa.example");
+    about->close();
+  });
+  m.Trigger("mnuAcercaDe");
+  QCOMPARE(m.shell.log.back(), "Open|https://pixmosa.example");
+}
+
+QTEST_MAIN(MainWindowTest)
+#include "MainWindowTest.moc"

@@ -1,0 +1,105 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+
+#include "platform/CodePage.h"
+#include "platform/qt/QtPicture.h"
+#include "tests/support/DrawnPicture.h"
+#include "tests/support/RunProgram.h"
+
+using namespace pixmosa;
+using test::Cli;
+using test::Resultado;
+
+class OrdenAsciiTest : public testing::Test {
+ protected:
+  test::TestFolder folder;
+  std::string picture = folder.File("cuadro.png");
+  void SetUp() override { Save(picture, Picture::Filled(60, 60, kWhite)); }
+
+  static void Save(const std::string& file, const Picture& p) {
+    ImageOf(p).save(QString::fromStdString(file));
+  }
+};
+
+TEST_F(OrdenAsciiTest, TextGoesToStandardOutputWithNothingAdded) {
+  const Resultado r = Cli({"ascii", picture, "--columnas", "10"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.err, "");
+  EXPECT_TRUE(r.out.starts_with("          \n          \n"));
+  EXPECT_EQ(r.out.find('\r'), std::string::npos);
+  EXPECT_TRUE(r.out.ends_with("\n          "));
+  EXPECT_EQ(Cli({"ascii", picture}).out.find('\n'), 80U) << "80 columns without a terminal";
+}
+
+TEST_F(OrdenAsciiTest, FileHoldsWhatTheWindowWouldSave) {
+  const std::string file = folder.File("dibujo.txt");
+  const Resultado shown = Cli({"ascii", picture, "--columnas=7", "--paleta", "3"});
+  EXPECT_EQ(Cli({"ascii", "-o", file, picture, "--columnas=7", "--paleta", "3"}).out, "");
+  std::string text = LeerArchivo(file);
+  const std::string head = "Ascii Art generado por Pixmosa. Fuente: Lucida Console Tama\xF1o: 6\r\n";
+  ASSERT_TRUE(text.starts_with(head)) << text;
+  ASSERT_TRUE(text.ends_with("\r\n"));
+  text = text.substr(head.size(), text.size() - head.size() - 2);
+  EXPECT_EQ(text.size(),
+            shown.out.size() + static_cast<std::size_t>(std::count(text.begin(), text.end(), '\r')));
+  EXPECT_EQ(text.find_first_not_of("0123456789\r\n"), std::string::npos);
+}
+
+TEST_F(OrdenAsciiTest, OptionsReachTheConversion) {
+  const std::vector<std::string> base = {"ascii", picture, "--columnas", "5"};
+  const auto with = [&](std::vector<std::string> more) {
+    more.insert(more.begin(), base.begin(), base.end());
+    const Resultado r = Cli(more);
+    EXPECT_EQ(r.err, "");
+    return r.out;
+  };
+  Save(picture, Picture::Filled(50, 90, Rgb(60, 60, 60)));
+  const std::string plain = with({});
+  EXPECT_NE(with({"--negativo"}), plain);
+  EXPECT_EQ(with({"--luminosidad", "100"}).substr(0, 5), "     ");
+  EXPECT_EQ(with({"--luminosidad=-100"}).find_first_not_of('\n'), std::string::npos)
+      << "dark rows are dropped";
+  EXPECT_NE(with({"--puntos", "40"}), plain);
+  EXPECT_EQ(with({"--fuente", "DejaVu Sans Mono"}), plain) << "the font that stands for the start-up font";
+}
+
+TEST_F(OrdenAsciiTest, SeveralPicturesGoToAFolder) {
+  const std::string second = folder.File("otro.bmp"), out = folder.File("salida/textos");
+  Save(second, Picture::Filled(10, 10, kWhite));
+  const Resultado r =
+      Cli({"ascii", picture, folder.File("nada.png"), second, "--carpeta", out, "--columnas", "4"});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.err, "pixmosa-cli: No se ha podido leer \"" + folder.File("nada.png") + "\": no existe.\n");
+  EXPECT_TRUE(std::filesystem::exists(out + "/cuadro.txt"));
+  EXPECT_TRUE(std::filesystem::exists(out + "/otro.txt"));
+  EXPECT_EQ(Cli({"ascii", picture, second}).status, 2);
+  EXPECT_EQ(Cli({"ascii", picture, picture, "--carpeta", out}).status, 2);
+}
+
+TEST_F(OrdenAsciiTest, StandardInputAndFailures) {
+  EXPECT_EQ(Cli({"ascii", "-", "--columnas", "10"}, LeerArchivo(picture)).out,
+            Cli({"ascii", picture, "--columnas", "10"}).out);
+  struct Row {
+    std::vector<std::string> words;
+    int status;
+    std::string err;
+  };
+  const std::string name = folder.Path().string();
+  for (const Row& r :
+       {Row{{"ascii"}, 2, "falta la imagen."},
+        {{"ascii", name}, 1, "No se ha podido leer \"" + name + "\": es una carpeta."},
+        {{"ascii", "-"}, 1, "No se ha podido leer la imagen \"-\": el archivo está vacío."},
+        {{"ascii", picture, "--columnas=0"},
+         2,
+         "la opción --columnas espera un número entero de 1 a 20000, no \"0\"."},
+        {{"ascii", picture, "--fuente=Nada"}, 1, "No hay ninguna fuente instalada con el nombre \"Nada\"."},
+        {{"ascii", picture, "-o", "/dev/full"},
+         1,
+         "No se ha podido escribir \"/dev/full\": no queda espacio en el disco."}}) {
+    const Resultado run = Cli(r.words);
+    EXPECT_EQ(run.status, r.status) << r.err;
+    EXPECT_EQ(run.err, "pixmosa-cli: " + r.err + "\n");
+    EXPECT_EQ(run.out, "");
+  }
+}

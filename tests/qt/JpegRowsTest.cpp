@@ -1,0 +1,108 @@
+// The quick reader against the platform's: the same pixels for every subsampling, size and kind it takes.
+#include <gtest/gtest.h>
+#include <jpeglib.h>
+
+#include <QBuffer>
+#include <QImage>
+#include <QImageReader>
+
+#include "platform/Random.h"
+#include "platform/Stretch.h"
+#include "platform/jpeg/JpegRows.h"
+#include "platform/qt/QtPicture.h"
+#include "tests/support/GuiApplication.h"
+
+using namespace pixmosa;
+
+namespace {
+
+struct Kind {
+  int horizontal, vertical;  // sampling factors of the first component
+  bool gray, progressive;
+};
+
+// A noisy picture with soft areas as a JPEG of this kind.
+std::string Compress(int width, int height, const Kind& kind) {
+  jpeg_compress_struct c{};
+  jpeg_error_mgr errors{};
+  c.err = jpeg_std_error(&errors);
+  jpeg_create_compress(&c);
+  unsigned char* out = nullptr;
+  unsigned long size = 0;
+  jpeg_mem_dest(&c, &out, &size);
+  c.image_width = static_cast<JDIMENSION>(width);
+  c.image_height = static_cast<JDIMENSION>(height);
+  c.input_components = kind.gray ? 1 : 3;
+  c.in_color_space = kind.gray ? JCS_GRAYSCALE : JCS_RGB;
+  jpeg_set_defaults(&c);
+  jpeg_set_quality(&c, 85, TRUE);
+  c.comp_info[0].h_samp_factor = kind.horizontal;
+  c.comp_info[0].v_samp_factor = kind.vertical;
+  if (kind.progressive) jpeg_simple_progression(&c);
+  jpeg_start_compress(&c, TRUE);
+  Random random(7);
+  std::vector<unsigned char> row(static_cast<std::size_t>(width * c.input_components));
+  for (int y = 0; y < height; ++y) {
+    for (std::size_t x = 0; x < row.size(); ++x)
+      row[x] =
+          static_cast<unsigned char>((x * 3 + static_cast<std::size_t>(y) * 2 + random.Bits() % 90) % 256);
+    JSAMPROW line = row.data();
+    jpeg_write_scanlines(&c, &line, 1);
+  }
+  jpeg_finish_compress(&c);
+  std::string bytes(reinterpret_cast<char*>(out), size);
+  jpeg_destroy_compress(&c);
+  std::free(out);
+  return bytes;
+}
+
+Picture Whole(const std::string& bytes) {
+  test::NeedGuiApplication();
+  return PictureOf(QImage::fromData(QByteArray::fromStdString(bytes)));
+}
+
+}  // namespace
+
+TEST(JpegRows, SamePixelsAsDecodingTheWhole) {
+  for (const Kind& kind : {Kind{1, 1, false, false},
+                           {2, 1, false, false},
+                           {2, 2, false, false},
+                           {1, 2, false, false},
+                           {2, 2, false, true},
+                           {1, 1, true, false}}) {
+    for (const Extent source : {Extent{1, 1}, {17, 33}, {200, 311}, {640, 97}}) {
+      const std::string bytes = Compress(source.width, source.height, kind);
+      const Picture whole = Whole(bytes);
+      for (const Extent wanted :
+           {Extent{1, 1}, {7, 5}, {40, 31}, source, {source.width + 3, 2 * source.height}}) {
+        const auto quick = ReadJpegStretched(bytes, [&](Extent size) {
+          EXPECT_EQ(size, source);
+          return wanted;
+        });
+        ASSERT_TRUE(quick) << kind.horizontal << kind.vertical << kind.gray << kind.progressive;
+        const Picture slow = Stretch(whole, wanted);
+        ASSERT_TRUE(std::equal(slow.Pixels(), slow.Pixels() + slow.PixelCount(), quick->Pixels()))
+            << kind.horizontal << kind.vertical << kind.gray << kind.progressive << " " << source.width << "x"
+            << source.height << " to " << wanted.width << "x" << wanted.height;
+      }
+    }
+  }
+}
+
+TEST(JpegRows, LeavesOthersToTheGeneralReader) {
+  const auto one = [](Extent) { return Extent{1, 1}; };
+  const std::string bytes = Compress(64, 64, {2, 2, false, false});
+  EXPECT_TRUE(JpegReachesItsEnd(bytes));
+  EXPECT_FALSE(ReadJpegStretched("GIF89a", one));
+  EXPECT_FALSE(ReadJpegStretched(bytes.substr(0, 20), one));
+  EXPECT_FALSE(JpegReachesItsEnd(bytes.substr(0, bytes.size() - 2)));
+  EXPECT_FALSE(ReadJpegStretched(bytes.substr(0, bytes.size() / 2), one));
+  EXPECT_FALSE(ReadJpegStretched(bytes, [](Extent) { return Extent{}; }));
+  // The same photograph with an EXIF block that turns it.
+  const std::string exif(
+      "\xFF\xE1\0\x22"
+      "Exif\0\0"
+      "MM\0\x2A\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0",
+      36);
+  EXPECT_FALSE(ReadJpegStretched(bytes.substr(0, 2) + exif + bytes.substr(2), one));
+}

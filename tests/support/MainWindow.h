@@ -1,0 +1,67 @@
+// The real main window over recording dialogs and desktop, driven by control names.
+#pragma once
+
+#include <iostream>
+
+#include <QAction>
+#include <QApplication>
+#include <QTest>
+
+#include "app/frmMain.h"
+#include "platform/AtomicFile.h"
+#include "platform/ProgramFolder.h"
+#include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/QtPicture.h"
+#include "platform/qt/QtPictureCodec.h"
+#include "platform/qt/QtTextSurface.h"
+#include "tests/support/RecordingDialogs.h"
+#include "tests/support/TestFolder.h"
+
+namespace pixmosa::test {
+
+// The control of this name and kind below `root`; without one, fails loudly and lists the names there are.
+template <typename Control>
+Control& Find(const QObject& root, const char* name) {
+  auto* found = root.findChild<Control*>(QString::fromUtf8(name));
+  if (found) return *found;
+  std::cerr << "there is no " << Control::staticMetaObject.className() << " named \"" << name << "\" among:";
+  for (const QObject* child : root.findChildren<QObject*>())
+    if (!child->objectName().isEmpty()) std::cerr << ' ' << child->objectName().toStdString();
+  std::cerr << std::endl;
+  std::abort();
+}
+
+struct MainWindow {
+  TestFolder folder;
+  QtTextSurface surface;
+  QtPictureCodec pictures;
+  RecordingDialogs dialogs;
+  RecordingShell shell;
+  Programa program{{surface, pictures, dialogs, shell}, ProgramFolder()};
+  frmMain window{program};
+
+  MainWindow() {
+    window.show();
+    [[maybe_unused]] const bool shown = QTest::qWaitForWindowExposed(&window);
+  }
+
+  // Chooses a menu entry or presses a toolbar button.
+  void Trigger(const char* action) { Find<QAction>(window, action).trigger(); }
+
+  // Writes a picture as a file of the test's folder; its path.
+  std::string Save(const Picture& picture, const std::string& name = "imagen.png") {
+    const std::string file = folder.File(name);
+    EscribirArchivo(file, pictures.Encode(picture, name.substr(name.rfind('.') + 1)));
+    return file;
+  }
+
+  // Loads a picture as the user does, by the menu and the dialog.
+  void Load(const Picture& picture, const std::string& name = "imagen.png") {
+    dialogs.paths.push_back(Save(picture, name));
+    Trigger("mnuLoadImage");
+  }
+
+  std::string Text() { return window.areaDeTexto().Texto(); }
+};
+
+}  // namespace pixmosa::test
