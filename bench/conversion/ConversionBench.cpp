@@ -1,0 +1,57 @@
+// A generation from a loaded 12-megapixel picture, and the character tables, beside a copy of the picture's bytes.
+#include <benchmark/benchmark.h>
+
+#include <cstring>
+#include <vector>
+
+#include "conversion/basAscii.h"
+#include "platform/Random.h"
+#include "platform/qt/QtTextSurface.h"
+#include "tests/support/GuiApplication.h"
+
+using namespace pixmosa;
+
+namespace {
+
+// 4000 x 3000 pixels of soft noise.
+const Picture& Photograph() {
+  static const Picture photograph = [] {
+    Picture p(4000, 3000);
+    Random random(1);
+    std::uint32_t* to = p.Writable();
+    for (std::size_t i = 0; i < p.PixelCount(); ++i)
+      to[i] = 0xFF000000U | (static_cast<std::uint32_t>(i % 4000 / 16) * 0x10101U + (random.Bits() & 0x0F0F0F));
+    return p;
+  }();
+  return photograph;
+}
+
+void Memcpy(benchmark::State& state) {
+  const Picture& p = Photograph();
+  std::vector<std::uint32_t> copy(p.PixelCount());
+  for (auto _ : state) {
+    std::memcpy(copy.data(), p.Pixels(), p.PixelCount() * 4);
+    benchmark::ClobberMemory();
+  }
+}
+BENCHMARK(Memcpy)->Unit(benchmark::kMillisecond);
+
+void CharacterTables(benchmark::State& state) {
+  test::NeedGuiApplication();
+  QtTextSurface surface;
+  BasAscii ascii;
+  for (auto _ : state) RebuildCharacterTables(ascii, {}, surface);
+}
+BENCHMARK(CharacterTables)->Unit(benchmark::kMillisecond);
+
+void Generation(benchmark::State& state) {
+  test::NeedGuiApplication();
+  QtTextSurface surface;
+  BasAscii ascii;
+  RebuildCharacterTables(ascii, {}, surface);
+  ascii.AsciiColumns = static_cast<int>(state.range(0));
+  for (auto _ : state) GenerateAscii(ascii, {}, Photograph(), static_cast<int>(state.range(1)));
+}
+BENCHMARK(Generation)->ArgNames({"columns", "method"})->Args({250, 0})->Args({1000, 0})->Unit(benchmark::kMillisecond);
+
+}  // namespace
