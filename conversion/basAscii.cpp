@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "conversion/ConvertAntiAlias.h"
+#include "conversion/ConvertEdges.h"
 #include "platform/Stretch.h"
 
 namespace pixmosa {
@@ -93,6 +95,12 @@ bool ConvertResized(BasAscii& ascii, const AsciiSettings& settings, const Pictur
   switch (method) {
     case kGrayscale:
       ascii.ProducedText = ConvertGrayscale(ascii, settings.luminosity, resized);
+      return true;
+    case kEdges:
+      ascii.ProducedText = ConvertEdges(resized, settings.relleno);
+      return true;
+    case kAntiAlias:
+      ascii.ProducedText = ConvertAntiAlias(resized, ascii.Palette3x2);
       return true;
     default:
       return false;

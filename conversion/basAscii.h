@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "conversion/Palette3x2.h"
 #include "platform/Picture.h"
 #include "platform/Rounding.h"
 #include "platform/TextSurface.h"
@@ -45,6 +46,7 @@ struct BasAscii {
   float PaletteFirst = 32, PaletteLast = 255;
   std::int32_t AsciiColumns = 250;
   std::int32_t CellWidth = 1, CellHeight = 1;  // pixels of "A" in the chosen font
+  pixmosa::Palette3x2 Palette3x2;              // loaded once at start-up
   std::string ProducedText;                    // 8-bit code page, rows separated by CR LF
 };
 

@@ -86,4 +86,16 @@ std::string BytesOfUtf8(std::string_view utf8) {
   return bytes;
 }
 
+std::string LowerCase(std::string_view bytes) {
+  std::string lower(bytes);
+  for (char& c : lower) {
+    const auto b = static_cast<unsigned char>(c);
+    const bool plain = b >= 'A' && b <= 'Z', accented = b >= 0xC0 && b <= 0xDE && b != 0xD7;
+    if (plain || accented) c = static_cast<char>(b + 0x20);
+    if (b == 0x8A || b == 0x8C || b == 0x8E) c = static_cast<char>(b + 0x10);
+    if (b == 0x9F) c = static_cast<char>(0xFF);
+  }
+  return lower;
+}
+
 }  // namespace pixmosa

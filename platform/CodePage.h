@@ -18,6 +18,9 @@ std::string Utf8OfBytes(std::string_view bytes);
 // Characters that the page lacks, and malformed sequences, become "?".
 std::string BytesOfUtf8(std::string_view utf8);
 
+// The text with its letters in lower case, accented ones too.
+std::string LowerCase(std::string_view bytes);
+
 // Appends one character in UTF-8.
 void AppendUtf8(std::string& to, char32_t c);
 
