@@ -2,7 +2,8 @@
 
 #include <QIcon>
 
-// The packaged icons are linked in from a library; this makes the linker keep them. The macro wants no namespace.
+// The packaged icons are linked in from a library; this makes the linker keep them. The macro wants no
+// namespace.
 static void AbrirIconos() {
   Q_INIT_RESOURCE(icons);
 }

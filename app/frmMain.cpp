@@ -16,6 +16,7 @@
 #include "app/MarcoDeImagen.h"
 #include "app/Menus.h"
 #include "app/Modos.h"
+#include "app/frmOpcAlgoritmo.h"
 #include "conversion/TextoGuardado.h"
 #include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Named.h"
@@ -46,6 +47,9 @@ const std::vector<Menu>& Menus() {
         {{"mnuGuardar", "&Guardar el AsciiArt...", "document-save", "Ctrl+S",
           "Guarda el texto en un archivo"},
          &frmMain::Guardar},
+        {{"mnuGrabarIni", "Grabar la con&figuración", "document-properties", nullptr,
+          "Escribe las opciones y la fuente en KTV.ini"},
+         &frmMain::GrabarIni},
         kSeparador,
         {{"mnuSalir", "&Salir", "application-exit", "Ctrl+Q", "Cierra el programa"}, nullptr}}},
       {"mnuAsciiArt",
@@ -136,6 +140,7 @@ void frmMain::CrearBarras() {
     connect(button, &QAction::triggered, entry, &QAction::trigger);
   }
   addToolBar(bar);
+  CrearSelectorDeModo();
 }
 
 void frmMain::CrearCentro() {
@@ -144,15 +149,15 @@ void frmMain::CrearCentro() {
   auto* column = new QVBoxLayout(left);
   column->setContentsMargins(6, 6, 3, 6);
   column->addWidget(marco_, 1);
+  PicAlgoritmos_ = named<QWidget>("PicAlgoritmos");
+  column->addWidget(PicAlgoritmos_);
 
-  lblModo_ = named<QLabel>("lblModo");
   chkAsciiPrev_ = named<QCheckBox>("chkAsciiPrev", QStringLiteral("Vista previa al generar"));
   chkAsciiPrev_->setToolTip(QStringLiteral("Abre la vista previa después de cada generación"));
   txtAscii_ = named<AreaDeTexto>("txtAscii");
   txtAscii_->setPlaceholderText(
       QStringLiteral("Aquí aparecerá el dibujo: cargue una imagen y pulse Generar."));
   auto* head = new QHBoxLayout;
-  head->addWidget(lblModo_);
   head->addStretch(1);
   head->addWidget(chkAsciiPrev_);
   auto* right = named<QWidget>("panelDerecho");
@@ -191,12 +196,15 @@ void frmMain::CrearBarraDeEstado() {
 }
 
 void frmMain::Arrancar() {
+  lblModo_->setText(QString::fromUtf8(kModos[kModoGrises]));
+  auto* area = new QVBoxLayout(PicAlgoritmos_);
+  area->setContentsMargins(0, 0, 0, 0);
+  area->addWidget(opciones_ = new frmOpcAlgoritmo(*this, PicAlgoritmos_));
   programa_.basAscii.CountedColour = kWhite;
   programa_.basAscii.AsciiColumns = 250;
   RebuildCharacterTables(programa_.basAscii, programa_.ajustes, programa_.plataforma.superficie);
   ApplyFont(programa_.ajustes.font);
   txtAscii_->PonerColores(Qt::white, Qt::black);
-  lblModo_->setText(QString::fromUtf8(kModos[kModoGrises]));
 }
 
 int frmMain::IndiceDelModo() const {

@@ -18,6 +18,7 @@ class QVBoxLayout;
 namespace pixmosa {
 
 class AreaDeTexto;
+class frmOpcAlgoritmo;
 class frmPreview;
 class MarcoDeImagen;
 
@@ -45,6 +46,11 @@ class frmMain final : public QMainWindow {
   void MostrarFuentesFijas();
   void AskRegenerateAfterFontChange();
 
+  // --- frmMain_Modos.cpp ---
+  void ElegirModo(const QString& mode);
+  void ComputeColumnCount();
+  void GrabarIni();
+
   // --- frmMain_Ventanas.cpp ---
   void MapaDeCaracteres();
   void MostrarImagenCompleta();
@@ -62,6 +68,7 @@ class frmMain final : public QMainWindow {
 
   Programa& programa() { return programa_; }
   AreaDeTexto& areaDeTexto() { return *txtAscii_; }
+  frmOpcAlgoritmo& opciones() { return *opciones_; }
   QtProgress& progreso() { return *progreso_; }
   QCheckBox& vistaPrevia() { return *chkAsciiPrev_; }
 
@@ -72,6 +79,7 @@ class frmMain final : public QMainWindow {
  private:
   void CrearMenus();
   void CrearBarras();
+  void CrearSelectorDeModo();
   void CrearCentro();
   void CrearBarraDeEstado();
   void Arrancar();
@@ -79,6 +87,8 @@ class frmMain final : public QMainWindow {
   Programa& programa_;
   AreaDeTexto* txtAscii_ = nullptr;
   MarcoDeImagen* marco_ = nullptr;
+  QWidget* PicAlgoritmos_ = nullptr;
+  frmOpcAlgoritmo* opciones_ = nullptr;
   QLabel* lblModo_ = nullptr;
   QCheckBox* chkAsciiPrev_ = nullptr;
   QLabel* panelFuente_ = nullptr;

@@ -28,7 +28,7 @@ void frmMain::ApplyFont(const Font& font) {
   TextSurface& surface = programa_.plataforma.superficie;
   MeasureCharacterSet(ascii, font, surface);
   BuildGrayLookup(ascii);
-  ComputeColumnCount(ascii, programa_.ajustes.size, surface.ScreenWidth());
+  ComputeColumnCount();
 }
 
 void frmMain::MostrarFuentesFijas() {

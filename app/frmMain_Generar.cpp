@@ -4,6 +4,7 @@
 #include "app/MarcoDeImagen.h"
 #include "app/Modos.h"
 #include "app/frmMain.h"
+#include "app/frmOpcAlgoritmo.h"
 #include "app/frmPreview.h"
 #include "platform/qt/AreaDeTexto.h"
 
@@ -17,7 +18,9 @@ void frmMain::Play() {
   }
   switch (IndiceDelModo()) {
     case kModoGrises:
-      GenerateAscii(kGrayscale);
+    case kModoBordes:
+    case kModoAntialias:
+      GenerateAscii(IndiceDelModo());
       break;
     default:
       break;
@@ -25,6 +28,7 @@ void frmMain::Play() {
 }
 
 void frmMain::GenerateAscii(int method) {
+  opciones_->LlenarAjustes(programa_.ajustes);
   pixmosa::GenerateAscii(programa_.basAscii, programa_.ajustes, Imagen(), method);
   txtAscii_->PonerTexto(programa_.basAscii.ProducedText);
   if (chkAsciiPrev_->isChecked()) ShowPreview();

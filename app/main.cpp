@@ -29,6 +29,12 @@ int main(int argc, char** argv) {
   QtDialogs dialogs;
   QtShell shell;
   Programa program{{surface, pictures, dialogs, shell}, ProgramFolder()};
+  try {
+    program.basAscii.Palette3x2 = LoadPalette3x2(program.carpeta);
+  } catch (const Palette3x2Error& e) {
+    dialogs.Fail(e.what(), {});
+    return 1;
+  }
   frmMain window(program);
   dialogs.SetOwner(&window);
   window.show();

@@ -38,7 +38,7 @@ struct MainWindow {
   RecordingDialogs dialogs;
   RecordingShell shell;
   Programa program{{surface, pictures, dialogs, shell}, ProgramFolder()};
-  frmMain window{program};
+  frmMain window{Ready(program)};
 
   MainWindow() {
     window.show();
@@ -59,6 +59,12 @@ struct MainWindow {
   void Load(const Picture& picture, const std::string& name = "imagen.png") {
     dialogs.paths.push_back(Save(picture, name));
     Trigger("mnuLoadImage");
+  }
+
+  // The start-up work that stands before the window.
+  static Programa& Ready(Programa& program) {
+    program.basAscii.Palette3x2 = LoadPalette3x2(program.carpeta);
+    return program;
   }
 
   std::string Text() { return window.areaDeTexto().Texto(); }

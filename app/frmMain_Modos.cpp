@@ -1,0 +1,65 @@
+// The mode drop-down, the options panel and the settings file.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+
+#include "app/Modos.h"
+#include "app/basINI.h"
+#include "app/frmMain.h"
+#include "app/frmOpcAlgoritmo.h"
+#include "platform/qt/Named.h"
+
+namespace pixmosa {
+
+void frmMain::CrearSelectorDeModo() {
+  auto* bar = named<QToolBar>("Toolbar2", QStringLiteral("Modo"));
+  auto* button = named<QToolButton>("Modo");
+  button->setText(QStringLiteral("&Modo"));
+  button->setToolTip(QStringLiteral("Elige cómo se convierte la imagen (Alt+M)"));
+  button->setShortcut(QKeySequence("Alt+M"));
+  button->setPopupMode(QToolButton::InstantPopup);
+  button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+  auto* menu = named<QMenu>("mnuModo", button);
+  for (const char* mode : kModos) {
+    QAction* item = menu->addAction(QString::fromUtf8(mode));
+    item->setObjectName(QString::fromUtf8(mode));
+    connect(item, &QAction::triggered, this, [this, mode] { ElegirModo(QString::fromUtf8(mode)); });
+  }
+  button->setMenu(menu);
+  lblModo_ = named<QLabel>("lblModo");
+  lblModo_->setContentsMargins(8, 0, 8, 0);
+  bar->addWidget(button);
+  bar->addWidget(lblModo_);
+  addToolBar(bar);
+}
+
+void frmMain::ElegirModo(const QString& mode) {
+  lblModo_->setText(mode);
+  if (PicAlgoritmos_->isVisible()) opciones_->MostrarPaneles();
+}
+
+void frmMain::ComputeColumnCount() {
+  opciones_->LlenarAjustes(programa_.ajustes);
+  pixmosa::ComputeColumnCount(programa_.basAscii, programa_.ajustes.size,
+                              programa_.plataforma.superficie.ScreenWidth());
+}
+
+void frmMain::GrabarIni() {
+  opciones_->LlenarAjustes(programa_.ajustes);
+  const AsciiSettings& a = programa_.ajustes;
+  SaveSettings(IniPath(programa_.carpeta),
+               {.colorFondoAscii = opciones_->ColorDeFondo(),
+                .colorTextoAscii = opciones_->ColorDeTexto(),
+                .tamañoAscii = a.size,
+                .paletaAscii = a.palette,
+                .luminosidadAscii = a.luminosity,
+                .asciiNegativado = programa_.basAscii.CountedColour == kBlack,
+                .paletaWeb = opciones_->findChild<QComboBox*>("cboPaletaWeb")->currentIndex(),
+                .previewAscii = chkAsciiPrev_->isChecked(),
+                .fuente = a.font});
+}
+
+}  // namespace pixmosa

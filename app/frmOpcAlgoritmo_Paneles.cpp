@@ -1,0 +1,230 @@
+// The controls of the options panel and where they stand.
+#include <QActionGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSlider>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "app/Menus.h"
+#include "app/Muestra.h"
+#include "app/frmOpcAlgoritmo.h"
+#include "platform/qt/Named.h"
+#include "platform/qt/QtText.h"
+
+namespace pixmosa {
+namespace {
+
+QVBoxLayout* Columna(QWidget* widget) {
+  auto* layout = new QVBoxLayout(widget);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(5);
+  return layout;
+}
+
+// A label that can be clicked, also by keyboard.
+QToolButton* Etiqueta(const char* name, const char* text, const char* help) {
+  auto* button = named<QToolButton>(name);
+  button->setText(QString::fromUtf8(text));
+  button->setToolTip(QString::fromUtf8(help));
+  button->setAutoRaise(true);
+  button->setFocusPolicy(Qt::TabFocus);
+  return button;
+}
+
+QSlider* Deslizador(const char* name, int minimum, int maximum, int value, const char* help) {
+  auto* slider = named<QSlider>(name, Qt::Horizontal);
+  slider->setRange(minimum, maximum);
+  slider->setValue(value);
+  slider->setToolTip(QString::fromUtf8(help));
+  return slider;
+}
+
+QLabel* Nota(const char* text) {
+  auto* label = new QLabel(QString::fromUtf8(text));
+  label->setWordWrap(true);
+  label->setEnabled(false);
+  return label;
+}
+
+// A label and its control in one row; the label's access key reaches the control.
+QHBoxLayout* Fila(const char* text, QWidget* control) {
+  auto* label = new QLabel(QString::fromUtf8(text));
+  label->setBuddy(control);
+  auto* row = new QHBoxLayout;
+  row->addWidget(label);
+  row->addWidget(control, 1);
+  return row;
+}
+
+struct BotonDeBarra {
+  const char* clave;
+  const char* texto;
+  const char* signo;
+};
+
+// A toolbar of buttons that stay pressed; `exclusive` lets only one be.
+QToolBar* BarraDeBotones(const char* name, std::initializer_list<BotonDeBarra> buttons, bool exclusive) {
+  auto* bar = named<QToolBar>(name);
+  auto* group = new QActionGroup(bar);
+  group->setExclusive(exclusive);
+  for (const BotonDeBarra& b : buttons) {
+    QAction* action = bar->addAction(QString::fromUtf8(b.signo));
+    action->setObjectName(b.clave);
+    action->setToolTip(QString::fromUtf8(b.texto));
+    action->setCheckable(true);
+    group->addAction(action);
+  }
+  return bar;
+}
+
+}  // namespace
+
+QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
+  auto* page = named<QWidget>("mrcAlgoritmo(0)");
+  QVBoxLayout* layout = Columna(page);
+  cboPaletas_ = named<QComboBox>("cboPaletas");
+  for (const CharacterPalette& p : kPalettes) cboPaletas_->addItem(Q(p.caption));
+  cboPaletas_->setToolTip(QStringLiteral("Caracteres con los que se dibuja"));
+  layout->addLayout(Fila("&Paleta", cboPaletas_));
+  CrearTamaño(layout);
+
+  mrcAscii_[0] = named<QWidget>("mrcAscii(0)");
+  QVBoxLayout* gray = Columna(mrcAscii_[0]);
+  sldLuminosidad_ = Deslizador("sldLuminosidad", -100, 100, 0, "Aclara u oscurece el dibujo");
+  label1_ = Etiqueta("Label1", "Luminosidad", "Vuelve a poner la luminosidad en 0");
+  auto* light = new QHBoxLayout;
+  light->addWidget(label1_);
+  light->addWidget(sldLuminosidad_, 1);
+  gray->addLayout(light);
+  gray->addWidget(CrearAnimArt());
+
+  mrcAscii_[1] = named<QWidget>("mrcAscii(1)");
+  QVBoxLayout* edges = Columna(mrcAscii_[1]);
+  chkRelleno_ = named<QCheckBox>("chkRelleno", QStringLiteral("&Rellenar el interior de las formas"));
+  chkRelleno_->setToolTip(QStringLiteral("Llena de \":\" el interior de las zonas negras"));
+  edges->addWidget(chkRelleno_);
+  edges->addWidget(Nota("La imagen debe ser un dibujo negro sobre blanco: si no lo es, conviértala antes."));
+
+  mrcAscii_[2] = named<QWidget>("mrcAscii(2)");
+  Columna(mrcAscii_[2])
+      ->addWidget(
+          Nota("Solo el negro puro es tinta: si la imagen no está en blanco y negro, conviértala antes."));
+
+  chkAsciiNegativo_ = named<QCheckBox>("chkAsciiNegativo", QStringLiteral("&Negativo"));
+  chkAsciiNegativo_->setToolTip(QStringLiteral("Para leer el dibujo con letras claras sobre fondo oscuro"));
+  lblAsciiBackcolor_ = MuestraDeColor("lblAsciiBackcolor", "Color del fondo del texto", fondo_);
+  lblAsciiForeColor_ = MuestraDeColor("lblAsciiForeColor", "Color del texto", texto_);
+  auto* colours = new QHBoxLayout;
+  colours->addWidget(chkAsciiNegativo_);
+  colours->addStretch(1);
+  colours->addWidget(new QLabel(QStringLiteral("Fondo")));
+  colours->addWidget(lblAsciiBackcolor_);
+  colours->addWidget(new QLabel(QStringLiteral("Texto")));
+  colours->addWidget(lblAsciiForeColor_);
+  layout->addLayout(colours);
+  for (QWidget* frame : mrcAscii_) layout->addWidget(frame);
+  return page;
+}
+
+void frmOpcAlgoritmo::CrearTamaño(QVBoxLayout* layout) {
+  sldTamaño_ =
+      Deslizador("sldTamaño", 1, 198, 100, "Tanto por ciento de los caracteres que caben en la pantalla");
+  auto* title = new QLabel(QStringLiteral("&Tamaño"));
+  title->setBuddy(sldTamaño_);
+  lblTamañoAsciiMin_ = Etiqueta("lblTamañoAsciiMin", "Mín.", "El tamaño más pequeño");
+  lbl100_ = Etiqueta("lbl100", "100 %", "Tantos caracteres como caben en la pantalla");
+  lblTamañoAsciiMax_ = Etiqueta("lblTamañoAsciiMax", "Máx.", "El tamaño más grande");
+  auto* grid = new QGridLayout;
+  grid->setVerticalSpacing(0);
+  grid->addWidget(title, 0, 0);
+  grid->addWidget(sldTamaño_, 0, 1, 1, 3);
+  grid->addWidget(lblTamañoAsciiMin_, 1, 1, Qt::AlignLeft);
+  grid->addWidget(lbl100_, 1, 2, Qt::AlignHCenter);
+  grid->addWidget(lblTamañoAsciiMax_, 1, 3, Qt::AlignRight);
+  for (int column = 1; column <= 3; ++column) grid->setColumnStretch(column, 1);
+  layout->addLayout(grid);
+}
+
+QWidget* frmOpcAlgoritmo::CrearAnimArt() {
+  mrcAnimArt_ = named<QFrame>("mrcAnimArt");
+  mrcAnimArt_->setFrameShape(QFrame::StyledPanel);
+  mrcAnimArt_->setAutoFillBackground(true);
+  mrcAnimArt_->setToolTip(QStringLiteral("Para un GIF animado: una página que muestra sus fotogramas"));
+  chkAnimArt_ = named<QCheckBox>("chkAnimArt");
+  chkAnimArt_->setToolTip(QStringLiteral("Al generar, crea la animación en vez de un solo texto"));
+  lblAnimArt_ = named<QLabel>("lblAnimArt", QStringLiteral("Generar AnimArt del GIF"));
+  lblAnimArt_->setBuddy(chkAnimArt_);
+  cmdGIFAvance_ = named<QPushButton>("cmdGIFAvance", QStringLiteral("Avanzado >>"));
+  cmdGIFAvance_->setToolTip(QStringLiteral("Elige los fotogramas de la animación"));
+  auto* row = new QHBoxLayout(mrcAnimArt_);
+  row->setContentsMargins(6, 4, 6, 4);
+  row->addWidget(chkAnimArt_);
+  row->addWidget(lblAnimArt_, 1);
+  row->addWidget(cmdGIFAvance_);
+  return mrcAnimArt_;
+}
+
+QWidget* frmOpcAlgoritmo::CrearPaginaWeb() {
+  auto* page = named<QWidget>("mrcAlgoritmo(1)");
+  QVBoxLayout* layout = Columna(page);
+  sldWTamaño_ = Deslizador("sldWTamaño", 1, 5, 3, "Detalle: cuántos píxeles de la imagen se escriben");
+  sldWTamaño_->setTickPosition(QSlider::TicksBelow);
+  sldWTamaño_->setPageStep(1);
+  lblTamañowebMin_ = Etiqueta("lblTamañowebMin", "Mín.", "Un píxel de cada cinco");
+  lblTamañowebMax_ = Etiqueta("lblTamañowebMax", "Máx.", "Todos los píxeles");
+  auto* size = new QHBoxLayout;
+  auto* title = new QLabel(QStringLiteral("&Detalle"));
+  title->setBuddy(sldWTamaño_);
+  size->addWidget(title);
+  size->addWidget(lblTamañowebMin_);
+  size->addWidget(sldWTamaño_, 1);
+  size->addWidget(lblTamañowebMax_);
+  layout->addLayout(size);
+
+  lblWebBackColor_ = MuestraDeColor("lblWebBackColor", "Color del fondo", fondoWeb_);
+  auto* row = Fila("Color del fondo", lblWebBackColor_);
+  row->addStretch(1);
+  row->addWidget(BarraDeBotones(
+      "TBWebAlinea",
+      {{"Izquierda", "Izquierda", "⇤"}, {"Centrado", "Centrado", "↔"}, {"Derecha", "Derecha", "⇥"}}, true));
+  layout->addLayout(row);
+
+  mrcweb_[0] = named<QWidget>("mrcweb(0)");
+  QVBoxLayout* mosaic = Columna(mrcweb_[0]);
+  cboPaletaWeb_ = named<QComboBox>("cboPaletaWeb");
+  cboPaletaWeb_->addItems({QStringLiteral("Binaria (0-1)"), QStringLiteral("Texto del usuario")});
+  cboPaletaWeb_->setToolTip(QStringLiteral("Caracteres que se repiten por toda la página"));
+  txtPaletaWeb_ = named<QLineEdit>("txtPaletaWeb");
+  txtPaletaWeb_->setEnabled(false);
+  txtPaletaWeb_->setToolTip(QStringLiteral("El texto que se repite por toda la página"));
+  mosaic->addLayout(Fila("&Paleta", cboPaletaWeb_));
+  mosaic->addLayout(Fila("Paleta de te&xto", txtPaletaWeb_));
+
+  mrcweb_[1] = named<QWidget>("mrcweb(1)");
+  CrearBordesWeb(Columna(mrcweb_[1]));
+  for (QWidget* frame : mrcweb_) layout->addWidget(frame);
+  mrcweb_[1]->hide();
+  return page;
+}
+
+void frmOpcAlgoritmo::CrearBordesWeb(QVBoxLayout* layout) {
+  auto* row = new QHBoxLayout;
+  row->addWidget(new QLabel(QStringLiteral("Bordes")));
+  row->addWidget(BarraDeBotones("TBBordesWeb",
+                                {{"WebBArriba", "Borde superior", "▔"},
+                                 {"WebBAbajo", "Borde inferior", "▁"},
+                                 {"WebBDerecha", "Borde derecho", "▕"},
+                                 {"WebBIzquierda", "Borde izquierdo", "▏"}},
+                                false));
+  row->addStretch(1);
+  layout->addLayout(row);
+}
+
+}  // namespace pixmosa
