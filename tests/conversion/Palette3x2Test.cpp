@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
+#include <map>
 
 #include "conversion/Palette3x2.h"
 #include "platform/AtomicFile.h"
-#include "platform/Lines.h"
+#include "tools/paleta/Clasificar.h"
 
 using namespace pixmosa;
 
@@ -43,23 +44,24 @@ TEST(Palette3x2, OneFailureForAllCauses) {
   EXPECT_THROW(LoadPalette3x2("/no/such/folder"), Palette3x2Error);
 }
 
-// The shipped file holds every pattern, with the character that the tool's kept ranking chose.
-TEST(Palette3x2, ShippedFileAgreesWithItsRanking) {
+// The shipped file and the ranking are what the tool makes of the ink that it measured.
+TEST(Palette3x2, ShippedFileAgreesWithTheToolsMeasures) {
+  const paleta::Ink ink = paleta::LeerTinta(LeerArchivo(kSource / "tools/paleta/tinta.txt"));
+  EXPECT_EQ(paleta::EscribirTinta(ink), LeerArchivo(kSource / "tools/paleta/tinta.txt"));
+  const paleta::Choice choice = paleta::Elegir(ink);
+  EXPECT_EQ(paleta::Clasificacion(ink, choice), LeerArchivo(kSource / "tools/paleta/clasificacion.txt"));
+  EXPECT_EQ(paleta::ArchivoDePaleta(choice), LeerArchivo(kSource / "data/Paleta 3x2.txt"));
+}
+
+TEST(Palette3x2, ShippedFileHasEveryPatternAndMirrorsThem) {
   const Palette3x2 shipped = LoadPalette3x2(kSource / "data");
-  const std::string ranking = LeerArchivo(kSource / "tools/paleta/clasificacion.txt");
-  std::string_view rest = ranking;
-  std::size_t rows = 0;
-  while (!rest.empty()) {
-    const std::string_view line =
-        TakeLine(rest);  // "@./../.. C  ..." : pattern, chosen character, the best ones
-    if (line.empty() || line[0] == '#') continue;
-    ASSERT_GE(line.size(), 10U) << line;
-    std::size_t pattern = 0;
-    for (const char c : line.substr(0, 8))
-      if (c != '/') pattern = pattern << 1 | (c == '@' ? 1 : 0);
-    EXPECT_EQ(shipped.Characters[pattern], line[9]) << line;
-    ++rows;
+  for (std::size_t p = 0; p < 64; ++p) {
+    ASSERT_TRUE(shipped.Characters[p]) << p;
+    const std::size_t mirrored = (p & 0b010101) << 1 | (p & 0b101010) >> 1;
+    EXPECT_EQ(shipped.Characters[mirrored], paleta::Espejo(*shipped.Characters[p])) << p;
   }
-  EXPECT_EQ(rows, 64U);
-  EXPECT_EQ(shipped.Characters[0], ' ');
+  // What anyone would choose by eye.
+  const std::map<std::size_t, char> plain = {{0b000000, ' '}, {0b000011, '_'},  {0b001100, '='},
+                                             {0b011010, '/'}, {0b100101, '\\'}, {0b110000, '"'}};
+  for (const auto& [pattern, c] : plain) EXPECT_EQ(shipped.Characters[pattern], c) << pattern;
 }
