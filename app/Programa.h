@@ -4,9 +4,11 @@
 #include <filesystem>
 
 #include "conversion/basAscii.h"
+#include "editor/basEditor.h"
 #include "effects/ImagenDeTrabajo.h"
 #include "platform/Dialogs.h"
 #include "platform/PictureCodec.h"
+#include "platform/Registry.h"
 #include "platform/Shell.h"
 #include "platform/TextSurface.h"
 
@@ -18,6 +20,7 @@ struct Plataforma {
   PictureCodec& imagenes;
   Dialogs& dialogos;
   Shell& entorno;
+  Registry& registro;
 };
 
 struct Programa {
@@ -27,6 +30,7 @@ struct Programa {
   ImagenDeTrabajo imagen{};
   BasAscii basAscii{};
   AsciiSettings ajustes{};
+  BasEditor basEditor{};
 };
 
 }  // namespace pixmosa

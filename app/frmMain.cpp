@@ -14,11 +14,11 @@
 #include <QVBoxLayout>
 
 #include "app/MarcoDeImagen.h"
-#include "app/Menus.h"
 #include "app/Modos.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "conversion/TextoGuardado.h"
 #include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/Menus.h"
 #include "platform/qt/Named.h"
 #include "platform/qt/QtText.h"
 
@@ -73,6 +73,17 @@ const std::vector<Menu>& Menus() {
         {{"mnuCharMap", "&Mapa de caracteres", "accessories-character-map", nullptr,
           "Abre el mapa de caracteres del sistema"},
          &frmMain::MapaDeCaracteres}}},
+      {"mnuHerramientas",
+       "&Herramientas",
+       {{{"mnuEditor", "Abrir el AsciiArt en un editor", "accessories-text-editor", "Ctrl+E",
+          "Retoca el dibujo carácter a carácter"},
+         &frmMain::AbrirEditor},
+        {{"mnuEstadisticas", "E&stadísticas", "view-statistics", "Ctrl+I",
+          "Cuenta los caracteres del dibujo"},
+         &frmMain::MostrarEstadisticas},
+        {{"mnuSistema", "&Configuración de aplicaciones del sistema", "preferences-system", nullptr,
+          "Muestra cómo se ven los textos en el bloc de notas y en el navegador"},
+         &frmMain::MostrarSistema}}},
       {"mnuVer",
        "&Ver",
        {{{"mnuImagePreview", "&Imagen a tamaño real", "image-x-generic", "F7",

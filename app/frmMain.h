@@ -18,6 +18,7 @@ class QVBoxLayout;
 namespace pixmosa {
 
 class AreaDeTexto;
+class frmEditor;
 class frmOpcAlgoritmo;
 class frmPreview;
 class MarcoDeImagen;
@@ -55,6 +56,9 @@ class frmMain final : public QMainWindow {
   void MapaDeCaracteres();
   void MostrarImagenCompleta();
   void AcercaDe();
+  void AbrirEditor();
+  void MostrarEstadisticas();
+  void MostrarSistema();
 
   // 0..5, from the text of `lblModo`.
   int IndiceDelModo() const;
@@ -75,6 +79,7 @@ class frmMain final : public QMainWindow {
  protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   void CrearMenus();
@@ -96,6 +101,7 @@ class frmMain final : public QMainWindow {
   QProgressBar* prgBar1_ = nullptr;
   std::optional<QtProgress> progreso_;
   frmPreview* preview_ = nullptr;
+  frmEditor* editor_ = nullptr;
 };
 
 }  // namespace pixmosa

@@ -1,7 +1,13 @@
 // The other windows that the menus open.
+#include <QCloseEvent>
+
 #include "app/frmAbout.h"
 #include "app/frmImagePreview.h"
 #include "app/frmMain.h"
+#include "app/frmSistema.h"
+#include "editor/frmEditor.h"
+#include "platform/qt/AreaDeTexto.h"
+#include "stats/frmEstadisticas.h"
 
 namespace pixmosa {
 
@@ -23,6 +29,31 @@ void frmMain::MostrarImagenCompleta() {
 
 void frmMain::AcercaDe() {
   frmAbout(programa_.plataforma.entorno, this).exec();
+}
+
+void frmMain::AbrirEditor() {
+  // A window closed by the user is gone; one that is open gets the text painted over its drawing.
+  if (!editor_ || !editor_->isVisible()) {
+    delete editor_;
+    const Plataforma& p = programa_.plataforma;
+    editor_ = new frmEditor(programa_.basEditor, programa_.ajustes.font, p.dialogos, p.entorno, this);
+    connect(editor_, &frmEditor::Enviado, this,
+            [this](const std::string& text) { txtAscii_->PonerTexto(text); });
+  }
+  editor_->Abrir(txtAscii_->Texto());
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+  // The editor may hold changes that only it knows of; it asks.
+  event->setAccepted(!editor_ || !editor_->isVisible() || editor_->close());
+}
+
+void frmMain::MostrarEstadisticas() {
+  frmEstadisticas(txtAscii_->Texto(), programa_.plataforma.entorno, this).exec();
+}
+
+void frmMain::MostrarSistema() {
+  frmSistema(programa_.plataforma.registro, this).exec();
 }
 
 }  // namespace pixmosa

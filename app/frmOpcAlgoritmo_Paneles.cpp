@@ -12,9 +12,9 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "app/Menus.h"
 #include "app/Muestra.h"
 #include "app/frmOpcAlgoritmo.h"
+#include "platform/qt/Menus.h"
 #include "platform/qt/Named.h"
 #include "platform/qt/QtText.h"
 

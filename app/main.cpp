@@ -1,12 +1,12 @@
 #include <QApplication>
 #include <QLibraryInfo>
-#include <QLocale>
 #include <QTranslator>
 
 #include "app/frmMain.h"
 #include "platform/ProgramFolder.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtPictureCodec.h"
+#include "platform/qt/QtRegistry.h"
 #include "platform/qt/QtShell.h"
 #include "platform/qt/QtTextSurface.h"
 
@@ -19,7 +19,6 @@ int main(int argc, char** argv) {
   // A quick stroke in the editor must keep every position that the pointer reported.
   QApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
   // The system's own dialogs speak Spanish too.
-  QLocale::setDefault(QLocale(QLocale::Spanish));
   QTranslator spanish;
   if (spanish.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QApplication::installTranslator(&spanish);
@@ -28,7 +27,8 @@ int main(int argc, char** argv) {
   QtPictureCodec pictures;
   QtDialogs dialogs;
   QtShell shell;
-  Programa program{{surface, pictures, dialogs, shell}, ProgramFolder()};
+  QtRegistry registry;
+  Programa program{{surface, pictures, dialogs, shell, registry}, ProgramFolder()};
   try {
     program.basAscii.Palette3x2 = LoadPalette3x2(program.carpeta);
   } catch (const Palette3x2Error& e) {

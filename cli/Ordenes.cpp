@@ -4,6 +4,7 @@
 
 #include "cli/Orden.h"
 #include "cli/OrdenAscii.h"
+#include "cli/OrdenEstadisticas.h"
 #include "cli/OrdenFuentes.h"
 #include "cli/OrdenTabla.h"
 
@@ -47,7 +48,7 @@ int Despachar(Consola& consola, std::span<const std::string> words) {
 }  // namespace
 
 std::span<const Orden> Ordenes() {
-  static const std::vector<Orden> orders = {OrdenAscii(), OrdenTabla(), OrdenFuentes()};
+  static const std::vector<Orden> orders = {OrdenAscii(), OrdenTabla(), OrdenFuentes(), OrdenEstadisticas()};
   return orders;
 }
 

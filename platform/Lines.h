@@ -5,7 +5,8 @@
 
 namespace pixmosa {
 
-// Takes the first line off the front of `text` without its end (CR LF, CR or LF). An empty text gives an empty line.
+// Takes the first line off the front of `text` without its end (CR LF, CR or LF). An empty text gives an
+// empty line.
 inline std::string_view TakeLine(std::string_view& text) {
   const std::size_t end = text.find_first_of("\r\n");
   const std::string_view line = text.substr(0, end);

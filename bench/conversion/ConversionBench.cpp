@@ -1,6 +1,6 @@
-// A generation from a loaded 12-megapixel picture, and the character tables, beside a copy of the picture's bytes.
+// A generation from a loaded 12-megapixel picture, and the character tables, beside a copy of the picture's
+// bytes.
 #include <benchmark/benchmark.h>
-
 #include <cstring>
 #include <vector>
 
@@ -20,7 +20,8 @@ const Picture& Photograph() {
     Random random(1);
     std::uint32_t* to = p.Writable();
     for (std::size_t i = 0; i < p.PixelCount(); ++i)
-      to[i] = 0xFF000000U | (static_cast<std::uint32_t>(i % 4000 / 16) * 0x10101U + (random.Bits() & 0x0F0F0F));
+      to[i] =
+          0xFF000000U | (static_cast<std::uint32_t>(i % 4000 / 16) * 0x10101U + (random.Bits() & 0x0F0F0F));
     return p;
   }();
   return photograph;
@@ -52,6 +53,10 @@ void Generation(benchmark::State& state) {
   ascii.AsciiColumns = static_cast<int>(state.range(0));
   for (auto _ : state) GenerateAscii(ascii, {}, Photograph(), static_cast<int>(state.range(1)));
 }
-BENCHMARK(Generation)->ArgNames({"columns", "method"})->Args({250, 0})->Args({1000, 0})->Unit(benchmark::kMillisecond);
+BENCHMARK(Generation)
+    ->ArgNames({"columns", "method"})
+    ->Args({250, 0})
+    ->Args({1000, 0})
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace

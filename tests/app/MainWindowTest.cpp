@@ -1,4 +1,5 @@
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QDropEvent>
 #include <QLabel>
@@ -11,6 +12,7 @@
 
 #include "app/MarcoDeImagen.h"
 #include "app/frmPreview.h"
+#include "editor/frmEditor.h"
 #include "tests/support/DrawnPicture.h"
 #include "tests/support/MainWindow.h"
 
@@ -52,6 +54,8 @@ class MainWindowTest : public QObject {
   void FixedFontListAppliesTheChosenRow();
   void ScrollBarsMoveThePictureInSteps();
   void OtherWindowsOpen();
+  void EditorSendsItsDrawingBack();
+  void SystemPanelShowsTheRegistry();
 };
 
 void MainWindowTest::StartsWithItsDefaults() {
@@ -282,6 +286,48 @@ void MainWindowTest::OtherWindowsOpen() {
   });
   m.Trigger("mnuAcercaDe");
   QCOMPARE(m.shell.log.back(), "Open|https://pixmosa.example");
+}
+
+void MainWindowTest::EditorSendsItsDrawingBack() {
+  test::MainWindow m;
+  m.window.areaDeTexto().PonerTexto("hola");
+  m.Trigger("mnuEditor");
+  auto& editor = Find<frmEditor>(m.window, "frmEditor");
+  QVERIFY(editor.isVisible());
+  PintarCaracter(m.program.basEditor, 1, 3, 'x');
+  Find<QAction>(editor, "mnuEnviar").trigger();
+  QCOMPARE(m.Text(), "hola\r\n\r\nx");
+  PintarCaracter(m.program.basEditor, 1, 4, 'y');
+  QVERIFY2(!m.window.close(), "the editor's unsent changes are asked about first");
+  QVERIFY(m.dialogs.log.back().starts_with("Ask|Editor Ascii|"));
+  QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+  m.Trigger("mnuEstadisticas");
+}
+
+void MainWindowTest::SystemPanelShowsTheRegistry() {
+  test::MainWindow m;
+  const std::string notepad = "Software\\Microsoft\\Notepad";
+  const std::string explorer = "Software\\Microsoft\\Internet Explorer\\International\\Scripts\\3";
+  m.registry.values[{notepad, "iPointSize"}] = {RegistryType::Number, std::string("\x5F\0\0\0", 4)};
+  m.registry.values[{notepad, "fwrap"}] = {RegistryType::Number, std::string("\1\0\0\0", 4)};
+  m.registry.values[{notepad, "lfFaceName"}] = {RegistryType::Text, std::string("Fixedsys\0", 9)};
+  QTimer::singleShot(0, [&] {
+    auto& panel = *QApplication::activeModalWidget();
+    panel.setLocale(QLocale::Spanish);
+    QCOMPARE(LabelText(panel, "lblNSize").replace(u',', u'.'), "9.5");
+    QCOMPARE(LabelText(panel, "lblNFont"), "Fixedsys");
+    auto& wrap = Find<QCheckBox>(panel, "chkNAjuste");
+    QVERIFY(wrap.isChecked());
+    wrap.click();
+    QVERIFY2(wrap.isChecked(), "it goes back by itself");
+    auto& size = Find<QComboBox>(panel, "cboESize");
+    QCOMPARE(size.currentIndex(), -1);
+    size.setFocus();
+    for (int i = 0; i < 5; ++i) QTest::keyClick(&size, Qt::Key_Down);
+    panel.close();
+  });
+  m.Trigger("mnuSistema");
+  QCOMPARE((m.registry.values[{explorer, "IEFontSize"}].data), std::string("\4\0\0", 3));
 }
 
 QTEST_MAIN(MainWindowTest)

@@ -1,8 +1,6 @@
 // The real main window over recording dialogs and desktop, driven by control names.
 #pragma once
 
-#include <iostream>
-
 #include <QAction>
 #include <QApplication>
 #include <QTest>
@@ -14,22 +12,12 @@
 #include "platform/qt/QtPicture.h"
 #include "platform/qt/QtPictureCodec.h"
 #include "platform/qt/QtTextSurface.h"
+#include "tests/support/FakeRegistry.h"
+#include "tests/support/Find.h"
 #include "tests/support/RecordingDialogs.h"
 #include "tests/support/TestFolder.h"
 
 namespace pixmosa::test {
-
-// The control of this name and kind below `root`; without one, fails loudly and lists the names there are.
-template <typename Control>
-Control& Find(const QObject& root, const char* name) {
-  auto* found = root.findChild<Control*>(QString::fromUtf8(name));
-  if (found) return *found;
-  std::cerr << "there is no " << Control::staticMetaObject.className() << " named \"" << name << "\" among:";
-  for (const QObject* child : root.findChildren<QObject*>())
-    if (!child->objectName().isEmpty()) std::cerr << ' ' << child->objectName().toStdString();
-  std::cerr << std::endl;
-  std::abort();
-}
 
 struct MainWindow {
   TestFolder folder;
@@ -37,7 +25,8 @@ struct MainWindow {
   QtPictureCodec pictures;
   RecordingDialogs dialogs;
   RecordingShell shell;
-  Programa program{{surface, pictures, dialogs, shell}, ProgramFolder()};
+  FakeRegistry registry;
+  Programa program{{surface, pictures, dialogs, shell, registry}, ProgramFolder()};
   frmMain window{Ready(program)};
 
   MainWindow() {

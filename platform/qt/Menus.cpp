@@ -1,4 +1,4 @@
-#include "app/Menus.h"
+#include "platform/qt/Menus.h"
 
 #include <QIcon>
 

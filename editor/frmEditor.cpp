@@ -1,0 +1,216 @@
+#include "editor/frmEditor.h"
+
+#include <functional>
+
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QStatusBar>
+
+#include "editor/frmEditor_Superficie.h"
+#include "platform/AtomicFile.h"
+#include "platform/qt/Menus.h"
+#include "platform/qt/Named.h"
+#include "platform/qt/QtFont.h"
+#include "platform/qt/QtText.h"
+
+namespace pixmosa {
+namespace {
+
+constexpr int kFontPoints = 10;
+
+struct Herramienta {
+  const char* clave;
+  Tool tool;
+  const char* icono;
+  const char* texto;
+};
+
+constexpr Herramienta kHerramientas[] = {
+    {"Libre", Tool::Libre, "draw-freehand", "Dibujo libre"},
+    {"Borrar", Tool::Borrar, "draw-eraser", "Borrar de la pantalla"},
+    {"Caja", Tool::Caja, "draw-rectangle", "Caja vacía"},
+    {"CajaR", Tool::CajaR, "draw-rectangle-filled", "Caja rellena"},
+    {"Rellenar", Tool::Rellenar, "color-fill", "Rellenar una zona"},
+};
+
+// A menu entry and what it does to the drawing; nothing for the entries that stay inert.
+struct Entrada : EntradaDeMenu {
+  void (*hacer)(BasEditor&);
+};
+
+constexpr Entrada kCLS = {{"mnuCLS", "&Borrar pantalla", "edit-clear", nullptr, "Borra el dibujo entero"},
+                          Clear};
+
+constexpr Entrada kEdicion[] = {
+    {{"mnureemplazar", "Reemplazar caracteres"}, nullptr},
+    {{"mnuMayMin", "Mayúsculas a minúsculas"}, UpperToLower},
+    {{"mnuMinMay", "Minúsculas a mayúsculas"}, LowerToUpper},
+};
+
+constexpr Entrada kInvertir[] = {
+    {{"mnuFlipVertical", "Verticalmente (simple)"}, FlipVertical},
+    {{"mnuFlipHorizontal", "Horizontalmente (simple)"}, FlipHorizontal},
+    {{"mnuFlipCaracterH", "Horizontalmente (con caracteres)"}, nullptr},
+    {{"mnuFlipCaracterV", "Verticalmente (con caracteres)"}, nullptr},
+};
+
+}  // namespace
+
+frmEditor::frmEditor(BasEditor& editor, const Font& font, Dialogs& dialogs, Shell& shell, QWidget* parent)
+    : QMainWindow(parent), editor_(editor), dialogs_(dialogs), shell_(shell), font_{font.name, kFontPoints} {
+  setObjectName("frmEditor");
+  setWindowTitle(QStringLiteral("Editor Ascii"));
+  picDraw_ = named<Superficie>("picDraw", editor_, history_, font_);
+  auto* scroll = named<QScrollArea>("desplazamiento");
+  scroll->setWidget(picDraw_);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setBackgroundRole(QPalette::Dark);
+  setCentralWidget(scroll);
+  auto* bar = named<QStatusBar>("SBPanel");
+  setStatusBar(bar);
+  bar->addWidget(position_ = named<QLabel>("posicion"));
+  CrearMenus();
+  CrearHerramientas();
+  CrearCaracteres();
+  connect(picDraw_, &Superficie::CeldaSenalada, this,
+          [this](int column, int row) { position_->setText(QString("(%1,%2)").arg(column).arg(row)); });
+  connect(picDraw_, &Superficie::Cambiado, this, &frmEditor::Actualizar);
+  resize(1040, 720);
+  Clear(editor_);
+  picDraw_->Refrescar();
+  sent_ = editor_.Grid;
+  Actualizar();
+}
+
+void frmEditor::Abrir(std::string_view text) {
+  picDraw_->Hacer([&] { PaintText(editor_, text); });
+  sent_ = editor_.Grid;
+  show();
+  raise();
+  activateWindow();
+}
+
+void frmEditor::CrearMenus() {
+  const auto act = [this](const Entrada& row) {
+    if (row.hacer) picDraw_->Hacer([&] { row.hacer(editor_); });
+  };
+  // The program's own entries stand after these.
+  const auto own = [this](QMenu* menu, const EntradaDeMenu& row, std::function<void()> work) {
+    QAction* action = AccionDe(row, menu);
+    menu->addAction(action);
+    connect(action, &QAction::triggered, this, std::move(work));
+  };
+  QMenu* file = menuBar()->addMenu(QStringLiteral("&Archivo"));
+  LlenarMenu<Entrada>(file, std::span(&kCLS, 1), this, act);
+  file->addSeparator();
+  own(file,
+      {"mnuEnviar", "&Enviar a la ventana principal", "document-send", "Ctrl+E",
+       "Pone el dibujo en el área de texto de la ventana principal"},
+      [this] { Enviar(); });
+  own(file,
+      {"mnuGuardarDibujo", "&Guardar el dibujo...", "document-save", "Ctrl+S", "Guarda el dibujo como texto"},
+      [this] { Guardar(); });
+  file->addSeparator();
+  own(file, {"mnuCerrar", "&Cerrar", "window-close", "Ctrl+W", "Cierra el editor"}, [this] { close(); });
+
+  QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edición"));
+  LlenarMenu<Entrada>(edit, kEdicion, this, act);
+  QMenu* flip = edit->addMenu(QStringLiteral("Invertir AsciiArt"));
+  flip->menuAction()->setObjectName("mnuInvertir");
+  LlenarMenu<Entrada>(flip, kInvertir, this, act);
+  edit->addSeparator();
+  own(edit, {"mnuDeshacer", "&Deshacer", "edit-undo", "Ctrl+Z", "Deshace la última acción"}, [this] {
+    history_.Deshacer(editor_);
+    picDraw_->Refrescar();
+    Actualizar();
+  });
+  own(edit, {"mnuRehacer", "&Rehacer", "edit-redo", "Ctrl+Y", "Rehace la acción deshecha"}, [this] {
+    history_.Rehacer(editor_);
+    picDraw_->Refrescar();
+    Actualizar();
+  });
+  own(edit, {"mnuCopiar", "&Copiar el dibujo", "edit-copy", "Ctrl+C", "Copia el dibujo como texto"},
+      [this] { shell_.CopyText(DrawingText(editor_)); });
+}
+
+void frmEditor::CrearHerramientas() {
+  auto* bar = named<QToolBar>("TbTool", QStringLiteral("Herramientas"));
+  auto* group = new QActionGroup(bar);
+  for (const Herramienta& h : kHerramientas) {
+    QAction* action = bar->addAction(Icono(h.icono), QString::fromUtf8(h.texto));
+    action->setObjectName(h.clave);
+    action->setCheckable(true);
+    action->setChecked(h.tool == Tool::Libre);
+    group->addAction(action);
+    connect(action, &QAction::triggered, this, [this, tool = h.tool] {
+      picDraw_->PonerHerramienta(tool);
+      position_->clear();
+    });
+  }
+  bar->addSeparator();
+  for (const char* name : {"mnuDeshacer", "mnuRehacer", "mnuEnviar"})
+    bar->addAction(findChild<QAction*>(name));
+  addToolBar(bar);
+}
+
+void frmEditor::CrearCaracteres() {
+  auto* list = named<QListWidget>("lstCaracteres");
+  list->setFont(QtFontOf(font_));
+  list->setFlow(QListView::LeftToRight);
+  list->setWrapping(true);
+  list->setResizeMode(QListView::Adjust);
+  list->setGridSize({22, 22});
+  list->setToolTip(QStringLiteral("El carácter con el que se dibuja"));
+  for (int code = 32; code <= 127; ++code) {
+    auto* item = new QListWidgetItem(QString(VisibleChar(static_cast<unsigned char>(code))), list);
+    item->setTextAlignment(Qt::AlignCenter);
+    item->setData(Qt::UserRole, code);
+    item->setToolTip(QStringLiteral("Código %1").arg(code));
+    if (static_cast<char>(code) == editor_.CurrentChar) list->setCurrentItem(item);
+  }
+  connect(list, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
+    if (item) editor_.CurrentChar = static_cast<char>(item->data(Qt::UserRole).toInt());
+  });
+  auto* dock = named<QDockWidget>("panelCaracteres", QStringLiteral("Caracteres"));
+  dock->setFeatures(QDockWidget::DockWidgetMovable);
+  dock->setWidget(list);
+  addDockWidget(Qt::RightDockWidgetArea, dock);
+  resizeDocks({dock}, {200}, Qt::Horizontal);
+}
+
+void frmEditor::Actualizar() {
+  findChild<QAction*>("mnuDeshacer")->setEnabled(history_.PuedeDeshacer());
+  findChild<QAction*>("mnuRehacer")->setEnabled(history_.PuedeRehacer());
+}
+
+void frmEditor::Enviar() {
+  sent_ = editor_.Grid;
+  emit Enviado(DrawingText(editor_));
+}
+
+void frmEditor::Guardar() {
+  const std::string file = dialogs_.SaveFile("Guardar el dibujo...", "*.txt", "txt");
+  if (file.empty()) return;
+  try {
+    EscribirArchivo(file, DrawingText(editor_) + "\r\n");
+    sent_ = editor_.Grid;
+  } catch (const FileError& e) {
+    dialogs_.Fail(e.what(), "Error al guardar");
+  }
+}
+
+void frmEditor::closeEvent(QCloseEvent* event) {
+  const bool close =
+      editor_.Grid == sent_ || dialogs_.Ask(
+                                   "El dibujo tiene cambios que no se han enviado a la ventana principal.\r\n"
+                                   "¿Desea cerrar el editor y perderlos?",
+                                   "Editor Ascii");
+  event->setAccepted(close);
+}
+
+}  // namespace pixmosa
