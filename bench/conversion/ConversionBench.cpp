@@ -27,6 +27,17 @@ const Picture& Photograph() {
   return photograph;
 }
 
+// The same in pure black and white, as outlines and blocks want it.
+const Picture& Drawing() {
+  static const Picture drawing = [] {
+    Picture p = Photograph();
+    std::uint32_t* to = p.Writable();
+    for (std::size_t i = 0; i < p.PixelCount(); ++i) to[i] = (to[i] & 0xFF) < 128 ? 0xFF000000U : 0xFFFFFFFFU;
+    return p;
+  }();
+  return drawing;
+}
+
 void Memcpy(benchmark::State& state) {
   const Picture& p = Photograph();
   std::vector<std::uint32_t> copy(p.PixelCount());
@@ -50,13 +61,19 @@ void Generation(benchmark::State& state) {
   QtTextSurface surface;
   BasAscii ascii;
   RebuildCharacterTables(ascii, {}, surface);
+  ascii.Palette3x2.Characters.fill('#');
   ascii.AsciiColumns = static_cast<int>(state.range(0));
-  for (auto _ : state) GenerateAscii(ascii, {}, Photograph(), static_cast<int>(state.range(1)));
+  const auto method = static_cast<int>(state.range(1));
+  const Picture& source = method == kGrayscale ? Photograph() : Drawing();
+  for (auto _ : state) GenerateAscii(ascii, {}, source, method);
 }
 BENCHMARK(Generation)
     ->ArgNames({"columns", "method"})
-    ->Args({250, 0})
-    ->Args({1000, 0})
+    ->Args({250, kGrayscale})
+    ->Args({1000, kGrayscale})
+    ->Args({250, kEdges})
+    ->Args({250, kAntiAlias})
+    ->Args({1000, kAntiAlias})
     ->Unit(benchmark::kMillisecond);
 
 }  // namespace
