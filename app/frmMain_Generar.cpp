@@ -1,5 +1,6 @@
 // Generating the text and showing it.
 #include <QCheckBox>
+#include <QScrollBar>
 
 #include "app/MarcoDeImagen.h"
 #include "app/Modos.h"
@@ -30,8 +31,13 @@ void frmMain::Play() {
 void frmMain::GenerateAscii(int method) {
   opciones_->LlenarAjustes(programa_.ajustes);
   pixmosa::GenerateAscii(programa_.basAscii, programa_.ajustes, Imagen(), method);
+  // The part in view stays in view, so that a dragged slider shows its effect there.
+  QScrollBar *across = txtAscii_->horizontalScrollBar(), *down = txtAscii_->verticalScrollBar();
+  const int x = across->value(), y = down->value();
   txtAscii_->PonerTexto(programa_.basAscii.ProducedText);
-  if (chkAsciiPrev_->isChecked()) ShowPreview();
+  across->setValue(x);
+  down->setValue(y);
+  if (chkAsciiPrev_->isChecked() && !opciones_->AnimArt()) ShowPreview();
 }
 
 void frmMain::ShowPreview() {

@@ -1,4 +1,5 @@
 // The mode drop-down, the options panel and the settings file.
+#include <QActionGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -23,9 +24,13 @@ void frmMain::CrearSelectorDeModo() {
   button->setPopupMode(QToolButton::InstantPopup);
   button->setToolButtonStyle(Qt::ToolButtonTextOnly);
   auto* menu = named<QMenu>("mnuModo", button);
+  auto* group = new QActionGroup(menu);
   for (const char* mode : kModos) {
     QAction* item = menu->addAction(QString::fromUtf8(mode));
     item->setObjectName(QString::fromUtf8(mode));
+    item->setCheckable(true);
+    item->setChecked(mode == kModos[kModoGrises]);
+    group->addAction(item);
     connect(item, &QAction::triggered, this, [this, mode] { ElegirModo(QString::fromUtf8(mode)); });
   }
   button->setMenu(menu);
@@ -38,7 +43,7 @@ void frmMain::CrearSelectorDeModo() {
 
 void frmMain::ElegirModo(const QString& mode) {
   lblModo_->setText(mode);
-  if (PicAlgoritmos_->isVisible()) opciones_->MostrarPaneles();
+  if (!PicAlgoritmos_->isHidden()) opciones_->MostrarPaneles();
 }
 
 void frmMain::ComputeColumnCount() {

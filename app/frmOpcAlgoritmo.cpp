@@ -57,7 +57,9 @@ frmOpcAlgoritmo::frmOpcAlgoritmo(frmMain& window, QWidget* parent)
 }
 
 void frmOpcAlgoritmo::Conectar() {
+  // Choosing the item that is chosen already counts as well: it brings the grayscale text back.
   connect(cboPaletas_, &QComboBox::currentIndexChanged, this, &frmOpcAlgoritmo::PaletaElegida);
+  connect(cboPaletas_, &QComboBox::activated, this, [this] { Regenerar(kGrayscale); });
   connect(chkAsciiNegativo_, &QCheckBox::toggled, this, &frmOpcAlgoritmo::NegativoElegido);
   connect(sldLuminosidad_, &QSlider::valueChanged, this, &frmOpcAlgoritmo::LuminosidadCambiada);
   connect(label1_, &QAbstractButton::clicked, this, [this] { sldLuminosidad_->setValue(0); });
@@ -79,10 +81,12 @@ void frmOpcAlgoritmo::ConectarWeb() {
           [this] { sldWTamaño_->setValue(sldWTamaño_->minimum()); });
   connect(lblTamañowebMax_, &QAbstractButton::clicked, this,
           [this] { sldWTamaño_->setValue(sldWTamaño_->maximum()); });
-  connect(cboPaletaWeb_, &QComboBox::activated, this, [this](int item) {
+  const auto choose = [this](int item) {
     txtPaletaWeb_->setEnabled(item == 1);
     if (item == 1) txtPaletaWeb_->setFocus();
-  });
+  };
+  connect(cboPaletaWeb_, &QComboBox::currentIndexChanged, this, choose);
+  connect(cboPaletaWeb_, &QComboBox::activated, this, choose);
 }
 
 void frmOpcAlgoritmo::MostrarPaneles() {
@@ -98,6 +102,10 @@ void frmOpcAlgoritmo::LlenarAjustes(AsciiSettings& settings) const {
   settings.luminosity = sldLuminosidad_->value();
   settings.palette = cboPaletas_->currentIndex();
   settings.relleno = chkRelleno_->isChecked();
+}
+
+bool frmOpcAlgoritmo::AnimArt() const {
+  return chkAnimArt_->isChecked();
 }
 
 Colour frmOpcAlgoritmo::ColorDeFondo() const {

@@ -36,6 +36,9 @@ class frmOpcAlgoritmo final : public QWidget {
   // The AnimArt group's state: enabled and light, or disabled and navy.
   void PonerAnimArtDisponible(bool available);
 
+  // "Generar AnimArt del GIF" is ticked.
+  bool AnimArt() const;
+
   // The swatches' colours.
   Colour ColorDeFondo() const;
   Colour ColorDeTexto() const;

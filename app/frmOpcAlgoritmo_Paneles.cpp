@@ -12,6 +12,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "app/IconosDePanel.h"
 #include "app/Muestra.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "platform/qt/Menus.h"
@@ -49,16 +50,22 @@ QSlider* Deslizador(const char* name, int minimum, int maximum, int value, const
 QLabel* Nota(const char* text) {
   auto* label = new QLabel(QString::fromUtf8(text));
   label->setWordWrap(true);
-  label->setEnabled(false);
   return label;
 }
 
-// A label and its control in one row; the label's access key reaches the control.
-QHBoxLayout* Fila(const char* text, QWidget* control) {
+// A label whose access key reaches its control.
+QLabel* Titulo(const char* text, QWidget* control) {
   auto* label = new QLabel(QString::fromUtf8(text));
+  // The underlined letter makes the text a little wider than it is measured.
+  label->setMinimumWidth(label->sizeHint().width() + 3);
   label->setBuddy(control);
+  return label;
+}
+
+// A label and its control in one row.
+QHBoxLayout* Fila(const char* text, QWidget* control) {
   auto* row = new QHBoxLayout;
-  row->addWidget(label);
+  row->addWidget(Titulo(text, control));
   row->addWidget(control, 1);
   return row;
 }
@@ -66,7 +73,7 @@ QHBoxLayout* Fila(const char* text, QWidget* control) {
 struct BotonDeBarra {
   const char* clave;
   const char* texto;
-  const char* signo;
+  QIcon signo;
 };
 
 // A toolbar of buttons that stay pressed; `exclusive` lets only one be.
@@ -75,9 +82,8 @@ QToolBar* BarraDeBotones(const char* name, std::initializer_list<BotonDeBarra> b
   auto* group = new QActionGroup(bar);
   group->setExclusive(exclusive);
   for (const BotonDeBarra& b : buttons) {
-    QAction* action = bar->addAction(QString::fromUtf8(b.signo));
+    QAction* action = bar->addAction(b.signo, QString::fromUtf8(b.texto));
     action->setObjectName(b.clave);
-    action->setToolTip(QString::fromUtf8(b.texto));
     action->setCheckable(true);
     group->addAction(action);
   }
@@ -136,14 +142,12 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
 void frmOpcAlgoritmo::CrearTamaño(QVBoxLayout* layout) {
   sldTamaño_ =
       Deslizador("sldTamaño", 1, 198, 100, "Tanto por ciento de los caracteres que caben en la pantalla");
-  auto* title = new QLabel(QStringLiteral("&Tamaño"));
-  title->setBuddy(sldTamaño_);
   lblTamañoAsciiMin_ = Etiqueta("lblTamañoAsciiMin", "Mín.", "El tamaño más pequeño");
   lbl100_ = Etiqueta("lbl100", "100 %", "Tantos caracteres como caben en la pantalla");
   lblTamañoAsciiMax_ = Etiqueta("lblTamañoAsciiMax", "Máx.", "El tamaño más grande");
   auto* grid = new QGridLayout;
   grid->setVerticalSpacing(0);
-  grid->addWidget(title, 0, 0);
+  grid->addWidget(Titulo("&Tamaño", sldTamaño_), 0, 0);
   grid->addWidget(sldTamaño_, 0, 1, 1, 3);
   grid->addWidget(lblTamañoAsciiMin_, 1, 1, Qt::AlignLeft);
   grid->addWidget(lbl100_, 1, 2, Qt::AlignHCenter);
@@ -180,9 +184,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaWeb() {
   lblTamañowebMin_ = Etiqueta("lblTamañowebMin", "Mín.", "Un píxel de cada cinco");
   lblTamañowebMax_ = Etiqueta("lblTamañowebMax", "Máx.", "Todos los píxeles");
   auto* size = new QHBoxLayout;
-  auto* title = new QLabel(QStringLiteral("&Detalle"));
-  title->setBuddy(sldWTamaño_);
-  size->addWidget(title);
+  size->addWidget(Titulo("&Detalle", sldWTamaño_));
   size->addWidget(lblTamañowebMin_);
   size->addWidget(sldWTamaño_, 1);
   size->addWidget(lblTamañowebMax_);
@@ -191,9 +193,11 @@ QWidget* frmOpcAlgoritmo::CrearPaginaWeb() {
   lblWebBackColor_ = MuestraDeColor("lblWebBackColor", "Color del fondo", fondoWeb_);
   auto* row = Fila("Color del fondo", lblWebBackColor_);
   row->addStretch(1);
-  row->addWidget(BarraDeBotones(
-      "TBWebAlinea",
-      {{"Izquierda", "Izquierda", "⇤"}, {"Centrado", "Centrado", "↔"}, {"Derecha", "Derecha", "⇥"}}, true));
+  row->addWidget(BarraDeBotones("TBWebAlinea",
+                                {{"Izquierda", "Izquierda", IconoDeRenglones(Qt::AlignLeft)},
+                                 {"Centrado", "Centrado", IconoDeRenglones(Qt::AlignHCenter)},
+                                 {"Derecha", "Derecha", IconoDeRenglones(Qt::AlignRight)}},
+                                true));
   layout->addLayout(row);
 
   mrcweb_[0] = named<QWidget>("mrcweb(0)");
@@ -218,10 +222,10 @@ void frmOpcAlgoritmo::CrearBordesWeb(QVBoxLayout* layout) {
   auto* row = new QHBoxLayout;
   row->addWidget(new QLabel(QStringLiteral("Bordes")));
   row->addWidget(BarraDeBotones("TBBordesWeb",
-                                {{"WebBArriba", "Borde superior", "▔"},
-                                 {"WebBAbajo", "Borde inferior", "▁"},
-                                 {"WebBDerecha", "Borde derecho", "▕"},
-                                 {"WebBIzquierda", "Borde izquierdo", "▏"}},
+                                {{"WebBArriba", "Borde superior", IconoDeBorde(Qt::TopEdge)},
+                                 {"WebBAbajo", "Borde inferior", IconoDeBorde(Qt::BottomEdge)},
+                                 {"WebBDerecha", "Borde derecho", IconoDeBorde(Qt::RightEdge)},
+                                 {"WebBIzquierda", "Borde izquierdo", IconoDeBorde(Qt::LeftEdge)}},
                                 false));
   row->addStretch(1);
   layout->addLayout(row);

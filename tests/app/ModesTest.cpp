@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTest>
 #include <QToolButton>
@@ -69,6 +70,7 @@ class ModesTest : public QObject {
   void SwatchesColourTheText();
   void WebPaletteEnablesItsText();
   void FillReachesTheOutlines();
+  void GeneratingKeepsThePlaceAndTheAnimationNeedsNoPreview();
   void SettingsAreWritten();
 };
 
@@ -116,6 +118,8 @@ void ModesTest::OptionsRegenerateWithGrayscaleWhateverTheMode() {
   m.Do_([&] { Find<QComboBox>(m.window, "cboPaletas").setCurrentIndex(3); });
   QVERIFY(m.Text() == m.Expected(kGrayscale));
   QVERIFY(m.Text().find_first_not_of("0123456789\r\n") == std::string::npos);
+  m.Do_([&] { emit Find<QComboBox>(m.window, "cboPaletas").activated(3); });  // the same item once more
+  QVERIFY(m.Text() == m.Expected(kGrayscale));
 
   m.Do_([&] { Find<QComboBox>(m.window, "cboPaletas").setCurrentIndex(1); });
   m.Do_([&] { Find<QCheckBox>(m.window, "chkAsciiNegativo").click(); });
@@ -227,6 +231,8 @@ void ModesTest::WebPaletteEnablesItsText() {
   palette.setFocus();
   QTest::keyClick(&palette, Qt::Key_Up);
   QVERIFY(!text.isEnabled());
+  palette.setCurrentIndex(1);
+  QVERIFY(text.isEnabled());
 }
 
 void ModesTest::FillReachesTheOutlines() {
@@ -237,6 +243,25 @@ void ModesTest::FillReachesTheOutlines() {
   Find<QCheckBox>(m.window, "chkRelleno").click();
   m.Trigger("Play");
   QVERIFY(m.Text().find(":::::") != std::string::npos);
+}
+
+void ModesTest::GeneratingKeepsThePlaceAndTheAnimationNeedsNoPreview() {
+  Loaded m;
+  Find<QSlider>(m.window, "sldTamaño").setValue(198);
+  m.Trigger("Play");
+  m.window.areaDeTexto().verticalScrollBar()->setValue(20);
+  m.window.areaDeTexto().horizontalScrollBar()->setValue(30);
+  m.Trigger("Play");
+  QCOMPARE(m.window.areaDeTexto().verticalScrollBar()->value(), 20);
+  QCOMPARE(m.window.areaDeTexto().horizontalScrollBar()->value(), 30);
+
+  Find<QCheckBox>(m.window, "chkAsciiPrev").setChecked(true);
+  Find<QCheckBox>(m.window, "chkAnimArt").setChecked(true);
+  m.window.GenerateAscii(kGrayscale);
+  QVERIFY(!m.window.findChild<QWidget*>("frmPreview"));
+  Find<QCheckBox>(m.window, "chkAnimArt").setChecked(false);
+  m.window.GenerateAscii(kGrayscale);
+  QVERIFY(m.window.findChild<QWidget*>("frmPreview"));
 }
 
 void ModesTest::SettingsAreWritten() {
