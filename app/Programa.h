@@ -33,4 +33,8 @@ struct Programa {
   BasEditor basEditor{};
 };
 
+// The start-up's step before the window: reads the pattern file. False, after the message, where the program
+// has to end.
+bool CargarPaleta3x2(Programa& program);
+
 }  // namespace pixmosa

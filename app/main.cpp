@@ -29,12 +29,7 @@ int main(int argc, char** argv) {
   QtShell shell;
   QtRegistry registry;
   Programa program{{surface, pictures, dialogs, shell, registry}, ProgramFolder()};
-  try {
-    program.basAscii.Palette3x2 = LoadPalette3x2(program.carpeta);
-  } catch (const Palette3x2Error& e) {
-    dialogs.Fail(e.what(), {});
-    return 1;
-  }
+  if (!CargarPaleta3x2(program)) return 1;
   frmMain window(program);
   dialogs.SetOwner(&window);
   window.show();

@@ -72,6 +72,7 @@ class ModesTest : public QObject {
   void FillReachesTheOutlines();
   void GeneratingKeepsThePlaceAndTheAnimationNeedsNoPreview();
   void SettingsAreWritten();
+  void StartEndsWithoutThePatternFile();
 };
 
 void ModesTest::EachModeShowsItsGroups() {
@@ -283,6 +284,16 @@ void ModesTest::SettingsAreWritten() {
   m.dialogs.log.clear();
   m.Trigger("mnuGrabarIni");
   QVERIFY2(m.dialogs.log.empty(), "a folder that cannot be written is silent");
+}
+
+void ModesTest::StartEndsWithoutThePatternFile() {
+  test::MainWindow m;
+  QVERIFY(m.dialogs.log.empty());
+  m.program.carpeta = m.folder.Path();
+  QVERIFY(!CargarPaleta3x2(m.program));
+  QCOMPARE(m.dialogs.log,
+           std::vector<std::string>{"Fail||No se ha encontrado el archivo con la paleta 3x2. Restaurelo, o "
+                                    "instale nuevamente la aplicación"});
 }
 
 QTEST_MAIN(ModesTest)

@@ -2,6 +2,7 @@
 
 #include <QImage>
 
+#include "conversion/Palette3x2.h"
 #include "platform/CodePage.h"
 #include "platform/qt/QtPicture.h"
 #include "tests/support/DrawnPicture.h"
@@ -62,6 +63,46 @@ TEST_F(OrdenAsciiTest, OptionsReachTheConversion) {
       << "dark rows are dropped";
   EXPECT_NE(with({"--puntos", "40"}), plain);
   EXPECT_EQ(with({"--fuente", "DejaVu Sans Mono"}), plain) << "the font that stands for the start-up font";
+}
+
+TEST_F(OrdenAsciiTest, EachMethodWithItsOptions) {
+  // A black square with a white frame, wide enough for several characters.
+  Picture p = Picture::Filled(200, 200, kWhite);
+  for (int y = 50; y < 150; ++y) std::fill_n(p.Writable() + y * 200 + 50, 100, 0xFF000000U);
+  Save(picture, p);
+  const auto lines = [&](const std::vector<std::string>& more) {
+    std::vector<std::string> words = {"ascii", picture, "--columnas", "20"};
+    words.insert(words.end(), more.begin(), more.end());
+    const Resultado r = Cli(words);
+    EXPECT_EQ(r.status, 0) << r.err;
+    return r.out;
+  };
+  EXPECT_EQ(lines({"--metodo", "grises"}), lines({}));
+  const std::string edges = lines({"--metodo=bordes"}), filled = lines({"--metodo=bordes", "--relleno"});
+  EXPECT_NE(edges.find("\n     |        |     \n"), std::string::npos) << edges;
+  EXPECT_NE(filled.find("\n     |::::::::|     \n"), std::string::npos) << filled;
+  const std::string full(10, LoadPalette3x2(ProgramFolder()).Characters[63].value());
+  const std::string blocks = lines({"--metodo", "antialias"});
+  EXPECT_NE(blocks.find("\n     " + full.substr(0, 9)), std::string::npos) << blocks;
+  EXPECT_TRUE(blocks.starts_with(std::string(20, ' ') + "\n"));
+}
+
+TEST_F(OrdenAsciiTest, OnlyBlocksNeedThePatternFile) {
+  const std::string program = folder.File("pixmosa-cli");
+  std::filesystem::copy_file(ProgramFolder() / "pixmosa-cli", program);
+  for (const std::string method : {"grises", "bordes"})
+    EXPECT_EQ(test::RunProgram(program, {"ascii", picture, "--metodo", method}).status, 0) << method;
+  EXPECT_EQ(test::RunProgram(program, {"--version"}).status, 0);
+  const std::string twice = "..\r\n..\r\n..\r\na\r\n\r\n";
+  for (const bool there : {false, true}) {
+    if (there) EscribirArchivo(folder.File("Paleta 3x2.txt"), twice + twice);
+    const Resultado r = test::RunProgram(program, {"ascii", picture, "--metodo", "antialias"});
+    EXPECT_EQ(r.status, 1);
+    EXPECT_EQ(r.out, "");
+    EXPECT_EQ(r.err,
+              "pixmosa-cli: No se ha encontrado el archivo con la paleta 3x2. Restaurelo, o instale "
+              "nuevamente la aplicación.\n");
+  }
 }
 
 TEST_F(OrdenAsciiTest, SeveralPicturesGoToAFolder) {

@@ -52,7 +52,7 @@ struct MainWindow {
 
   // The start-up work that stands before the window.
   static Programa& Ready(Programa& program) {
-    program.basAscii.Palette3x2 = LoadPalette3x2(program.carpeta);
+    CargarPaleta3x2(program);
     return program;
   }
 
