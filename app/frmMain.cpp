@@ -211,6 +211,9 @@ void frmMain::Arrancar() {
   auto* area = new QVBoxLayout(PicAlgoritmos_);
   area->setContentsMargins(0, 0, 0, 0);
   area->addWidget(opciones_ = new frmOpcAlgoritmo(*this, PicAlgoritmos_));
+  // The text area keeps the Tab key to itself: it comes last, after the options.
+  setTabOrder(previousInFocusChain(), chkAsciiPrev_);
+  setTabOrder(chkAsciiPrev_, txtAscii_);
   programa_.basAscii.CountedColour = kWhite;
   programa_.basAscii.AsciiColumns = 250;
   RebuildCharacterTables(programa_.basAscii, programa_.ajustes, programa_.plataforma.superficie);

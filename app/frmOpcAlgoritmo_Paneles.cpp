@@ -86,6 +86,9 @@ QToolBar* BarraDeBotones(const char* name, std::initializer_list<BotonDeBarra> b
     action->setObjectName(b.clave);
     action->setCheckable(true);
     group->addAction(action);
+    QWidget* button = bar->widgetForAction(action);
+    button->setObjectName(b.clave);
+    button->setFocusPolicy(Qt::TabFocus);
   }
   return bar;
 }
