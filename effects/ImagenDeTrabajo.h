@@ -11,6 +11,8 @@ struct ImagenDeTrabajo {
   Picture picMain;          // the picture as it is now, edited by effects, flips and mirrors
   Picture picMainAsignada;  // the picture last assigned: by loading, by undo, by applying the dialog
   Picture picUndo;          // the picture before the last effect, flip or mirror
+  unsigned Asignaciones =
+      0;  // how often a picture was assigned; an effect whose picture was replaced is lost
 
   // A loaded file: the working picture and its undo copy.
   void Cargar(Picture loaded) {
@@ -22,6 +24,7 @@ struct ImagenDeTrabajo {
   void Asignar(Picture picture) {
     picMain = std::move(picture);
     picMainAsignada = picMain;
+    ++Asignaciones;
   }
 
   void SaveUndo() { picUndo = picMain; }
@@ -30,7 +33,7 @@ struct ImagenDeTrabajo {
   void Deshacer() { Asignar(picUndo); }
 
   // "Volver a la imagen original": throws away the edits since the last assignment.
-  void VolverALaOriginal() { picMain = picMainAsignada; }
+  void VolverALaOriginal() { Asignar(picMainAsignada); }
 };
 
 }  // namespace pixmosa

@@ -55,6 +55,9 @@ class Picture {
 
   bool SharesBlockWith(const Picture& other) const { return block_ == other.block_; }
 
+  // Nobody else holds the block.
+  bool EsUnica() const { return block_.use_count() == 1; }
+
   // The block itself, for a surface that shows it without copying.
   std::shared_ptr<const std::uint32_t[]> Block() const { return block_; }
 
