@@ -1,6 +1,7 @@
 // Colour swatches.
 #pragma once
 
+#include <QPainter>
 #include <QPushButton>
 
 #include "platform/Colour.h"
@@ -15,6 +16,10 @@ inline QColor QColorOf(Colour colour) {
 inline void PintarMuestra(QPushButton* swatch, Colour colour) {
   QPixmap fill(28, 14);
   fill.fill(QColorOf(colour));
+  QPainter frame(&fill);
+  frame.setPen(Qt::gray);
+  frame.drawRect(fill.rect().adjusted(0, 0, -1, -1));
+  frame.end();
   swatch->setIcon(fill);
 }
 
