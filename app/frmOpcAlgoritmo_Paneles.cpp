@@ -10,6 +10,7 @@
 #include <QSlider>
 #include <QToolBar>
 #include <QToolButton>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include "app/IconosDePanel.h"
@@ -44,6 +45,8 @@ QSlider* Deslizador(const char* name, int minimum, int maximum, int value, const
   slider->setRange(minimum, maximum);
   slider->setValue(value);
   slider->setToolTip(QString::fromUtf8(help));
+  QObject::connect(slider, &QSlider::sliderMoved, slider,
+                   [](int v) { QToolTip::showText(QCursor::pos(), QString::number(v)); });
   return slider;
 }
 
@@ -107,6 +110,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
   mrcAscii_[0] = named<QWidget>("mrcAscii(0)");
   QVBoxLayout* gray = Columna(mrcAscii_[0]);
   sldLuminosidad_ = Deslizador("sldLuminosidad", -100, 100, 0, "Aclara u oscurece el dibujo");
+  sldLuminosidad_->setAccessibleName(QStringLiteral("Luminosidad"));
   label1_ = Etiqueta("Label1", "Luminosidad", "Vuelve a poner la luminosidad en 0");
   auto* light = new QHBoxLayout;
   light->addWidget(label1_);
