@@ -11,6 +11,8 @@
 #include "platform/Registry.h"
 #include "platform/Shell.h"
 #include "platform/TextSurface.h"
+#include "web/basGIF.h"
+#include "web/basWeb.h"
 
 namespace pixmosa {
 
@@ -31,6 +33,9 @@ struct Programa {
   BasAscii basAscii{};
   AsciiSettings ajustes{};
   BasEditor basEditor{};
+  BasWeb basWeb{};
+  BasGif basGif{};
+  Random azar{};
 };
 
 // The start-up's step before the window: reads the pattern file. False, after the message, where the program

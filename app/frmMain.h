@@ -4,7 +4,10 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
+#include <vector>
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 
 #include "app/Programa.h"
@@ -13,6 +16,7 @@
 class QCheckBox;
 class QLabel;
 class QProgressBar;
+class QPushButton;
 class QVBoxLayout;
 
 namespace pixmosa {
@@ -52,6 +56,13 @@ class frmMain final : public QMainWindow {
   void ComputeColumnCount();
   void GrabarIni();
 
+  // --- frmMain_Web.cpp ---
+  void GenerarWebArt(bool exactCopy);
+  void ElegirFondoWeb(QPushButton* swatch, Colour& colour);
+  void ElegirFotogramas();
+  void AnimArtDeGif();
+  void AnimArtDirectorio();
+
   // --- frmMain_Ventanas.cpp ---
   void MapaDeCaracteres();
   void MostrarImagenCompleta();
@@ -89,6 +100,12 @@ class frmMain final : public QMainWindow {
   void CrearBarraDeEstado();
   void Arrancar();
 
+  void CortarFotogramas(const std::filesystem::path& file);  // throws FileError
+  void GenerarAnimArt(const std::vector<std::filesystem::path>& frames);
+  std::string TextoDeFotograma(const std::vector<std::filesystem::path>& frames, std::size_t k);
+  void AbrirPagina(const std::string& file);
+  void Ocupar(bool busy);  // while a long work lets events in: nothing else can be started
+
   Programa& programa_;
   AreaDeTexto* txtAscii_ = nullptr;
   MarcoDeImagen* marco_ = nullptr;
@@ -102,6 +119,9 @@ class frmMain final : public QMainWindow {
   std::optional<QtProgress> progreso_;
   frmPreview* preview_ = nullptr;
   frmEditor* editor_ = nullptr;
+  bool ocupada_ = false;        // an animation is being written
+  bool cerrarDespues_ = false;  // the user closed the window meanwhile
+  QElapsedTimer desdeElTexto_;
 };
 
 }  // namespace pixmosa

@@ -24,7 +24,9 @@ void frmMain::CargarImagen() {
 
 bool frmMain::AbrirImagen(const std::filesystem::path& file) {
   try {
-    programa_.imagen.Cargar(programa_.plataforma.imagenes.Read(file));
+    Picture loaded = programa_.plataforma.imagenes.Read(file);
+    CortarFotogramas(file);
+    programa_.imagen.Cargar(std::move(loaded));
   } catch (const std::exception& e) {
     // The message is the program's own; the reason stands in the status bar.
     statusBar()->showMessage(Q(e.what()), kMilisegundosDeAviso);

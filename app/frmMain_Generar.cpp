@@ -19,9 +19,21 @@ void frmMain::Play() {
   }
   switch (IndiceDelModo()) {
     case kModoGrises:
+      if (opciones_->AnimArt()) {
+        AnimArtDeGif();
+      } else {
+        GenerateAscii(kGrayscale);
+      }
+      break;
     case kModoBordes:
     case kModoAntialias:
       GenerateAscii(IndiceDelModo());
+      break;
+    case kModoMosaico:
+      GenerarWebArt(false);
+      break;
+    case kModoCopiaExacta:
+      GenerarWebArt(true);
       break;
     default:
       break;

@@ -44,6 +44,11 @@ void frmMain::AbrirEditor() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
+  if (ocupada_) {
+    cerrarDespues_ = true;
+    event->ignore();
+    return;
+  }
   // The editor may hold changes that only it knows of; it asks.
   event->setAccepted(!editor_ || !editor_->isVisible() || editor_->close());
 }

@@ -1,5 +1,6 @@
 #include "app/frmOpcAlgoritmo.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFrame>
@@ -14,6 +15,7 @@
 #include "app/Muestra.h"
 #include "app/frmMain.h"
 #include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/QtText.h"
 
 namespace pixmosa {
 namespace {
@@ -77,6 +79,9 @@ void frmOpcAlgoritmo::Conectar() {
 }
 
 void frmOpcAlgoritmo::ConectarWeb() {
+  connect(cmdGIFAvance_, &QAbstractButton::clicked, this, [this] { window_.ElegirFotogramas(); });
+  connect(lblWebBackColor_, &QAbstractButton::clicked, this,
+          [this] { window_.ElegirFondoWeb(lblWebBackColor_, fondoWeb_); });
   connect(lblTamañowebMin_, &QAbstractButton::clicked, this,
           [this] { sldWTamaño_->setValue(sldWTamaño_->minimum()); });
   connect(lblTamañowebMax_, &QAbstractButton::clicked, this,
@@ -106,6 +111,17 @@ void frmOpcAlgoritmo::LlenarAjustes(AsciiSettings& settings) const {
 
 bool frmOpcAlgoritmo::AnimArt() const {
   return chkAnimArt_->isChecked();
+}
+
+void frmOpcAlgoritmo::LlenarAjustesWeb(WebSettings& settings) const {
+  settings.tamaño = sldWTamaño_->value();
+  settings.paleta = cboPaletaWeb_->currentIndex();
+  settings.textoPaleta = BytesOfQString(txtPaletaWeb_->text());
+  const auto pressed = [this](const char* key) { return findChild<QAction*>(key)->isChecked(); };
+  settings.bordeArriba = pressed("WebBArriba");
+  settings.bordeAbajo = pressed("WebBAbajo");
+  settings.bordeDerecha = pressed("WebBDerecha");
+  settings.bordeIzquierda = pressed("WebBIzquierda");
 }
 
 Colour frmOpcAlgoritmo::ColorDeFondo() const {
@@ -165,6 +181,7 @@ void frmOpcAlgoritmo::Regenerar(int method) {
 
 void frmOpcAlgoritmo::PonerAnimArtDisponible(bool available) {
   chkAnimArt_->setEnabled(available);
+  if (!available) chkAnimArt_->setChecked(false);
   cmdGIFAvance_->setEnabled(available);
   const QColor back = available ? QColor(Qt::white) : kMarino, text = available ? kMarino : QColor(Qt::white);
   QPalette colours = mrcAnimArt_->palette();

@@ -5,6 +5,7 @@
 
 #include "conversion/basAscii.h"
 #include "platform/qt/UltimoValor.h"
+#include "web/basWeb.h"
 
 class QAbstractButton;
 class QCheckBox;
@@ -35,6 +36,9 @@ class frmOpcAlgoritmo final : public QWidget {
 
   // The AnimArt group's state: enabled and light, or disabled and navy.
   void PonerAnimArtDisponible(bool available);
+
+  // The same for the WebArt page.
+  void LlenarAjustesWeb(WebSettings& settings) const;
 
   // "Generar AnimArt del GIF" is ticked.
   bool AnimArt() const;

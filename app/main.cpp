@@ -1,8 +1,11 @@
+#include <memory>
+
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
 
 #include "app/frmMain.h"
+#include "platform/PrivateFolder.h"
 #include "platform/ProgramFolder.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtPictureCodec.h"
@@ -30,6 +33,13 @@ int main(int argc, char** argv) {
   QtRegistry registry;
   Programa program{{surface, pictures, dialogs, shell, registry}, ProgramFolder()};
   if (!CargarPaleta3x2(program)) return 1;
+  std::unique_ptr<PrivateFolder> scratch;
+  try {
+    scratch = std::make_unique<PrivateFolder>(std::filesystem::temp_directory_path(), "KTW");
+    program.basGif.carpeta = scratch->Path();
+  } catch (const std::exception& e) {
+    dialogs.Fail(e.what(), {});  // pictures load all the same; only animated GIFs are not cut
+  }
   frmMain window(program);
   dialogs.SetOwner(&window);
   window.show();

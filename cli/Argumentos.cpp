@@ -74,6 +74,12 @@ std::optional<std::string> Argumentos::Texto(const std::string& option) const {
   return at == valores_.end() ? std::nullopt : std::optional(at->second);
 }
 
+std::string Argumentos::Exigir(const std::string& option) const {
+  const auto at = valores_.find(option);
+  if (at == valores_.end()) throw ErrorDeUso("falta la opción " + option);
+  return at->second;
+}
+
 int Argumentos::Entero(const std::string& option, int otherwise) const {
   const auto at = valores_.find(option);
   return at == valores_.end() ? otherwise : EnteroDeTexto(at->second, INT_MIN, INT_MAX).value_or(otherwise);

@@ -44,6 +44,8 @@ class Argumentos {
   const std::vector<std::string>& Operandos() const { return operandos_; }
   bool Tiene(const std::string& option) const { return valores_.contains(option); }
   std::optional<std::string> Texto(const std::string& option) const;
+  // The value of an option that must be there. Throws ErrorDeUso.
+  std::string Exigir(const std::string& option) const;
   int Entero(const std::string& option, int otherwise) const;
 
   // Throws ErrorDeUso unless there are between least and most operands; `what` names them.

@@ -3,10 +3,13 @@
 #include <string>
 
 #include "cli/Orden.h"
+#include "cli/OrdenAnim.h"
 #include "cli/OrdenAscii.h"
 #include "cli/OrdenEstadisticas.h"
+#include "cli/OrdenFotogramas.h"
 #include "cli/OrdenFuentes.h"
 #include "cli/OrdenTabla.h"
+#include "cli/OrdenWeb.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -48,7 +51,9 @@ int Despachar(Consola& consola, std::span<const std::string> words) {
 }  // namespace
 
 std::span<const Orden> Ordenes() {
-  static const std::vector<Orden> orders = {OrdenAscii(), OrdenTabla(), OrdenFuentes(), OrdenEstadisticas()};
+  static const std::vector<Orden> orders = {OrdenAscii(),       OrdenTabla(), OrdenWeb(),
+                                            OrdenFotogramas(),  OrdenAnim(),  OrdenFuentes(),
+                                            OrdenEstadisticas()};
   return orders;
 }
 

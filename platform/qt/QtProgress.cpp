@@ -31,4 +31,8 @@ void QtProgress::Yield() {
   since_.restart();
 }
 
+void QtProgress::Repintar() {
+  if (bar_) bar_->window()->repaint();
+}
+
 }  // namespace pixmosa

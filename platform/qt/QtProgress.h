@@ -19,6 +19,9 @@ class QtProgress final : public Progress {
   void SetValue(int percent) override;
   void Yield() override;
 
+  // Shows the bar as it is now, before work that does not yield.
+  void Repintar();
+
  private:
   QPointer<QProgressBar> bar_;
   QElapsedTimer since_;

@@ -21,6 +21,7 @@ namespace pixmosa::test {
 
 struct MainWindow {
   TestFolder folder;
+  TestFolder scratch;
   QtTextSurface surface;
   QtPictureCodec pictures;
   RecordingDialogs dialogs;
@@ -51,9 +52,10 @@ struct MainWindow {
   }
 
   // The start-up work that stands before the window.
-  static Programa& Ready(Programa& program) {
-    CargarPaleta3x2(program);
-    return program;
+  Programa& Ready(Programa& p) {
+    CargarPaleta3x2(p);
+    p.basGif.carpeta = scratch.Path();
+    return p;
   }
 
   std::string Text() { return window.areaDeTexto().Texto(); }

@@ -1,0 +1,48 @@
+#include "cli/OrdenFotogramas.h"
+
+#include <filesystem>
+
+#include "platform/AtomicFile.h"
+#include "web/basGIF.h"
+
+namespace pixmosa::cli {
+
+std::string LeerGif(Consola& consola, const std::string& operand) {
+  std::string bytes = consola.LeerBytes(operand);
+  if (!bytes.starts_with("GIF8")) throw ErrorDeTrabajo("El archivo \"" + operand + "\" no es un GIF.");
+  return bytes;
+}
+
+namespace {
+
+int Hacer(Consola& consola, const Argumentos& arguments) {
+  arguments.ExigirOperandos(1, 1, "el GIF");
+  const std::string operand = arguments.Operandos()[0], folder = arguments.Exigir("-o");
+  const std::string gif = LeerGif(consola, operand);
+  const GifCut cut = CutGif(gif);
+  if (cut.positions.empty()) throw ErrorDeTrabajo("El GIF \"" + operand + "\" no tiene fotogramas.");
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  if (error)
+    throw ErrorDeTrabajo("No se ha podido crear la carpeta \"" + folder +
+                         "\": " + RazonDelError(error.value()) + ".");
+  EscribirFotogramas(cut, gif, folder);
+  std::string s;
+  for (std::size_t i = 0; i < cut.positions.size(); ++i)
+    s += NumeroDeFotograma(i + 1) + "\t" + std::to_string(cut.positions[i]) + "\n";
+  consola.Escribir(s);
+  return 0;
+}
+
+}  // namespace
+
+Orden OrdenFotogramas() {
+  return {"fotogramas",
+          "GIF -o CARPETA",
+          "Separa los fotogramas de un GIF y dice dónde empieza cada uno.",
+          "pixmosa-cli fotogramas baile.gif -o fotogramas",
+          {{"-o", Tipo::Texto, "CARPETA", "carpeta donde se escriben; se crea si falta"}},
+          Hacer};
+}
+
+}  // namespace pixmosa::cli

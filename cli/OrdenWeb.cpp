@@ -1,0 +1,81 @@
+#include "cli/OrdenWeb.h"
+
+#include <array>
+#include <climits>
+
+#include "cli/Lista.h"
+#include "platform/AtomicFile.h"
+#include "platform/CodePage.h"
+#include "web/basWeb.h"
+
+namespace pixmosa::cli {
+namespace {
+
+Colour FondoDe(const std::string& text) {
+  std::array<int, 3> parts{};
+  const std::vector<std::string> words = Separar(text);
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const auto part = EnteroDeTexto(words[i], 0, 255);
+    if (!part || words.size() != 3)
+      throw ErrorDeUso("la opción --fondo espera tres números de 0 a 255, como 0,0,128, no \"" + text + "\"");
+    parts[i] = *part;
+  }
+  return Rgb(parts[0], parts[1], parts[2]);
+}
+
+void PonerBordes(WebSettings& settings, const std::string& text) {
+  for (const std::string& side : Separar(text)) {
+    if (side == "arriba") {
+      settings.bordeArriba = true;
+    } else if (side == "abajo") {
+      settings.bordeAbajo = true;
+    } else if (side == "derecha") {
+      settings.bordeDerecha = true;
+    } else if (side == "izquierda") {
+      settings.bordeIzquierda = true;
+    } else {
+      throw ErrorDeUso("la opción --bordes espera arriba, abajo, derecha o izquierda, no \"" + side + "\"");
+    }
+  }
+}
+
+int Hacer(Consola& consola, const Argumentos& arguments) {
+  arguments.ExigirOperandos(1, 1, "la imagen");
+  const std::string file = arguments.Exigir("-o");
+  WebSettings settings;
+  settings.exactCopy = arguments.Tiene("--copia-exacta");
+  settings.tamaño = arguments.Entero("--detalle", settings.tamaño);
+  if (const auto text = arguments.Texto("--texto")) {
+    settings.paleta = 1;
+    settings.textoPaleta = BytesOfUtf8(*text);
+  }
+  if (const auto sides = arguments.Texto("--bordes")) PonerBordes(settings, *sides);
+  BasWeb web;
+  if (const auto colour = arguments.Texto("--fondo")) web.Fondo = TextoDeFondo(FondoDe(*colour));
+  Random random;
+  if (arguments.Tiene("--semilla")) random.Seed(static_cast<std::uint64_t>(arguments.Entero("--semilla", 0)));
+
+  const Picture picture = consola.LeerImagen(arguments.Operandos()[0]);
+  PrepararPaleta(web, settings, random);
+  EscribirWebArt(web, settings, picture, file);
+  return 0;
+}
+
+}  // namespace
+
+Orden OrdenWeb() {
+  return {"web",
+          "IMAGEN -o PAGINA.html",
+          "Escribe una página HTML en la que cada carácter lleva el color de la imagen.",
+          "pixmosa-cli web foto.jpg -o foto.html --texto \"hola \"",
+          {{"-o", Tipo::Texto, "PAGINA.html", "la página que se escribe"},
+           {"--copia-exacta", Tipo::Interruptor, "", "una copia de la imagen; si falta, un mosaico"},
+           {"--detalle", Tipo::Entero, "N", "5 escribe cada píxel, 1 uno de cada cinco; si falta, 3", 1, 5},
+           {"--texto", Tipo::Texto, "TEXTO", "caracteres del mosaico; si falta, ceros y unos al azar"},
+           {"--bordes", Tipo::Texto, "LISTA", "en la copia exacta: arriba,abajo,derecha,izquierda"},
+           {"--fondo", Tipo::Texto, "R,G,B", "color del fondo; si falta, 0,0,0"},
+           {"--semilla", Tipo::Entero, "N", "repite los mismos ceros y unos", 0, INT_MAX}},
+          Hacer};
+}
+
+}  // namespace pixmosa::cli

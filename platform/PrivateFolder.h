@@ -1,0 +1,34 @@
+// A folder for the program's own passing files, below a place where everybody may write. Uses the system's
+// own file calls: the standard library cannot tell a folder's owner or lock it.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace pixmosa {
+
+class PrivateFolder {
+ public:
+  // Creates `parent`/`name` with access for nobody else, or takes over one that is this user's own, closed to
+  // others, no link, and in use by no other running program. What cannot be trusted is left alone and a
+  // folder of another name is made. Throws FileError where none can be.
+  PrivateFolder(const std::filesystem::path& parent, const std::string& name);
+
+  // Deletes the files "*.bmp" and then the folder, if nothing else remains in it.
+  ~PrivateFolder();
+  PrivateFolder(const PrivateFolder&) = delete;
+  PrivateFolder& operator=(const PrivateFolder&) = delete;
+
+  const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  bool Take(const std::filesystem::path& path);
+
+  std::filesystem::path path_;
+  int lock_ = -1;
+};
+
+// Deletes the files of a folder whose names end in ".bmp". Errors are ignored.
+void BorrarBmp(const std::filesystem::path& folder);
+
+}  // namespace pixmosa

@@ -1,0 +1,97 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+
+#include "platform/qt/QtPicture.h"
+#include "tests/support/DrawnPicture.h"
+#include "tests/support/Gif.h"
+#include "tests/support/RunProgram.h"
+
+using namespace pixmosa;
+using test::Cli;
+using test::Gif;
+
+class OrdenWebTest : public testing::Test {
+ protected:
+  test::TestFolder folder;
+  std::string picture = folder.File("i.png"), page = folder.File("p.html"), gif = folder.File("a.gif");
+
+  void SetUp() override {
+    ImageOf(Picture::Filled(4, 2, Rgb(1, 2, 3))).save(QString::fromStdString(picture));
+    EscribirArchivo(gif, Gif({1, 0, 1}));
+  }
+
+  std::string Page(std::vector<std::string> words) {
+    words.insert(words.end(), {"-o", page});
+    const test::Resultado r = Cli(words);
+    EXPECT_EQ(r.err, "");
+    EXPECT_EQ(r.status, 0);
+    return LeerArchivo(page);
+  }
+};
+
+TEST_F(OrdenWebTest, MosaicAndExactCopy) {
+  EXPECT_EQ(Page({"web", picture, "--detalle", "5", "--texto", "ñb", "--fondo", "10,0,255"}),
+            "<html>\r\n\r\n<head><body bgcolor=\"#A00FF\">\r\n<br>\r\n"
+            "<div align=\"center\"><font face=\"Courier New \" size=\"1\">\r\n"
+            "<font color=\"rgb(1,2,3)\">\xF1"
+            "b\xF1"
+            "b<br>\r\n</div>\r\n</body>\r\n\r\n</html>\r\n");
+  const std::string copy =
+      Page({"web", picture, "--copia-exacta", "--detalle=5", "--bordes", "abajo,izquierda"});
+  EXPECT_NE(copy.find("<font color=\"rgb(-1,0,0)\">0</font><font color=\"rgb(1,2,3)\">0000<br>\r\n"),
+            std::string::npos);
+  EXPECT_EQ(Page({"web", picture, "--semilla", "5"}), Page({"web", picture, "--semilla", "5"}));
+  EXPECT_NE(Page({"web", picture, "--detalle=5", "--semilla", "5"}),
+            Page({"web", picture, "--detalle=5", "--semilla", "6"}));
+}
+
+TEST_F(OrdenWebTest, FramesOfAGif) {
+  const test::Resultado r = Cli({"fotogramas", gif, "-o", folder.File("f/g")});
+  EXPECT_EQ(r.out, "01\t26\n02\t49\n03\t72\n");
+  EXPECT_EQ(LeerArchivo(folder.File("f/g/Fotograma 03.bmp")), test::GifHeader() + test::GifFrame(1));
+}
+
+TEST_F(OrdenWebTest, AnimationsOfAGifAndAFolder) {
+  const std::string all = Page({"anim", gif, "--columnas", "2"});
+  EXPECT_NE(all.find("var max_pics=3;"), std::string::npos);
+  EXPECT_NE(all.find("<div id=\"text3\">"), std::string::npos);
+  EXPECT_NE(Page({"anim", gif, "--columnas=2", "--fotogramas", "3,1,3"}).find("var max_pics=2;"),
+            std::string::npos);
+  std::filesystem::create_directory(folder.File("serie"));
+  std::filesystem::copy(picture, folder.File("serie/b.jpg"));
+  EscribirArchivo(folder.File("serie/a.BMP"), "rota");
+  EXPECT_NE(Page({"anim", folder.File("serie"), "--columnas=2"}).find("var max_pics=2;"), std::string::npos);
+}
+
+TEST_F(OrdenWebTest, NamesWhatIsWrong) {
+  struct Row {
+    std::vector<std::string> words;
+    int status;
+    std::string err;
+  };
+  const std::string none = folder.Path().string();
+  for (const Row& r : {
+           Row{{"web", picture}, 2, "falta la opción -o."},
+           Row{{"web", picture, "-o", page, "--fondo", "1,2"},
+               2,
+               "la opción --fondo espera tres números de 0 a 255, como 0,0,128, no \"1,2\"."},
+           Row{{"web", picture, "-o", page, "--bordes", "arriba,norte"},
+               2,
+               "la opción --bordes espera arriba, abajo, derecha o izquierda, no \"norte\"."},
+           Row{{"web", picture, "-o", "/no/hay.html"},
+               1,
+               "No se ha podido escribir \"/no/hay.html\": no existe."},
+           Row{{"fotogramas", picture, "-o", page}, 1, "El archivo \"" + picture + "\" no es un GIF."},
+           Row{{"anim", gif, "-o", page, "--fotogramas", "4"},
+               2,
+               "la opción --fotogramas espera números de 1 a 3, no \"4\"."},
+       }) {
+    const test::Resultado run = Cli(r.words);
+    EXPECT_EQ(run.status, r.status) << r.err;
+    EXPECT_EQ(run.err, "pixmosa-cli: " + r.err + "\n");
+  }
+  std::filesystem::create_directory(folder.File("vacia"));
+  EXPECT_EQ(Cli({"anim", folder.File("vacia"), "-o", page}).err,
+            "pixmosa-cli: No hay fotogramas en \"" + folder.File("vacia") + "\".\n");
+}

@@ -1,0 +1,21 @@
+// Any bytes as a GIF: every frame file lies inside the input, and their sizes stay bounded.
+#include <cstdint>
+#include <cstdlib>
+
+#include "platform/AtomicFile.h"
+#include "web/basGIF.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view gif(reinterpret_cast<const char*>(data), size);
+  try {
+    const pixmosa::GifCut cut = pixmosa::CutGif(gif);
+    std::size_t last = 0;
+    for (std::size_t i = 0; i < cut.positions.size(); ++i) {
+      if (cut.positions[i] <= last || cut.positions[i] > size) std::abort();
+      last = cut.positions[i];
+      if (cut.FrameFile(gif, i).size() > size) std::abort();
+    }
+  } catch (const pixmosa::FileError&) {
+  }
+  return 0;
+}

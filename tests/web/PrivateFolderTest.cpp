@@ -1,0 +1,53 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "platform/AtomicFile.h"
+#include "platform/PrivateFolder.h"
+#include "tests/support/TestFolder.h"
+
+using namespace pixmosa;
+namespace fs = std::filesystem;
+
+TEST(PrivateFolder, IsClosedToOthersAndGoneAfterwards) {
+  const test::TestFolder temp;
+  fs::path path;
+  {
+    const PrivateFolder folder(temp.Path(), "KTW");
+    path = folder.Path();
+    EXPECT_EQ(path, temp.Path() / "KTW");
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_all);
+    EscribirArchivo(path / "Fotograma 01.bmp", "x");
+  }
+  EXPECT_FALSE(fs::exists(path));
+  {
+    const PrivateFolder folder(temp.Path(), "KTW");
+    EscribirArchivo(path / "otro.txt", "x");
+    EscribirArchivo(path / "a.bmp", "x");
+  }
+  EXPECT_TRUE(fs::exists(path / "otro.txt")) << "the folder stays while anything else remains in it";
+  EXPECT_FALSE(fs::exists(path / "a.bmp"));
+}
+
+TEST(PrivateFolder, TwoProgramsDoNotShareOne) {
+  const test::TestFolder temp;
+  const PrivateFolder first(temp.Path(), "KTW");
+  EscribirArchivo(first.Path() / "a.bmp", "x");
+  {
+    const PrivateFolder second(temp.Path(), "KTW");
+    EXPECT_NE(second.Path(), first.Path());
+  }
+  EXPECT_TRUE(fs::exists(first.Path() / "a.bmp"));
+}
+
+TEST(PrivateFolder, WhatCannotBeTrustedIsLeftAlone) {
+  const test::TestFolder temp, target;
+  fs::create_directory_symlink(target.Path(), temp.Path() / "KTW");
+  EXPECT_NE(PrivateFolder(temp.Path(), "KTW").Path(), temp.Path() / "KTW") << "a planted link";
+  fs::remove(temp.Path() / "KTW");
+  fs::create_directory(temp.Path() / "KTW");
+  ::chmod((temp.Path() / "KTW").c_str(), 0777);
+  EXPECT_NE(PrivateFolder(temp.Path(), "KTW").Path(), temp.Path() / "KTW") << "open to others";
+  EscribirArchivo(temp.File("archivo"), "x");
+  EXPECT_NE(PrivateFolder(temp.Path(), "archivo").Path(), temp.Path() / "archivo");
+  EXPECT_THROW(PrivateFolder(temp.Path() / "no" / "hay", "KTW"), FileError);
+}
