@@ -6,6 +6,7 @@
 #include "conversion/basAscii.h"
 #include "editor/basEditor.h"
 #include "effects/ImagenDeTrabajo.h"
+#include "effects/mFiltros.h"
 #include "platform/Dialogs.h"
 #include "platform/PictureCodec.h"
 #include "platform/Registry.h"
@@ -30,6 +31,7 @@ struct Programa {
   std::filesystem::path carpeta;  // the folder with the files that ship with the program
 
   ImagenDeTrabajo imagen{};
+  MFiltros mFiltros{};
   BasAscii basAscii{};
   AsciiSettings ajustes{};
   BasEditor basEditor{};

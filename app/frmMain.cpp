@@ -15,6 +15,7 @@
 
 #include "app/MarcoDeImagen.h"
 #include "app/Modos.h"
+#include "app/frmMain_Imagen.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "conversion/TextoGuardado.h"
 #include "platform/qt/AreaDeTexto.h"
@@ -140,6 +141,8 @@ void frmMain::CrearMenus() {
       if (row.hacer) (this->*row.hacer)();
     });
   }
+  imagen_ = new MenuDeImagen(*this);
+  menuBar()->insertMenu(findChild<QMenu*>("mnuAsciiArt")->menuAction(), imagen_->Menu());
   connect(findChild<QAction*>("mnuSalir"), &QAction::triggered, this, &QWidget::close);
 }
 
@@ -170,6 +173,7 @@ void frmMain::CrearCentro() {
   chkAsciiPrev_ = named<QCheckBox>("chkAsciiPrev", QStringLiteral("Vista previa al generar"));
   chkAsciiPrev_->setToolTip(QStringLiteral("Abre la vista previa después de cada generación"));
   txtAscii_ = named<AreaDeTexto>("txtAscii");
+  imagen_->CederDeshacer(txtAscii_);
   txtAscii_->setPlaceholderText(
       QStringLiteral("Aquí aparecerá el dibujo: cargue una imagen y pulse Generar."));
   auto* head = new QHBoxLayout;

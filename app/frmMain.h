@@ -25,6 +25,7 @@ class AreaDeTexto;
 class frmEditor;
 class frmOpcAlgoritmo;
 class frmPreview;
+class MenuDeImagen;
 class MarcoDeImagen;
 
 class frmMain final : public QMainWindow {
@@ -122,6 +123,7 @@ class frmMain final : public QMainWindow {
   bool ocupada_ = false;        // an animation is being written
   bool cerrarDespues_ = false;  // the user closed the window meanwhile
   QElapsedTimer desdeElTexto_;
+  MenuDeImagen* imagen_ = nullptr;
 };
 
 }  // namespace pixmosa

@@ -5,6 +5,7 @@
 #include "cli/Orden.h"
 #include "cli/OrdenAnim.h"
 #include "cli/OrdenAscii.h"
+#include "cli/OrdenEfecto.h"
 #include "cli/OrdenEstadisticas.h"
 #include "cli/OrdenFotogramas.h"
 #include "cli/OrdenFuentes.h"
@@ -51,9 +52,9 @@ int Despachar(Consola& consola, std::span<const std::string> words) {
 }  // namespace
 
 std::span<const Orden> Ordenes() {
-  static const std::vector<Orden> orders = {OrdenAscii(),       OrdenTabla(), OrdenWeb(),
-                                            OrdenFotogramas(),  OrdenAnim(),  OrdenFuentes(),
-                                            OrdenEstadisticas()};
+  static const std::vector<Orden> orders = {OrdenAscii(),   OrdenTabla(),       OrdenEfecto(),
+                                            OrdenWeb(),     OrdenFotogramas(),  OrdenAnim(),
+                                            OrdenFuentes(), OrdenEstadisticas()};
   return orders;
 }
 

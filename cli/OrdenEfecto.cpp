@@ -1,0 +1,100 @@
+#include "cli/OrdenEfecto.h"
+
+#include <climits>
+#include <filesystem>
+#include <new>
+
+#include "cli/Pasos.h"
+
+namespace pixmosa::cli {
+namespace {
+
+struct Pedido {
+  std::vector<std::string> imagenes;
+  std::vector<Paso> pasos;
+};
+
+// A word that can only be a misspelt step: no picture is called so.
+bool PareceUnPaso(const std::string& word) {
+  std::error_code none;
+  return word != "-" && word.find_first_of("./") == std::string::npos && !std::filesystem::exists(word, none);
+}
+
+// Pictures first, then steps.
+Pedido PedidoDe(const Argumentos& arguments) {
+  Pedido order;
+  for (const std::string& word : arguments.Operandos()) {
+    const std::optional<Paso> step = PasoDe(word);
+    if (step) {
+      if (order.imagenes.empty()) throw ErrorDeUso("falta la imagen antes del paso \"" + word + "\"");
+      order.pasos.push_back(*step);
+    } else if (!order.pasos.empty() || (!order.imagenes.empty() && PareceUnPaso(word))) {
+      throw ErrorDeUso("no existe el paso \"" + word + "\"; \"pixmosa-cli efecto --help\" los explica todos");
+    } else {
+      order.imagenes.push_back(word);
+    }
+  }
+  if (order.imagenes.empty()) throw ErrorDeUso("falta la imagen");
+  if (order.pasos.empty())
+    throw ErrorDeUso("falta algún paso; \"pixmosa-cli efecto --help\" los explica todos");
+  return order;
+}
+
+// The format that a file's ending asks for.
+std::string FormatoDe(const std::string& file) {
+  for (const char* format : {"png", "bmp", "jpg"})
+    if (file.ends_with(std::string(".") + format)) return format;
+  throw ErrorDeUso("el archivo \"" + file + "\" debe terminar en .png, .bmp o .jpg");
+}
+
+// One picture through every step; the draws start anew for each picture.
+void Transformar(Consola& consola, const Argumentos& arguments, const Pedido& order,
+                 const std::string& operand, const std::string& file, const std::string& format) try {
+  MFiltros m;
+  if (arguments.Tiene("--semilla"))
+    m.random.Seed(static_cast<std::uint64_t>(arguments.Entero("--semilla", 0)));
+  ImagenDeTrabajo image;
+  image.Cargar(consola.LeerImagen(operand));
+  for (const Paso& step : order.pasos) DarPaso(m, image, step);
+  std::string bytes;
+  try {
+    bytes = consola.Imagenes().Encode(image.picMain, format);
+  } catch (const PictureError& e) {
+    throw ErrorDeTrabajo(e.what());
+  }
+  consola.EscribirArchivo(file, bytes);
+} catch (const std::bad_alloc&) {
+  throw ErrorDeTrabajo("No hay memoria suficiente para transformar la imagen \"" + operand + "\".");
+}
+
+int Hacer(Consola& consola, const Argumentos& arguments) {
+  const std::optional<std::string> file = arguments.Texto("-o"), folder = arguments.Texto("--carpeta");
+  if (file && folder) throw ErrorDeUso("las opciones -o y --carpeta no van juntas");
+  if (!file && !folder) throw ErrorDeUso("falta la opción -o con el archivo de la imagen nueva");
+  const Pedido order = PedidoDe(arguments);
+  if (folder)
+    return ConvertirACarpeta(consola, order.imagenes, *folder, ".png",
+                             [&](const std::string& operand, const std::string& to) {
+                               Transformar(consola, arguments, order, operand, to, "png");
+                             });
+  if (order.imagenes.size() > 1) throw ErrorDeUso("varias imágenes necesitan la opción --carpeta");
+  Transformar(consola, arguments, order, order.imagenes[0], *file, FormatoDe(*file));
+  return 0;
+}
+
+}  // namespace
+
+Orden OrdenEfecto() {
+  return {"efecto",
+          "IMAGEN... PASO...",
+          "Retoca imágenes con los efectos, giros y espejos del programa.",
+          "pixmosa-cli efecto foto.jpg 14=20 desenfocar espejo-arriba-abajo -o nueva.png",
+          {{"-o", Tipo::Texto, "SALIDA", "archivo de la imagen nueva: .png, .bmp o .jpg"},
+           {"--carpeta", Tipo::Texto, "DIR", "carpeta donde se guarda un NOMBRE.png de cada imagen"},
+           {"--semilla", Tipo::Entero, "N", "empieza el azar de los efectos 4 y 29 en N, para repetirlo", 0,
+            INT_MAX}},
+          Hacer,
+          AyudaDePasos};
+}
+
+}  // namespace pixmosa::cli

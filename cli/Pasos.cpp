@@ -1,0 +1,132 @@
+#include "cli/Pasos.h"
+
+#include <algorithm>
+#include <climits>
+
+#include "cli/Argumentos.h"
+#include "effects/MenuImagen.h"
+#include "effects/basFiltrosConfig.h"
+#include "platform/CodePage.h"
+
+namespace pixmosa::cli {
+namespace {
+
+constexpr int kGamma = 31;  // its menu argument is never used: a value has to be given
+
+std::string Rango(std::int32_t from, std::int32_t to) {
+  return "de " + std::to_string(from) + " a " + std::to_string(to);
+}
+
+// A value as the slider or the menu item gives it.
+std::int32_t ArgumentoDado(int effect, const std::string& word, const std::string& value) {
+  const EffectConfig& e = *Efecto(effect);
+  if (e.argumento == Argumento::Ninguno) throw ErrorDeUso("el paso \"" + word + "\" no lleva valor");
+  const std::optional<int> v = EnteroDeTexto(value, e.menor, e.mayor);
+  if (!v)
+    throw ErrorDeUso("el valor del paso \"" + word + "\" debe ser un entero " + Rango(e.menor, e.mayor));
+  return ArgumentoDelDeslizador(effect, *v);
+}
+
+Paso PasoDeEfecto(int effect, std::int32_t otherwise, const std::string& word,
+                  const std::optional<std::string>& value) {
+  if (value) return {effect, ArgumentoDado(effect, word, *value)};
+  if (effect == kGamma)
+    throw ErrorDeUso("el paso \"" + word + "\" necesita un valor, como \"" + word + "=20\"");
+  return {effect, otherwise};
+}
+
+bool EsNumero(std::string_view s) {
+  const std::size_t sign = s.starts_with('-') ? 1 : 0;
+  return s.size() > sign && std::all_of(s.begin() + static_cast<std::ptrdiff_t>(sign), s.end(),
+                                        [](char c) { return c >= '0' && c <= '9'; });
+}
+
+std::optional<Paso> PasoPorNumero(const std::string& name, const std::string& word,
+                                  const std::optional<std::string>& value) {
+  if (!EsNumero(name)) return std::nullopt;
+  const std::optional<int> n = EnteroDeTexto(name, 1, kEfectos);
+  if (!n) throw ErrorDeUso("no existe el efecto \"" + word + "\"; los hay " + Rango(1, kEfectos));
+  return PasoDeEfecto(*n, Efecto(*n)->menu, word, value);
+}
+
+std::optional<Paso> PasoPorNombre(const std::string& name, const std::string& word,
+                                  const std::optional<std::string>& value) {
+  for (const Giro& g : Giros())
+    if (name == g.orden) {
+      if (value) throw ErrorDeUso("el paso \"" + word + "\" no lleva valor");
+      return Paso{0, 0, &g};
+    }
+  for (int n = 1; n <= kEfectos; ++n)
+    if (name == NombreDeOrden(Efecto(n)->caption)) return PasoDeEfecto(n, Efecto(n)->menu, word, value);
+  for (const EntradaDeImagen& e : MenuImagen())
+    if (e.accion == Accion::Efecto && name == NombreDeOrden(e.caption))
+      return PasoDeEfecto(e.efecto, e.argumento, word, value);
+  return std::nullopt;
+}
+
+std::string AyudaDelValor(int effect) {
+  const EffectConfig& e = *Efecto(effect);
+  if (e.argumento == Argumento::Ninguno) return "";
+  std::string s = "valor " + Rango(e.menor, e.mayor);
+  if (effect == kGamma) return s + ", obligatorio";
+  if (e.argumento == Argumento::Color && !e.Configurable) s += " (rojo + 256 verde + 65536 azul)";
+  const std::int32_t otherwise = e.Configurable && e.argumento == Argumento::Color ? e.menu & 0xFF : e.menu;
+  return s + "; si falta, " + std::to_string(otherwise);
+}
+
+void Rellenar(std::string& line, std::size_t columns) {
+  std::size_t used = 0;
+  for (std::string_view rest = line; !rest.empty(); ++used) NextUtf8(rest);
+  line.append(columns > used ? columns - used : 1, ' ');
+}
+
+std::string Linea(const std::string& number, const std::string& name, const std::string& caption,
+                  const std::string& value) {
+  std::string s = std::string(number.size() < 2 ? 4 - number.size() : 2, ' ') + number;
+  Rellenar(s, 6);
+  s += name;
+  Rellenar(s, 33);
+  s += "\"" + caption + "\"";
+  if (!value.empty()) {
+    Rellenar(s, 60);
+    s += value;
+  }
+  return s + "\n";
+}
+
+}  // namespace
+
+std::optional<Paso> PasoDe(const std::string& word) {
+  const std::size_t equals = word.find('=');
+  const std::string name = word.substr(0, equals);
+  std::optional<std::string> value;
+  if (equals != std::string::npos) value = word.substr(equals + 1);
+  if (const std::optional<Paso> step = PasoPorNumero(name, word, value)) return step;
+  return PasoPorNombre(name, word, value);
+}
+
+void DarPaso(MFiltros& m, ImagenDeTrabajo& image, const Paso& step) {
+  if (step.giro) {
+    Girar(image, *step.giro);
+    return;
+  }
+  SinVentana window;
+  NoProgress progress;
+  ApplyEffect(m, image, window, step.efecto, BitmapDe(image), step.argumento, progress, false);
+}
+
+std::string AyudaDePasos() {
+  std::string s =
+      "Pasos, que se dan de izquierda a derecha; cada uno por su número o por su nombre, con =VALOR donde lo "
+      "lleva:\n";
+  for (int n = 1; n <= kEfectos; ++n)
+    s += Linea(std::to_string(n), NombreDeOrden(Efecto(n)->caption), Efecto(n)->caption, AyudaDelValor(n));
+  for (const EntradaDeImagen& e : MenuImagen())
+    if (e.accion == Accion::Efecto && std::string_view(e.caption) != Efecto(e.efecto)->caption)
+      s += Linea("", NombreDeOrden(e.caption), e.caption,
+                 "lo mismo que " + std::to_string(e.efecto) + "=" + std::to_string(e.argumento));
+  for (const Giro& g : Giros()) s += Linea("", g.orden, g.caption, "");
+  return s;
+}
+
+}  // namespace pixmosa::cli

@@ -1,0 +1,218 @@
+#include "effects/frmEfectConfig.h"
+
+#include <new>
+
+#include <QGridLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QPainter>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSlider>
+
+#include "effects/basFiltrosConfig.h"
+#include "platform/Rounding.h"
+#include "platform/qt/Menus.h"
+#include "platform/qt/Named.h"
+#include "platform/qt/QtPicture.h"
+#include "platform/qt/QtText.h"
+
+namespace pixmosa {
+namespace {
+
+constexpr int kLado = 155;  // the preview's design size
+constexpr int kMilisegundos = 15;
+constexpr char kTitulo[] = "Parámetros del filtro";
+
+// The other side of a preview whose longer side is `side`.
+int Proporcion(int side, int shorter, int longer) {
+  return std::max(1, RoundHalfEven(static_cast<double>(side) * shorter / longer));
+}
+
+}  // namespace
+
+void ImagenEstirable::Mostrar(const Picture& picture, bool stretch) {
+  picture_ = picture;
+  stretch_ = stretch;
+  update();
+}
+
+void ImagenEstirable::paintEvent(QPaintEvent*) {
+  if (picture_.IsEmpty()) return;
+  QPainter painter(this);
+  const QImage image = ImageOf(picture_);
+  if (!stretch_) {
+    painter.drawImage(0, 0, image);
+    return;
+  }
+  // A large picture is thinned out before it is smoothed: a preview of millions of pixels has to be quick.
+  const QSize target = size() * devicePixelRatioF();
+  const QSize thinned = image.size().boundedTo(4 * target);
+  painter.drawImage(rect(),
+                    image.scaled(thinned).scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+}
+
+frmEfectConfig::frmEfectConfig(MFiltros& m, ImagenDeTrabajo& image, VentanaDeEfectos& window,
+                               Dialogs& dialogs, QWidget* parent)
+    : QDialog(parent),
+      m_(m),
+      image_(image),
+      window_(window),
+      dialogs_(dialogs),
+      Image1_(named<ImagenEstirable>("Image1")),
+      sldEfecto_(named<QSlider>("sldEfecto", Qt::Horizontal)),
+      lblEfecto_(named<QLabel>("lblEfecto")),
+      lblRango_(named<QLabel>("lblRango")),
+      lblValor_(named<QLabel>("lblValor")),
+      prgBar1_(named<QProgressBar>("prgBar1")),
+      progress_(prgBar1_) {
+  setObjectName("frmEfectConfig");
+  setWindowTitle(Q(kTitulo));
+  Componer();
+  retry_.setSingleShot(true);
+  retry_.setInterval(kMilisegundos);
+  connect(&retry_, &QTimer::timeout, this, &frmEfectConfig::Previsualizar);
+  connect(sldEfecto_, &QSlider::valueChanged, this, &frmEfectConfig::CambiarValor);
+}
+
+void frmEfectConfig::Componer() {
+  auto* frame = named<QWidget>("marcoDeVista");
+  frame->setFixedSize(kLado, kLado);
+  Image1_->setParent(frame);
+  auto* decoration = named<QLabel>("Image2");
+  decoration->setPixmap(Icono("image-x-generic").pixmap(24, 24));
+  QFont bold = lblEfecto_->font();
+  bold.setBold(true);
+  lblEfecto_->setFont(bold);
+  lblValor_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  sldEfecto_->setMinimumWidth(230);
+  QSizePolicy keep = prgBar1_->sizePolicy();
+  keep.setRetainSizeWhenHidden(true);
+  prgBar1_->setSizePolicy(keep);
+  prgBar1_->hide();
+  auto* apply = named<QPushButton>("cmdApply", Q("Aplicar"));
+  auto* cancel = named<QPushButton>("cmdCancel", Q("Cancelar"));
+  apply->setDefault(true);
+  connect(apply, &QPushButton::clicked, this, &frmEfectConfig::Aplicar);
+  connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+
+  auto* head = new QHBoxLayout;
+  head->addWidget(decoration);
+  head->addWidget(lblEfecto_, 1);
+  auto* strength = new QHBoxLayout;
+  strength->addWidget(named<QLabel>("Label3", Q("Intensidad:")));
+  strength->addWidget(lblValor_, 1);
+  auto* slider = new QHBoxLayout;
+  slider->addWidget(named<QLabel>("Label1", Q("Min.")));
+  slider->addWidget(sldEfecto_, 1);
+  slider->addWidget(named<QLabel>("Label2", Q("Max.")));
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch(1);
+  buttons->addWidget(apply);
+  buttons->addWidget(cancel);
+  auto* grid = new QGridLayout(this);
+  grid->setHorizontalSpacing(16);
+  grid->setColumnStretch(1, 1);
+  grid->addWidget(frame, 0, 0, 6, 1, Qt::AlignTop);
+  grid->addLayout(head, 0, 1);
+  grid->addWidget(lblRango_, 1, 1);
+  grid->addLayout(strength, 2, 1);
+  grid->addLayout(slider, 3, 1);
+  grid->addWidget(prgBar1_, 4, 1);
+  grid->addLayout(buttons, 6, 0, 1, 2);
+}
+
+void frmEfectConfig::Mostrar() {
+  if (isVisible()) return;
+  const QSignalBlocker quiet(sldEfecto_);
+  sldEfecto_->setRange(0, 0);
+  Image1_->setFixedSize(kLado, kLado);
+  Picture1_.Asignar(image_.picMain);
+  FitPreview();
+  show();
+  sldEfecto_->setFocus();
+}
+
+void frmEfectConfig::CargarEfecto(int effect) {
+  m_.CurrentDialogEffect = effect;
+  const EffectConfig& config = *Efecto(effect);
+  {
+    const QSignalBlocker quiet(sldEfecto_);
+    sldEfecto_->setRange(config.Min, config.Max);
+    sldEfecto_->setPageStep(std::max(1, (config.Max - config.Min) / 10));
+  }
+  Picture1_.Asignar(image_.picMain);
+  lblEfecto_->setText(Q(config.caption));
+  lblRango_->setText(Q("Rango del filtro: " + std::to_string(sldEfecto_->minimum()) + " , " +
+                       std::to_string(sldEfecto_->maximum())));
+  lblValor_->setText(QString::number(sldEfecto_->value()));
+  FitPreview();
+}
+
+void frmEfectConfig::done(int result) {
+  m_.CurrentDialogEffect = 0;
+  pending_ = applying_ = false;
+  retry_.stop();
+  QDialog::done(result);
+}
+
+void frmEfectConfig::CambiarValor() {
+  lblValor_->setText(QString::number(sldEfecto_->value()));
+  pending_ = true;
+  Previsualizar();
+}
+
+void frmEfectConfig::Previsualizar() {
+  if (running_) return;
+  if (m_.EffectBusy) {
+    retry_.start();
+    return;
+  }
+  running_ = true;
+  while (pending_) {
+    pending_ = false;
+    UnaVista();
+  }
+  running_ = false;
+  if (applying_) Aplicar();
+}
+
+void frmEfectConfig::UnaVista() {
+  Picture1_.Asignar(image_.picMain);
+  prgBar1_->show();
+  const int effect = m_.CurrentDialogEffect;
+  try {
+    ApplyEffect(m_, image_, window_, effect, BitmapDe(Picture1_),
+                ArgumentoDelDeslizador(effect, sldEfecto_->value()), progress_, true);
+  } catch (const std::bad_alloc&) {
+    dialogs_.Fail("No hay memoria suficiente para aplicar el efecto a esta imagen.", kTitulo);
+  }
+  prgBar1_->hide();
+  FitPreview();
+}
+
+void frmEfectConfig::Aplicar() {
+  if (running_ || pending_) {
+    applying_ = true;
+    return;
+  }
+  image_.Asignar(Picture1_.picMain);
+  window_.RefrescarPicMain();
+  accept();
+}
+
+void frmEfectConfig::FitPreview() {
+  const Extent p = Picture1_.picMain.Size();
+  const bool stretch = p.width > Image1_->width() || p.height > Image1_->height();
+  if (!stretch) {
+    Image1_->setFixedSize(kLado, kLado);
+  } else if (p.height > p.width) {
+    Image1_->setFixedWidth(Proporcion(Image1_->height(), p.width, p.height));
+  } else {
+    Image1_->setFixedHeight(Proporcion(Image1_->width(), p.height, p.width));
+  }
+  Image1_->Mostrar(Picture1_.picMain, stretch);
+}
+
+}  // namespace pixmosa

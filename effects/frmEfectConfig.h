@@ -1,0 +1,75 @@
+// The dialog of the nine configurable effects: a slider, and a preview computed on a picture of its own.
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+
+#include "effects/mFiltros.h"
+#include "platform/Dialogs.h"
+#include "platform/qt/QtProgress.h"
+
+class QLabel;
+class QProgressBar;
+class QSlider;
+
+namespace pixmosa {
+
+// The preview `Image1`: a picture at natural size from the top left, or stretched to the whole widget.
+class ImagenEstirable final : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit ImagenEstirable(QWidget* parent = nullptr) : QWidget(parent) {}
+  void Mostrar(const Picture& picture, bool stretch);
+  bool Estirada() const { return stretch_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  Picture picture_;
+  bool stretch_ = false;
+};
+
+// A slider value that arrives while an effect runs is remembered, and the last of them is previewed
+// afterwards; "Aplicar" waits for it, so that what is applied is what the slider and the preview show.
+class frmEfectConfig final : public QDialog {
+  Q_OBJECT
+
+ public:
+  frmEfectConfig(MFiltros& m, ImagenDeTrabajo& image, VentanaDeEfectos& window, Dialogs& dialogs,
+                 QWidget* parent);
+
+  // Opens the dialog anew where it is closed.
+  void Mostrar();
+
+  // The range of an effect (a configurable one), and the picture as it is now.
+  void CargarEfecto(int effect);
+
+  void done(int result) override;
+
+ private:
+  void Componer();
+  void CambiarValor();
+  void Previsualizar();
+  void UnaVista();
+  void Aplicar();
+  void FitPreview();
+
+  MFiltros& m_;
+  ImagenDeTrabajo& image_;
+  VentanaDeEfectos& window_;
+  Dialogs& dialogs_;
+  ImagenDeTrabajo Picture1_;  // the working copy that previews are computed on
+  ImagenEstirable* Image1_;
+  QSlider* sldEfecto_;
+  QLabel* lblEfecto_;
+  QLabel* lblRango_;
+  QLabel* lblValor_;
+  QProgressBar* prgBar1_;
+  QtProgress progress_;
+  QTimer retry_;  // while another effect keeps the dispatcher busy
+  bool running_ = false, pending_ = false, applying_ = false;
+};
+
+}  // namespace pixmosa

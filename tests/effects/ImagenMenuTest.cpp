@@ -1,0 +1,258 @@
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSlider>
+#include <QTest>
+#include <QTimer>
+
+#include "effects/frmEfectConfig.h"
+#include "tests/support/DrawnPicture.h"
+#include "tests/support/Effects.h"
+#include "tests/support/MainWindow.h"
+
+using namespace pixmosa;
+using test::Find;
+using test::Grays;
+using test::Levels;
+using Rows = std::vector<std::vector<int>>;
+
+namespace {
+
+// The captions of a menu, submenus in brackets, "-" for a separator.
+QString Tree(const QMenu& menu) {
+  QStringList parts;
+  for (const QAction* a : menu.actions())
+    parts << (a->isSeparator() ? "-" : a->menu() ? a->text() + "[" + Tree(*a->menu()) + "]" : a->text());
+  return parts.join("|");
+}
+
+const Rows kLoaded = {{10, 20, 30}, {40, 50, 60}};
+
+struct EffectWindow : test::MainWindow {
+  explicit EffectWindow(const Picture& picture = Grays(kLoaded)) { Load(picture); }
+  frmEfectConfig& Dialog() { return Find<frmEfectConfig>(window, "frmEfectConfig"); }
+  QSlider& Slider() { return Find<QSlider>(Dialog(), "sldEfecto"); }
+  void Press(const char* button) { QTest::mouseClick(&Find<QPushButton>(Dialog(), button), Qt::LeftButton); }
+  Rows Now() const { return Levels(program.imagen.picMain); }
+};
+
+bool Same(const Picture& a, const Picture& b) {
+  return a.Size() == b.Size() && std::equal(a.Pixels(), a.Pixels() + a.PixelCount(), b.Pixels());
+}
+
+// Large enough that an effect yields to the event loop many times.
+Picture Large() {
+  Picture p(3000, 2500);
+  for (std::size_t i = 0; i < p.PixelCount(); ++i)
+    p.Writable()[i] = 0xFF000000U | (static_cast<std::uint32_t>(i * 2654435761U) >> 8);
+  return p;
+}
+
+}  // namespace
+
+class ImagenMenuTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void menuHasItsCaptions() {
+    test::MainWindow w;
+    const QMenu& menu = Find<QMenu>(w.window, "mnuImagen");
+    QCOMPARE(menu.title(), QString("&Imagen"));
+    QVERIFY(w.window.menuBar()->actions().contains(menu.menuAction()));
+    QCOMPARE(
+        Tree(menu),
+        QString(
+            "Girar[Horizontalmente|Verticalmente]|"
+            "Colores[Escala de grises|Negativo|Blanco y negro[Método 1|Método 2|Método 3|Método 4|Método 5|"
+            "Método 6]|Intercambiar RGB[RGB -> BRG|RGB -> GBR|RGB -> RBG|RGB -> BGR|RGB -> GRB]|"
+            "Corrección gamma]|Intensidad[Brillo|Contraste|Saturacion]|"
+            "Bordes[Realzar|Realzar más|Grabado|Más grabado|Relieve|Realce solo del borde|Marcar contornos|"
+            "Marcar contornos unidos]|"
+            "Efectos[Acuarela|Añadir ruido|Humo|Desenfocar|Erosión|Foto antigua|Nitidez|Difuminar|"
+            "Aumentar exposición|Pixelizar]|"
+            "Espejos[Reflejar parte derecha en la izquierda|Reflejar parte izquierda en la derecha|"
+            "Reflejar parte inferior en la superior|Reflejar parte superior en la inferior]|-|"
+            "Deshacer cambios|Volver a la imagen original"));
+    QCOMPARE(Find<QAction>(w.window, "mnuUndoPicture").shortcut(), QKeySequence("Ctrl+Z"));
+  }
+
+  void entriesWithoutAPictureDoNothing() {
+    test::MainWindow w;
+    for (const char* name : {"mnuNegativo", "mnuHFlip", "mnuEspejoAenB", "mnuUndoPicture", "mnuImageReload"})
+      w.Trigger(name);
+    w.Trigger("mnuAumentarbrillo");
+    QVERIFY(!w.window.findChild<QDialog*>("frmEfectConfig"));
+    QVERIFY(w.program.imagen.picMain.IsEmpty());
+    QVERIFY(w.dialogs.log.empty());
+  }
+
+  void effectsFlipsUndoAndReload() {
+    EffectWindow w;
+    w.Trigger("mnuNegativo");
+    QCOMPARE(w.Now(), (Rows{{245, 235, 225}, {215, 205, 195}}));
+    w.Trigger("mnuHFlip");
+    QCOMPARE(w.Now(), (Rows{{225, 235, 245}, {195, 205, 215}}));
+    w.window.areaDeTexto().setFocus();
+    QTest::keyClick(&w.window.areaDeTexto(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(w.Now(), (Rows{{245, 235, 225}, {215, 205, 195}}));
+    w.Trigger("mnuNegativo");
+    w.Trigger("mnuImageReload");
+    QCOMPARE(w.Now(), (Rows{{245, 235, 225}, {215, 205, 195}}));
+    w.Load(Grays(kLoaded));
+    w.Trigger("mnuRGB3");
+    w.Trigger("mnuImageReload");
+    QCOMPARE(w.Now(), kLoaded);
+  }
+
+  // Text typed by the user is undone first.
+  void textKeepsItsOwnUndo() {
+    EffectWindow w;
+    w.Trigger("mnuNegativo");
+    w.window.areaDeTexto().setFocus();
+    QTest::keyClicks(&w.window.areaDeTexto(), "abc");
+    QTest::keyClick(&w.window.areaDeTexto(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(w.Text(), std::string());
+    QVERIFY(w.Now() != kLoaded);
+  }
+
+  void dialogShowsRangeAndUnchangedPreview() {
+    EffectWindow w;
+    w.Trigger("mnuAumentarbrillo");
+    QVERIFY(w.Dialog().isVisible() && !w.Dialog().isModal());
+    QCOMPARE(w.Dialog().windowTitle(), QString("Parámetros del filtro"));
+    const auto& range = Find<QLabel>(w.Dialog(), "lblRango");
+    QCOMPARE(range.text(), QString("Rango del filtro: -100 , 100"));
+    w.Trigger("mnuPixelizar");
+    QCOMPARE(range.text(), QString("Rango del filtro: 1 , 20"));
+    QCOMPARE(w.Slider().minimum(), 1);
+    QCOMPARE(w.Slider().maximum(), 20);
+    QCOMPARE(w.Now(), kLoaded);
+    w.Press("cmdApply");
+    QCOMPARE(w.Now(), kLoaded);
+    QVERIFY(!w.Dialog().isVisible());
+  }
+
+  void previewsNeverAccumulateAndApplyCanBeUndone() {
+    EffectWindow w;
+    w.Trigger("mnuAumentarbrillo");
+    w.Slider().setFocus();
+    QTest::keyClick(&w.Slider(), Qt::Key_End);
+    QTest::keyClick(&w.Slider(), Qt::Key_Home);
+    QTest::keyClick(&w.Slider(), Qt::Key_End);
+    QCOMPARE(w.Now(), kLoaded);
+    w.Press("cmdApply");
+    const Rows doubled = {{20, 40, 60}, {80, 100, 120}};
+    QCOMPARE(w.Now(), doubled);
+    QCOMPARE(w.program.mFiltros.CurrentDialogEffect, 0);
+    w.Trigger("mnuNegativo");
+    w.Trigger("mnuImageReload");
+    QCOMPARE(w.Now(), doubled);
+    w.Trigger("mnuAumentarbrillo");
+    QTest::keyClick(&w.Slider(), Qt::Key_Home);
+    w.Press("cmdApply");
+    w.Trigger("mnuUndoPicture");
+    QCOMPARE(w.Now(), doubled);
+  }
+
+  void cancelAndCloseBoxLeaveThePicture() {
+    EffectWindow w;
+    for (const bool box : {false, true}) {
+      w.Trigger("mnuMetodo1");
+      QTest::keyClick(&w.Slider(), Qt::Key_End);
+      if (box) {
+        w.Dialog().close();
+      } else {
+        w.Press("cmdCancel");
+      }
+      QCOMPARE(w.Now(), kLoaded);
+      QCOMPARE(w.program.mFiltros.CurrentDialogEffect, 0);
+    }
+  }
+
+  void greyThresholdComesFromTheSlider() {
+    EffectWindow w;
+    w.Trigger("mnuMetodo1");
+    w.Slider().setValue(45);
+    w.Press("cmdApply");
+    QCOMPARE(w.Now(), (Rows{{0, 0, 0}, {0, 255, 255}}));
+  }
+
+  void sameEntryAgainRunsTheEffectWithTheMenusArgument() {
+    EffectWindow w;
+    w.Trigger("mnuAumentarbrillo");
+    w.Trigger("mnuAumentarbrillo");
+    QCOMPARE(w.Now(), (Rows{{11, 22, 33}, {44, 55, 66}}));
+  }
+
+  void previewKeepsTheProportions() {
+    EffectWindow w(Picture::Filled(400, 200, kWhite));
+    w.Trigger("mnuNitidez");
+    auto& shown = Find<ImagenEstirable>(w.Dialog(), "Image1");
+    QCOMPARE(shown.size(), QSize(155, 78));  // 77.5 to even
+    QVERIFY(shown.Estirada());
+    w.Press("cmdCancel");
+    w.Load(Picture::Filled(100, 155, kWhite), "otra.png");
+    w.Trigger("mnuNitidez");
+    QCOMPARE(shown.size(), QSize(155, 155));
+    QVERIFY(!shown.Estirada());
+    w.Press("cmdCancel");
+    w.Load(Picture::Filled(100, 310, kWhite), "alta.png");
+    w.Trigger("mnuNitidez");
+    QCOMPARE(shown.size(), QSize(50, 155));
+  }
+
+  void lastValueWinsAndIsWhatGetsApplied() {
+    const Picture large = Large();
+    EffectWindow w(large);
+    w.Trigger("mnuNitidez");
+    bool inTheMiddle = false, barMoved = false;
+    QTimer::singleShot(0, &w.window, [&] {
+      inTheMiddle = w.program.mFiltros.EffectBusy;
+      barMoved = Find<QProgressBar>(w.Dialog(), "prgBar1").isVisible();
+      w.Slider().setValue(70);
+      w.Slider().setValue(100);
+      w.Trigger("mnuNegativo");
+      w.Press("cmdApply");
+    });
+    w.Slider().setValue(30);
+    QVERIFY(inTheMiddle && barMoved);
+    QVERIFY(!w.Dialog().isVisible());
+    QVERIFY(Same(w.program.imagen.picMain, test::Applied(1, 100, large)));
+  }
+
+  // A value that arrives while the main window's effect runs is previewed when that has ended.
+  void valueDuringAnotherEffectIsNotLost() {
+    EffectWindow w(Large());
+    w.Trigger("mnuAumentarbrillo");
+    QTimer::singleShot(0, &w.window, [&] {
+      QVERIFY(w.program.mFiltros.EffectBusy);
+      w.Slider().setValue(-100);
+      w.Press("cmdApply");
+    });
+    w.Trigger("mnuHumo");
+    QTRY_VERIFY(!w.Dialog().isVisible());
+    QCOMPARE(w.program.imagen.picMain.ColourAt(1000, 1000), kBlack);
+  }
+
+  void closingInTheMiddleIsSafe() {
+    const Picture large = Large();
+    for (const bool program : {false, true}) {
+      EffectWindow w(large);
+      w.Trigger("mnuNitidez");
+      QTimer::singleShot(0, &w.window, [&] {
+        QVERIFY(w.program.mFiltros.EffectBusy);
+        if (program) w.window.close();
+        w.Dialog().close();
+      });
+      w.Slider().setValue(30);
+      QVERIFY(!w.program.mFiltros.EffectBusy);
+      QCOMPARE(w.program.mFiltros.CurrentDialogEffect, 0);
+      QVERIFY(Same(w.program.imagen.picMain, large));
+    }
+  }
+};
+
+QTEST_MAIN(ImagenMenuTest)
+#include "ImagenMenuTest.moc"
