@@ -93,7 +93,8 @@ bool MenuDeImagen::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::ShortcutOverride) return false;
   const auto* area = qobject_cast<QPlainTextEdit*>(watched);
   const bool undo = static_cast<QKeyEvent*>(event)->matches(QKeySequence::Undo);
-  return undo && area && !area->document()->isUndoAvailable();
+  // An empty document counts as changed once it has got its font.
+  return undo && area && (area->document()->isEmpty() || !area->document()->isModified());
 }
 
 }  // namespace pixmosa

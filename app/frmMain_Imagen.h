@@ -23,7 +23,7 @@ class MenuDeImagen final : public QObject, public VentanaDeEfectos {
   // The menu with every entry of the tree, to be put into the menu bar.
   QMenu* Menu() const { return menu_; }
 
-  // Lets the text area have Ctrl+Z only where it has something to undo itself.
+  // Lets the text area have Ctrl+Z only where its text was changed by hand.
   void CederDeshacer(QPlainTextEdit* area);
 
   void MostrarDialogo() override;
