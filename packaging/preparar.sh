@@ -20,6 +20,9 @@ run_packages=(
 test_packages=(
   "libgtest-dev|the tests of the logic"
   "libgmock-dev|the tests of the logic"
+  "python3|driving the browser"
+  "chromium|playing the pages in a real browser"
+  "chromium-driver|playing the pages in a real browser"
   "clang|the fuzzers"
   "libclang-rt-dev|the fuzzers and sanitizers"
   "clang-format|the style check"

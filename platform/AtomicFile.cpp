@@ -11,6 +11,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::size_t kChunk = 65536;
+
 struct Closer {
   void operator()(std::FILE* f) const { std::fclose(f); }
 };
@@ -126,10 +128,10 @@ std::string LeerArchivo(const fs::path& file, std::uintmax_t most) {
   const Stream in(std::fopen(file.c_str(), "rb"));
   if (!in) fail(RazonDelError(errno));
   std::string bytes;
-  if (const std::uintmax_t size = fs::file_size(file, ec); !ec && size <= most) bytes.reserve(size + 1);
+  if (const std::uintmax_t size = fs::file_size(file, ec); !ec && size <= most) bytes.reserve(size + kChunk);
   for (;;) {
     const std::size_t have = bytes.size();
-    bytes.resize(std::max<std::size_t>(bytes.capacity(), have + 65536));
+    bytes.resize(std::max<std::size_t>(bytes.capacity(), have + kChunk));
     const std::size_t got = std::fread(bytes.data() + have, 1, bytes.size() - have, in.get());
     bytes.resize(have + got);
     if (bytes.size() > most) fail("el archivo es demasiado grande");

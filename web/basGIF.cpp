@@ -26,12 +26,15 @@ std::string Lower(const fs::path& p) {
 
 }  // namespace
 
-std::string GifCut::FrameFile(std::string_view gif, std::size_t frame) const {
+std::string_view GifCut::Frame(std::string_view gif, std::size_t frame) const {
   const std::size_t begin = positions[frame] - 1;
   const std::size_t end = (frame + 1 < positions.size() ? positions[frame + 1] : length) - 1;
+  return gif.substr(begin, end - begin);
+}
+
+std::string GifCut::FrameFile(std::string_view gif, std::size_t frame) const {
   std::string file(gif.substr(0, HeaderLength()));
-  file += gif.substr(begin, end - begin);
-  return file;
+  return file += Frame(gif, frame);
 }
 
 GifCut CutGif(std::string_view gif) {
@@ -55,8 +58,12 @@ fs::path ArchivoDeFotograma(const fs::path& folder, const std::string& number) {
 }
 
 void EscribirFotogramas(const GifCut& cut, std::string_view gif, const fs::path& folder) {
-  for (std::size_t i = 0; i < cut.positions.size(); ++i)
-    EscribirArchivo(ArchivoDeFotograma(folder, NumeroDeFotograma(i + 1)), cut.FrameFile(gif, i));
+  for (std::size_t i = 0; i < cut.positions.size(); ++i) {
+    AtomicFile frame(ArchivoDeFotograma(folder, NumeroDeFotograma(i + 1)));
+    frame.Write(gif.substr(0, cut.HeaderLength()));
+    frame.Write(cut.Frame(gif, i));
+    frame.Commit();
+  }
 }
 
 void CortarGif(BasGif& gif, const fs::path& file) {

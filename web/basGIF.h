@@ -19,8 +19,11 @@ struct GifCut {
     return (positions.empty() ? length : positions[0]) - (length > 0 ? 1 : 0);
   }
 
-  // A frame's file (0-based): the header and the frame's bytes up to the next one; the last ends before the
-  // GIF's final byte. `gif` is the whole file that was cut.
+  // A frame's own bytes (0-based), up to the next one; the last ends before the GIF's final byte. `gif` is
+  // the whole file that was cut.
+  std::string_view Frame(std::string_view gif, std::size_t frame) const;
+
+  // A frame's file: the header and the frame's bytes.
   std::string FrameFile(std::string_view gif, std::size_t frame) const;
 };
 

@@ -9,7 +9,7 @@ namespace pixmosa {
 namespace {
 
 constexpr int kDigitosBinarios = 200;
-constexpr std::size_t kBuffer = 1 << 20;
+constexpr std::size_t kBuffer = 256 << 10, kLargestCell = 64;
 
 constexpr std::string_view kCabezaExacta =
     "<style type=\"text/css\">\r\nbody {\r\n  font-size: 1pt;\r\n  line-height: 1px;\r\n}\r\n</style>\r\n\r\n"
@@ -20,9 +20,9 @@ constexpr std::string_view kCabezaMosaico =
     "<br>\r\n<div align=\"center\"><font face=\"Courier New \" size=\"1\">\r\n";
 constexpr std::string_view kPie = "</div>\r\n</body>\r\n\r\n</html>\r\n";
 constexpr std::string_view kAbrir = "<font color=\"rgb(", kCambiar = "</font><font color=\"rgb(",
-                           kCerrar = ")\">";
+                           kCerrar = ")\">", kFinDeFila = "<br>\r\n";
 
-// Numbers -1..255 in decimal with a comma behind.
+// Numbers -1..255 in decimal with a comma behind: four characters at most.
 struct Decimal {
   char text[4];
   std::uint8_t length;  // with the comma
@@ -39,44 +39,29 @@ std::array<Decimal, 257> Decimals() {
   return table;
 }
 
-// Collects the page's cells and hands them to the file in large pieces.
-class Celdas {
+// The opening tag of a colour. The pieces have constant lengths and the pointer stays in a register: a page
+// of a photograph is tens of millions of tags.
+class Etiquetas {
  public:
-  explicit Celdas(AtomicFile& file) : file_(file) { buffer_.resize(kBuffer + kLargestCell); }
-
-  void Color(const ColorDeCelda& c, bool first) {
-    Put(first ? kAbrir : kCambiar);
-    Number(c.R);
-    Number(c.G);
-    Number(c.B);
-    --at_;  // no comma behind the last one
-    Put(kCerrar);
-  }
-
-  void Put(std::string_view s) {
-    std::memcpy(buffer_.data() + at_, s.data(), s.size());
-    at_ += s.size();
-  }
-
-  // Makes room for one more cell or line end.
-  void Flush(bool all = false) {
-    if (at_ < kBuffer && !all) return;
-    file_.Write({buffer_.data(), at_});
-    at_ = 0;
+  char* Put(char* to, Colour colour, bool first) const {
+    const std::string_view open = first ? kAbrir : kCambiar;
+    std::memcpy(to, open.data(), open.size());
+    to += open.size();
+    const ColorDeCelda c = SplitCellColour(colour);
+    to = Number(to, c.R);
+    to = Number(to, c.G);
+    to = Number(to, c.B) - 1;  // no comma behind the last one
+    std::memcpy(to, kCerrar.data(), kCerrar.size());
+    return to + kCerrar.size();
   }
 
  private:
-  static constexpr std::size_t kLargestCell = 64;
-
-  void Number(int n) {
+  char* Number(char* to, int n) const {
     const Decimal& d = decimals_[static_cast<std::size_t>(n + 1)];
-    std::memcpy(buffer_.data() + at_, d.text, sizeof d.text);
-    at_ += d.length;
+    std::memcpy(to, d.text, sizeof d.text);
+    return to + d.length;
   }
 
-  AtomicFile& file_;
-  std::string buffer_;
-  std::size_t at_ = 0;
   const std::array<Decimal, 257> decimals_ = Decimals();
 };
 
@@ -91,11 +76,11 @@ Limites LeerBordes(const WebSettings& s, const Picture& p) {
           p.Width() + (on(s.bordeDerecha) ? 0 : -1), on(s.bordeIzquierda) ? -1 : 0};
 }
 
-// The next character of the palette; nothing where it is empty.
-std::string_view SiguienteCaracter(BasWeb& web) {
-  const std::string_view palette = web.Paleta;
-  if (++web.PosicionPaleta > static_cast<std::int32_t>(palette.size())) web.PosicionPaleta = 1;
-  return palette.empty() ? palette : palette.substr(static_cast<std::size_t>(web.PosicionPaleta - 1), 1);
+// Puts the next character of the palette; nothing where it is empty.
+char* PonerSiguiente(BasWeb& web, char* to) {
+  if (++web.PosicionPaleta > static_cast<std::int32_t>(web.Paleta.size())) web.PosicionPaleta = 1;
+  if (!web.Paleta.empty()) *to++ = web.Paleta[static_cast<std::size_t>(web.PosicionPaleta - 1)];
+  return to;
 }
 
 }  // namespace
@@ -134,23 +119,36 @@ void EscribirWebArt(BasWeb& web, const WebSettings& settings, const Picture& pic
   page.Write(settings.exactCopy ? kCabezaExacta : kCabezaMosaico);
 
   const Limites limits = LeerBordes(settings, picture);
-  Celdas cells(page);
+  const Etiquetas tags;
+  std::string buffer(kBuffer + kLargestCell, '\0');
+  char* const begin = buffer.data();
+  char* const full = begin + kBuffer;
+  char* to = begin;
+  const auto flush = [&](bool all = false) {
+    if (to < full && !all) return;
+    page.Write({begin, static_cast<std::size_t>(to - begin)});
+    to = begin;
+  };
   bool first = true;
   Colour previous = 0;
   for (int y = limits.top; y <= limits.bottom; y += down) {
     for (int x = limits.left; x <= limits.right; x += across) {
       const Colour c = picture.ColourAt(x, y);
-      const std::string_view character = settings.exactCopy ? "0" : SiguienteCaracter(web);
-      if (first || c != previous) cells.Color(SplitCellColour(c), first);
+      if (first || c != previous) to = tags.Put(to, c, first);
       first = false;
       previous = c;
-      cells.Put(character);
-      cells.Flush();
+      if (settings.exactCopy) {
+        *to++ = '0';
+      } else {
+        to = PonerSiguiente(web, to);
+      }
+      flush();
     }
-    cells.Put("<br>\r\n");
-    cells.Flush();
+    std::memcpy(to, kFinDeFila.data(), kFinDeFila.size());
+    to += kFinDeFila.size();
+    flush();
   }
-  cells.Flush(true);
+  flush(true);
   page.Write(kPie);
   page.Commit();
 }

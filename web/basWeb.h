@@ -13,8 +13,8 @@ namespace pixmosa {
 // What the writer reads; the window fills it from its controls, the command line from its options.
 struct WebSettings {
   bool exactCopy = false;
-  int tamaño = 3;           // 1..5; every (6 - tamaño)th pixel is sampled
-  int paleta = 0;           // 0 binary, 1 the user's text, anything else keeps the last one
+  int tamaño = 3;             // 1..5; every (6 - tamaño)th pixel is sampled
+  int paleta = 0;             // 0 binary, 1 the user's text, anything else keeps the last one
   std::string textoPaleta{};  // 8-bit code page
   bool bordeArriba = false, bordeAbajo = false, bordeDerecha = false, bordeIzquierda = false;
 };

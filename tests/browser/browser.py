@@ -1,0 +1,54 @@
+"""A headless Chromium driven over WebDriver with the standard library alone."""
+import json
+import re
+import shutil
+import subprocess
+import tempfile
+import time
+import urllib.request
+
+FLAGS = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
+         "--disable-background-networking", "--disable-component-update", "--disable-sync", "--disable-dev-shm-usage"]
+
+
+class Browser:
+    def __enter__(self):
+        self.profile = tempfile.mkdtemp(prefix="pixmosa-navegador-")
+        self.driver = subprocess.Popen(["chromedriver", "--port=0"], stdout=subprocess.PIPE, text=True)
+        for line in self.driver.stdout:
+            found = re.search(r"started successfully on port (\d+)", line)
+            if found:
+                self.base = f"http://127.0.0.1:{found[1]}"
+                break
+        options = {"args": FLAGS + [f"--user-data-dir={self.profile}"], "binary": shutil.which("chromium")}
+        session = self.call("POST", "/session", {"capabilities": {"alwaysMatch": {"goog:chromeOptions": options}}})
+        self.base += f"/session/{session['sessionId']}"
+        return self
+
+    def __exit__(self, *_):
+        try:
+            self.call("DELETE", "", None)
+        finally:
+            self.driver.terminate()
+            self.driver.wait()
+            shutil.rmtree(self.profile, ignore_errors=True)
+
+    def call(self, method, path, body):
+        data = None if body is None else json.dumps(body).encode()
+        request = urllib.request.Request(self.base + path, data, {"Content-Type": "application/json"}, method=method)
+        opener = urllib.request.build_opener(urllib.request.ProxyHandler({}))  # the driver is on this machine
+        with opener.open(request, timeout=60) as answer:
+            return json.load(answer)["value"]
+
+    def open(self, path):
+        self.call("POST", "/url", {"url": f"file://{path}"})
+
+    def run(self, script):
+        return self.call("POST", "/execute/sync", {"script": script, "args": []})
+
+    def wait(self, script, wanted, seconds=10):
+        """Waits until the script's value is `wanted`; its last value otherwise."""
+        end = time.monotonic() + seconds
+        while (value := self.run(script)) != wanted and time.monotonic() < end:
+            time.sleep(0.02)
+        return value
