@@ -56,6 +56,7 @@ class frmMain final : public QMainWindow {
   void ElegirModo(const QString& mode);
   void ComputeColumnCount();
   void GrabarIni();
+  void PonerEnBlancoYNegro();  // the working picture, by "Método 1"
 
   // --- frmMain_Web.cpp ---
   void GenerarWebArt(bool exactCopy);

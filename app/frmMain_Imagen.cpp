@@ -40,7 +40,7 @@ void MenuDeImagen::Hacer(const EntradaDeImagen& entry) {
   ImagenDeTrabajo& image = owner_.programa().imagen;
   switch (entry.accion) {
     case Accion::Efecto:
-      Aplicar(entry.efecto, entry.argumento);
+      Aplicar(entry.efecto, entry.argumento, true);
       return;
     case Accion::Giro:
       Girar(image, *entry.giro);
@@ -58,11 +58,11 @@ void MenuDeImagen::Hacer(const EntradaDeImagen& entry) {
   owner_.MostrarImagen();
 }
 
-void MenuDeImagen::Aplicar(int effect, std::int32_t argument) {
+void MenuDeImagen::Aplicar(int effect, std::int32_t argument, bool askConfig) {
   Programa& program = owner_.programa();
   try {
     ApplyEffect(program.mFiltros, program.imagen, *this, effect, BitmapDe(program.imagen), argument,
-                owner_.progreso(), true);
+                owner_.progreso(), askConfig);
   } catch (const std::bad_alloc&) {
     program.plataforma.dialogos.Fail("No hay memoria suficiente para aplicar el efecto a esta imagen.",
                                      "Efectos");

@@ -23,6 +23,9 @@ class MenuDeImagen final : public QObject, public VentanaDeEfectos {
   // The menu with every entry of the tree, to be put into the menu bar.
   QMenu* Menu() const { return menu_; }
 
+  // Runs an effect on the working picture; with askConfig a configurable one opens its dialog instead.
+  void Aplicar(int effect, std::int32_t argument, bool askConfig);
+
   // Lets the text area have Ctrl+Z only where its text was changed by hand.
   void CederDeshacer(QPlainTextEdit* area);
 
@@ -34,7 +37,6 @@ class MenuDeImagen final : public QObject, public VentanaDeEfectos {
 
  private:
   void Hacer(const EntradaDeImagen& entry);
-  void Aplicar(int effect, std::int32_t argument);
 
   frmMain& owner_;
   QMenu* menu_;

@@ -10,6 +10,7 @@
 #include "app/Modos.h"
 #include "app/basINI.h"
 #include "app/frmMain.h"
+#include "app/frmMain_Imagen.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "platform/qt/Named.h"
 
@@ -65,6 +66,10 @@ void frmMain::GrabarIni() {
                 .paletaWeb = opciones_->findChild<QComboBox*>("cboPaletaWeb")->currentIndex(),
                 .previewAscii = chkAsciiPrev_->isChecked(),
                 .fuente = a.font});
+}
+
+void frmMain::PonerEnBlancoYNegro() {
+  imagen_->Aplicar(18, Rgb(150, 150, 150), false);
 }
 
 }  // namespace pixmosa

@@ -76,6 +76,7 @@ void frmOpcAlgoritmo::Conectar() {
           [this] { ElegirColor(lblAsciiBackcolor_, fondo_); });
   connect(lblAsciiForeColor_, &QAbstractButton::clicked, this,
           [this] { ElegirColor(lblAsciiForeColor_, texto_); });
+  connect(cmdBN_, &QAbstractButton::clicked, &window_, &frmMain::PonerEnBlancoYNegro);
 }
 
 void frmOpcAlgoritmo::ConectarWeb() {

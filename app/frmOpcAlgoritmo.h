@@ -81,6 +81,7 @@ class frmOpcAlgoritmo final : public QWidget {
   QPushButton* lblAsciiBackcolor_;
   QPushButton* lblAsciiForeColor_;
   QCheckBox* chkRelleno_;
+  QPushButton* cmdBN_;
   QFrame* mrcAnimArt_;
   QLabel* lblAnimArt_;
   QCheckBox* chkAnimArt_;

@@ -123,12 +123,12 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
   chkRelleno_ = named<QCheckBox>("chkRelleno", QStringLiteral("&Rellenar el interior de las formas"));
   chkRelleno_->setToolTip(QStringLiteral("Llena de \":\" el interior de las zonas negras"));
   edges->addWidget(chkRelleno_);
-  edges->addWidget(Nota("La imagen debe ser un dibujo negro sobre blanco: si no lo es, conviértala antes."));
+  edges->addWidget(
+      Nota("La imagen debe ser un dibujo negro sobre blanco: si no lo es, pulse Blanco y negro."));
 
   mrcAscii_[2] = named<QWidget>("mrcAscii(2)");
   Columna(mrcAscii_[2])
-      ->addWidget(
-          Nota("Solo el negro puro es tinta: si la imagen no está en blanco y negro, conviértala antes."));
+      ->addWidget(Nota("Solo el negro puro es tinta: si la imagen tiene otros tonos, pulse Blanco y negro."));
 
   chkAsciiNegativo_ = named<QCheckBox>("chkAsciiNegativo", QStringLiteral("&Negativo"));
   chkAsciiNegativo_->setToolTip(QStringLiteral("Para leer el dibujo con letras claras sobre fondo oscuro"));
@@ -143,6 +143,11 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
   colours->addWidget(lblAsciiForeColor_);
   layout->addLayout(colours);
   for (QWidget* frame : mrcAscii_) layout->addWidget(frame);
+  cmdBN_ = named<QPushButton>("cmdBN", QStringLiteral("&Blanco y negro"));
+  cmdBN_->setToolTip(
+      QStringLiteral("Deja la imagen en blanco y negro puros, como la piden los bordes y el "
+                     "anti-aliasing"));
+  layout->addWidget(cmdBN_);
   return page;
 }
 

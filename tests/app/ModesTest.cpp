@@ -70,6 +70,7 @@ class ModesTest : public QObject {
   void SwatchesColourTheText();
   void WebPaletteEnablesItsText();
   void FillReachesTheOutlines();
+  void BlackAndWhiteButtonChangesThePictureAtOnce();
   void GeneratingKeepsThePlaceAndTheAnimationNeedsNoPreview();
   void SettingsAreWritten();
   void StartEndsWithoutThePatternFile();
@@ -244,6 +245,19 @@ void ModesTest::FillReachesTheOutlines() {
   Find<QCheckBox>(m.window, "chkRelleno").click();
   m.Trigger("Play");
   QVERIFY(m.Text().find(":::::") != std::string::npos);
+}
+
+void ModesTest::BlackAndWhiteButtonChangesThePictureAtOnce() {
+  test::MainWindow m;
+  auto& button = Find<QPushButton>(m.window, "cmdBN");
+  button.click();  // without a picture: nothing
+  m.Load(test::Grays({{0, 149, 150, 255}}));
+  m.window.areaDeTexto().PonerTexto(kStale);
+  button.click();
+  QCOMPARE(test::Levels(m.program.imagen.picMain), (std::vector<std::vector<int>>{{0, 0, 255, 255}}));
+  QCOMPARE(test::Levels(m.program.imagen.picUndo), (std::vector<std::vector<int>>{{0, 149, 150, 255}}));
+  QCOMPARE(m.Text(), kStale);
+  QVERIFY2(!m.window.findChild<QWidget*>("frmEfectConfig"), "the effect runs without its dialog");
 }
 
 void ModesTest::GeneratingKeepsThePlaceAndTheAnimationNeedsNoPreview() {
