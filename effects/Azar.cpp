@@ -30,9 +30,16 @@ void FilaRuidosa(const std::uint8_t* __restrict s, const std::uint32_t* __restri
   }
 }
 
+// round(draw x a - half) for each draw.
+PIXMOSA_CLONES
+void FilaDeSaltos(const std::uint32_t* __restrict draws, std::int32_t* __restrict steps, std::size_t n,
+                  std::uint32_t a, std::int32_t half) {
+  for (std::size_t i = 0; i < n; ++i) steps[i] = RedondearSorteo(draws[i], a, -half);
+}
+
 // Where a coordinate goes: itself where the displaced one lies outside 1..limit.
 inline int Desplazada(int at, int by, int limit) {
-  return at + by >= 1 && at + by <= limit ? at + by : at;
+  return static_cast<unsigned>(at + by - 1) < static_cast<unsigned>(limit) ? at + by : at;
 }
 
 }  // namespace
@@ -56,17 +63,21 @@ void AñadirRuido(PixelBuffers& b, std::int32_t a) {
 void Difuminar(PixelBuffers& b, std::int32_t a) {
   a = std::clamp(a, 0, 100);
   const std::int32_t half = RoundHalfEven(a / 2.0);
-  const auto factor = static_cast<std::uint32_t>(a);
-  RecorrerFilas(b, [&](const std::uint32_t* s, std::uint32_t* d, int y) {
+  std::vector<std::uint32_t> draws(2 * b.Columnas());
+  std::vector<std::int32_t> steps(draws.size());
+  // In place: every row that a displacement can reach stands in the destination before it is read.
+  int copied = 0;
+  RecorrerFilas(b, [&](const std::uint32_t*, std::uint32_t* d, int y) {
+    for (; copied < std::min(b.H, y + a - half); ++copied) b.CopiarFila(copied + 1);
     Random random = b.random;
-    for (int x = 1; x <= b.W; ++x) {
-      const int column = Desplazada(x, RedondearSorteo(random.Bits() >> 8, factor, -half), b.W);
-      const int row = Desplazada(y, RedondearSorteo(random.Bits() >> 8, factor, -half), b.H);
-      const bool replaced = row < y || (row == y && column < x);
-      const std::uint32_t* from = replaced ? b.Destino(row) : b.Fuente(row);
-      d[x - 1] = (from[column - 1] & 0xFFFFFFU) | (s[x - 1] & 0xFF000000U);
-    }
+    for (std::uint32_t& draw : draws) draw = random.Bits() >> 8;
     b.random = random;
+    FilaDeSaltos(draws.data(), steps.data(), steps.size(), static_cast<std::uint32_t>(a), half);
+    for (int x = 1; x <= b.W; ++x) {
+      const auto i = 2 * static_cast<std::size_t>(x - 1);
+      const int column = Desplazada(x, steps[i], b.W), row = Desplazada(y, steps[i + 1], b.H);
+      d[x - 1] = (b.Destino(row)[column - 1] & 0xFFFFFFU) | (d[x - 1] & 0xFF000000U);
+    }
   });
 }
 

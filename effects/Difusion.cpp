@@ -1,5 +1,4 @@
 #include <array>
-#include <span>
 #include <vector>
 
 #include "effects/Efectos.h"
@@ -9,73 +8,118 @@
 namespace pixmosa {
 namespace {
 
-// Weights by row and column x-2..x+2; the shares of the current row go to x+1 and x+2 only.
+// The different weights of a method, and the bar at the start.
 struct Metodo {
-  std::array<std::array<int, 5>, 3> pesos;
-  int divisor, filas, alEmpezar;  // rows reached; the bar at the start
+  std::array<int, 4> pesos;
+  int divisor, alEmpezar;
 };
 
-constexpr Metodo kMetodo4 = {{{{0, 0, 0, 7, 0}, {0, 3, 5, 1, 0}, {}}}, 16, 2, 2};
-constexpr Metodo kMetodo5 = {{{{0, 0, 0, 8, 4}, {2, 4, 8, 4, 2}, {}}}, 32, 2, 3};
-constexpr Metodo kMetodo6 = {{{{0, 0, 0, 8, 4}, {2, 4, 8, 4, 2}, {1, 2, 4, 2, 1}}}, 42, 3, 3};
+constexpr Metodo kMetodo4 = {{7, 3, 5, 1}, 16, 2};
+constexpr Metodo kMetodo5 = {{8, 4, 2, 0}, 32, 3};
+constexpr Metodo kMetodo6 = {{8, 4, 2, 1}, 42, 3};
 
 // Error rows with two spare columns on either side, which take the shares that leave the picture.
 constexpr std::size_t kMargen = 2;
 using FilaDeErrores = std::vector<std::int32_t>;
+using Errores = std::array<FilaDeErrores, 3>;
 
 // The accumulated error lies in -255..255 (the weights of what a pixel receives sum to at most the divisor),
 // so a level plus its damped error lies in -2550..2805 for the strongest damping factor of 10.
 constexpr std::int32_t kMasError = 255, kMasSuma = 10 * kMasError;
 
+// The shares of one error, in the order of the method's weights.
+using Partes = std::array<std::int16_t, 4>;
+
 struct Tablas {
   std::array<std::int32_t, 2 * kMasError + 1> amortiguado{};  // error x 10 / a
-  // By level plus damped error: the shares of the chosen output's error and that output.
-  struct Salida {
-    std::array<std::array<std::int16_t, 5>, 3> partes;
-    std::uint32_t pixel;
-  };
-  std::vector<Salida> salidas;
+  std::vector<Partes> partes{2 * kMasSuma + 256};             // by level plus damped error
+  std::int32_t mean;
 
-  Tablas(const Metodo& m, std::int32_t mean, std::int32_t a) : salidas(2 * kMasSuma + 256) {
+  Tablas(const Metodo& m, std::int32_t meanGray, std::int32_t a) : mean(meanGray) {
     for (std::int32_t e = -kMasError; e <= kMasError; ++e)
       amortiguado[static_cast<std::size_t>(e + kMasError)] = e * 10 / a;
-    for (std::size_t i = 0; i < salidas.size(); ++i) {
+    for (std::size_t i = 0; i < partes.size(); ++i) {
       const std::int32_t v = ClampByte(static_cast<std::int32_t>(i) - kMasSuma), o = v < mean ? 0 : 255;
-      salidas[i].pixel = o ? 0xFFFFFFU : 0U;
-      for (std::size_t row = 0; row < 3; ++row)
-        for (std::size_t k = 0; k < 5; ++k)
-          salidas[i].partes[row][k] = static_cast<std::int16_t>(m.pesos[row][k] * (v - o) / m.divisor);
+      for (std::size_t k = 0; k < 4; ++k)
+        partes[i][k] = static_cast<std::int16_t>(m.pesos[k] * (v - o) / m.divisor);
     }
   }
 
-  const Salida& De(std::int32_t gray, std::int32_t error) const {
-    const std::int32_t v = gray + amortiguado[static_cast<std::size_t>(error + kMasError)];
-    return salidas[static_cast<std::size_t>(v + kMasSuma)];
+  std::int32_t Suma(std::int32_t gray, std::int32_t error) const {
+    return gray + amortiguado[static_cast<std::size_t>(error + kMasError)];
+  }
+  const Partes& De(std::int32_t sum) const { return partes[static_cast<std::size_t>(sum + kMasSuma)]; }
+
+  // Clamping the sum first would change nothing but where the mean is 0: no clamped level is less than 0.
+  std::uint32_t Salida(std::uint32_t p, std::int32_t sum) const {
+    return (p & 0xFF000000U) | (sum < mean && mean > 0 ? 0U : 0xFFFFFFU);
   }
 };
 
-// One row; the errors of the current row arrive in rows[0], those of the next ones are added to rows[1] and
-// [2].
-template <std::size_t kFilas>
-void Difundir(const Tablas& t, const std::uint32_t* s, const std::uint8_t* grays, std::uint32_t* d,
-              std::size_t n, std::array<FilaDeErrores, 3>& rows) {
-  std::int32_t first = 0, second = 0;  // shares of this row for x and x + 1
+// One row by weights 7 | 3 5 1. What a pixel of the next row gets waits in `here` and `ahead` until it is
+// whole.
+void DifundirEstrecho(const Tablas& t, const std::uint32_t* s, const std::uint8_t* grays, std::uint32_t* d,
+                      std::size_t n, Errores& rows) {
+  const std::int32_t* error = rows[0].data() + kMargen;
+  std::int32_t* next = rows[1].data() + kMargen;
+  std::int32_t right = 0, here = 0, ahead = 0;
   for (std::size_t x = 0; x < n; ++x) {
-    const Tablas::Salida& out = t.De(grays[x], rows[0][x + kMargen] + first);
-    d[x] = (s[x] & 0xFF000000U) | out.pixel;
-    first = second + out.partes[0][3];
-    second = out.partes[0][4];
-    for (std::size_t row = 1; row < kFilas; ++row)
-      for (std::size_t k = 0; k < 5; ++k) rows[row][x + k] += out.partes[row][k];
+    const std::int32_t sum = t.Suma(grays[x], error[x] + right);
+    const Partes& p = t.De(sum);
+    d[x] = t.Salida(s[x], sum);
+    right = p[0];
+    next[static_cast<std::ptrdiff_t>(x) - 1] = here + p[1];
+    here = ahead + p[2];
+    ahead = p[3];
+  }
+  next[n - 1] = here;
+}
+
+// The five columns x-2..x+2 of a row below, of which x-2 is whole after each step.
+struct Ventana {
+  std::int32_t a = 0, b = 0, c = 0, d = 0;
+
+  std::int32_t Pasar(std::int32_t outer, std::int32_t inner, std::int32_t middle) {
+    const std::int32_t whole = a + outer;
+    a = b + inner;
+    b = c + middle;
+    c = d + inner;
+    d = outer;
+    return whole;
+  }
+};
+
+// One row by weights 8 4 | 2 4 8 4 2, and | 1 2 4 2 1 in a third row.
+template <bool kTercera>
+void DifundirAncho(const Tablas& t, const std::uint32_t* s, const std::uint8_t* grays, std::uint32_t* d,
+                   std::size_t n, Errores& rows) {
+  const std::int32_t* error = rows[0].data() + kMargen;
+  std::int32_t *next = rows[1].data(), *third = rows[2].data();
+  std::int32_t right = 0, second = 0;
+  Ventana below, last;
+  for (std::size_t x = 0; x < n; ++x) {
+    const std::int32_t sum = t.Suma(grays[x], error[x] + right);
+    const Partes& p = t.De(sum);
+    d[x] = t.Salida(s[x], sum);
+    right = second + p[0];
+    second = p[1];
+    next[x] += below.Pasar(p[2], p[1], p[0]);
+    if constexpr (kTercera) third[x] = last.Pasar(p[3], p[2], p[1]);
+  }
+  for (std::size_t x = n; x < n + kMargen; ++x) {
+    next[x] += below.Pasar(0, 0, 0);
+    if constexpr (kTercera) third[x] = last.Pasar(0, 0, 0);
   }
 }
 
-template <std::size_t kFilas>
-void DifusionDeError(PixelBuffers& b, const Metodo& m, std::int32_t a) {
+using Difundir = void (*)(const Tablas&, const std::uint32_t*, const std::uint8_t*, std::uint32_t*,
+                          std::size_t, Errores&);
+
+void DifusionDeError(PixelBuffers& b, const Metodo& m, Difundir row, std::int32_t a) {
   b.Avance(m.alEmpezar);
   const Tablas tables(m, MediaDeGrises(b), std::clamp(a, 1, 1000));
   b.Avance(10);
-  std::array<FilaDeErrores, 3> rows;
+  Errores rows;
   rows.fill(FilaDeErrores(b.Columnas() + 2 * kMargen));
   std::vector<std::uint8_t> grays(b.Columnas());
   const Tramo bar{10, 90};
@@ -83,9 +127,9 @@ void DifusionDeError(PixelBuffers& b, const Metodo& m, std::int32_t a) {
       b,
       [&](const std::uint32_t* s, std::uint32_t* d, int) {
         FilaDeGrises(s, grays.data(), b.Columnas());
-        Difundir<kFilas>(tables, s, grays.data(), d, b.Columnas(), rows);
-        std::rotate(rows.begin(), rows.begin() + 1, rows.begin() + kFilas);
-        std::fill(rows[kFilas - 1].begin(), rows[kFilas - 1].end(), 0);
+        row(tables, s, grays.data(), d, b.Columnas(), rows);
+        std::rotate(rows.begin(), rows.begin() + 1, rows.end());
+        std::fill(rows[2].begin(), rows[2].end(), 0);
       },
       bar);
 }
@@ -93,15 +137,15 @@ void DifusionDeError(PixelBuffers& b, const Metodo& m, std::int32_t a) {
 }  // namespace
 
 void Metodo4(PixelBuffers& b, std::int32_t a) {
-  DifusionDeError<2>(b, kMetodo4, a);
+  DifusionDeError(b, kMetodo4, DifundirEstrecho, a);
 }
 
 void Metodo5(PixelBuffers& b, std::int32_t a) {
-  DifusionDeError<2>(b, kMetodo5, a);
+  DifusionDeError(b, kMetodo5, DifundirAncho<false>, a);
 }
 
 void Metodo6(PixelBuffers& b, std::int32_t a) {
-  DifusionDeError<3>(b, kMetodo6, a);
+  DifusionDeError(b, kMetodo6, DifundirAncho<true>, a);
 }
 
 }  // namespace pixmosa

@@ -2,7 +2,9 @@
 #include <cmath>
 
 #include "effects/Efectos.h"
+#include "effects/Filas.h"
 #include "effects/Grises.h"
+#include "platform/Clones.h"
 #include "platform/Rounding.h"
 
 namespace pixmosa {
@@ -21,47 +23,110 @@ void PorTabla(PixelBuffers& b, const TablaDeBytes& table) {
   });
 }
 
-// d x s for d = -255..255 as 4 x its floor plus 1, 2 or 3: below, at or above the half. A component c to be
-// added decides at the half, because the sum is rounded to even.
-using TablaDeDistancias = std::array<std::int32_t, 511>;
+// v x (percent / 100) + c, rounded half to even, is a whole number of hundredths away from any tie except at
+// one, and there the factor's single precision decides: it lies above or below percent / 100, or is equal to
+// it, and only then "to even" does. So whole numbers of hundredths suffice: t = hundredths + 50, less 1 where
+// a tie goes down.
+enum class Empate { Arriba, Abajo, Par };
 
-TablaDeDistancias Distancias(float s) {
-  TablaDeDistancias table{};
-  for (int d = -255; d <= 255; ++d) {
-    const double v = d * double{s};
-    const std::int32_t whole = Floor(v);
-    const double rest = v - whole;
-    table[static_cast<std::size_t>(d + 255)] = 4 * whole + (rest < 0.5 ? 1 : rest > 0.5 ? 3 : 2);
-  }
-  return table;
+// How the single-precision factor lies to percent / 100.
+Empate EmpateDe(std::int32_t percent) {
+  const double hundredths = double{static_cast<float>(percent / 100.0)} * 100.0;
+  return hundredths > percent ? Empate::Arriba : hundredths < percent ? Empate::Abajo : Empate::Par;
 }
 
-std::uint32_t Saturada(const TablaDeDistancias& table, std::int32_t c, std::int32_t gray) {
-  const std::int32_t v = 4 * c + table[static_cast<std::size_t>(c - gray + 255)];
-  return static_cast<std::uint32_t>(ClampByte((v + 1 + (v >> 2 & 1)) >> 2));
+// t \ 100 for t = 0..25599, limiting what lies beyond to 0..255.
+inline std::uint32_t Centesima(std::uint32_t t) {
+  return (t >> 2) * 20972U >> 19;
+}
+
+// The even one of the two numbers around a tie, which is where t is a whole hundred.
+inline std::uint32_t HaciaElPar(std::uint32_t t, std::uint32_t q) {
+  return q - static_cast<std::uint32_t>((t == q * 100) & q & 1);
+}
+
+constexpr std::int32_t kTope = 25599;
+
+// round(s x percent / 100), limited to a byte, percent = 0..200.
+template <bool kPar>
+inline void EscalarBytes(const std::uint8_t* __restrict s, std::uint8_t* __restrict d, std::size_t n,
+                         std::uint16_t percent, std::uint16_t half) {
+  for (std::size_t i = 0; i < n; ++i) {
+    const auto v = static_cast<std::uint16_t>(s[i] * percent + half);
+    const auto t = static_cast<std::uint16_t>(v > kTope ? kTope : v);
+    const std::uint32_t q = Centesima(t);
+    d[i] = static_cast<std::uint8_t>(kPar && v <= kTope ? HaciaElPar(t, q) : q);
+  }
+}
+
+PIXMOSA_CLONES
+void FilaEscalada(const std::uint8_t* s, std::uint8_t* d, std::size_t n, std::uint16_t percent,
+                  std::uint16_t half) {
+  EscalarBytes<false>(s, d, n, percent, half);
+}
+
+PIXMOSA_CLONES
+void FilaEscaladaPar(const std::uint8_t* s, std::uint8_t* d, std::size_t n, std::uint16_t percent,
+                     std::uint16_t half) {
+  EscalarBytes<true>(s, d, n, percent, half);
+}
+
+// c + (c - gray) x percent / 100, rounded and limited. The halves are 50 or 49 as a tie goes up or down, for
+// c >= gray and for c < gray.
+template <bool kPar>
+inline std::uint32_t Saturada(std::int32_t c, std::int32_t gray, std::int32_t percent, std::int32_t halfAbove,
+                              std::int32_t halfBelow) {
+  const std::int32_t d = c - gray;
+  const std::int32_t v = 100 * c + d * percent + (d < 0 ? halfBelow : halfAbove);
+  const auto t = static_cast<std::uint32_t>(v < 0 ? 0 : v > kTope ? kTope : v);
+  const std::uint32_t q = Centesima(t);
+  return kPar ? HaciaElPar(t, q) : q;
+}
+
+template <bool kPar>
+inline void SaturarPixeles(const std::uint32_t* __restrict s, std::uint32_t* __restrict d, std::size_t n,
+                           std::int32_t percent, std::int32_t halfAbove, std::int32_t halfBelow) {
+  for (std::size_t x = 0; x < n; ++x) {
+    const std::uint32_t p = s[x];
+    const auto gray = static_cast<std::int32_t>(Tercio(SumaRGB(p)));
+    const auto b = static_cast<std::int32_t>(p & 0xFF), g = static_cast<std::int32_t>(p >> 8 & 0xFF),
+               r = static_cast<std::int32_t>(p >> 16 & 0xFF);
+    d[x] = (p & 0xFF000000U) | Saturada<kPar>(b, gray, percent, halfAbove, halfBelow) |
+           Saturada<kPar>(g, gray, percent, halfAbove, halfBelow) << 8 |
+           Saturada<kPar>(r, gray, percent, halfAbove, halfBelow) << 16;
+  }
+}
+
+PIXMOSA_CLONES
+void FilaSaturada(const std::uint32_t* s, std::uint32_t* d, std::size_t n, std::int32_t percent,
+                  std::int32_t halfAbove, std::int32_t halfBelow) {
+  SaturarPixeles<false>(s, d, n, percent, halfAbove, halfBelow);
+}
+
+PIXMOSA_CLONES
+void FilaSaturadaPar(const std::uint32_t* s, std::uint32_t* d, std::size_t n, std::int32_t percent,
+                     std::int32_t halfAbove, std::int32_t halfBelow) {
+  SaturarPixeles<true>(s, d, n, percent, halfAbove, halfBelow);
 }
 
 }  // namespace
 
 void Brillo(PixelBuffers& b, std::int32_t a) {
-  const auto f = static_cast<float>((std::clamp(a, -100, 100) + 100) / 100.0);
-  TablaDeBytes table{};
-  for (int i = 0; i < 256; ++i)
-    table[static_cast<std::size_t>(i)] = static_cast<std::uint8_t>(ClampByte(RoundHalfEven(i * double{f})));
-  PorTabla(b, table);
+  const auto percent = static_cast<std::uint16_t>(std::clamp(a, -100, 100) + 100);
+  const Empate tie = EmpateDe(percent);
+  const std::uint16_t half = tie == Empate::Abajo ? 49 : 50;
+  RecorrerFilas(b, [&](const std::uint32_t* s, std::uint32_t* d, int) {
+    (tie == Empate::Par ? FilaEscaladaPar : FilaEscalada)(Octetos(s), Octetos(d), b.Bytes(), percent, half);
+    RestaurarCuarto(s, d, b.Columnas());
+  });
 }
 
 void Saturacion(PixelBuffers& b, std::int32_t a) {
-  const TablaDeDistancias table = Distancias(static_cast<float>(std::clamp(a, -100, 100) / 100.0));
+  const std::int32_t percent = std::clamp(a, -100, 100);
+  const Empate tie = EmpateDe(percent);
+  const std::int32_t above = tie == Empate::Abajo ? 49 : 50, below = tie == Empate::Arriba ? 49 : 50;
   RecorrerFilas(b, [&](const std::uint32_t* s, std::uint32_t* d, int) {
-    for (std::size_t x = 0; x < b.Columnas(); ++x) {
-      const std::uint32_t p = s[x];
-      const auto gray = static_cast<std::int32_t>(Tercio(SumaRGB(p)));
-      const auto nueva = [&](unsigned shift) {
-        return Saturada(table, static_cast<std::int32_t>(p >> shift & 0xFF), gray) << shift;
-      };
-      d[x] = (p & 0xFF000000U) | nueva(0) | nueva(8) | nueva(16);
-    }
+    (tie == Empate::Par ? FilaSaturadaPar : FilaSaturada)(s, d, b.Columnas(), percent, above, below);
   });
 }
 
