@@ -31,8 +31,8 @@ constexpr std::int32_t kMasError = 255, kMasSuma = 10 * kMasError;
 using Partes = std::array<std::int16_t, 4>;
 
 struct Tablas {
-  std::array<std::int32_t, 2 * kMasError + 1> amortiguado{};  // error x 10 / a
-  std::vector<Partes> partes{2 * kMasSuma + 256};             // by level plus damped error
+  std::array<std::ptrdiff_t, 2 * kMasError + 1> amortiguado{};  // error x 10 / a
+  std::vector<Partes> partes{2 * kMasSuma + 256};               // by level plus damped error
   std::int32_t mean;
 
   Tablas(const Metodo& m, std::int32_t meanGray, std::int32_t a) : mean(meanGray) {
@@ -45,14 +45,16 @@ struct Tablas {
     }
   }
 
-  std::int32_t Suma(std::int32_t gray, std::int32_t error) const {
-    return gray + amortiguado[static_cast<std::size_t>(error + kMasError)];
-  }
-  const Partes& De(std::int32_t sum) const { return partes[static_cast<std::size_t>(sum + kMasSuma)]; }
-
-  // Clamping the sum first would change nothing but where the mean is 0: no clamped level is less than 0.
-  std::uint32_t Salida(std::uint32_t p, std::int32_t sum) const {
-    return (p & 0xFF000000U) | (sum < mean && mean > 0 ? 0U : 0xFFFFFFU);
+  // The shares of a pixel and its output. `left` is the share that the pixel before has just passed on,
+  // `other` the rest of the error: from one pixel to the next there are only two table entries, whose bases
+  // do not wait.
+  const Partes& Repartir(std::int32_t gray, std::int32_t other, std::ptrdiff_t left,
+                         std::uint32_t& pixel) const {
+    const std::ptrdiff_t damped = (amortiguado.data() + kMasError + other)[left];
+    // Clamping the sum first would change nothing but where the mean is 0: no clamped level is less than 0.
+    const bool black = gray + damped < mean && mean > 0;
+    pixel = (pixel & 0xFF000000U) | (black ? 0U : 0xFFFFFFU);
+    return (partes.data() + kMasSuma + gray)[damped];
   }
 };
 
@@ -62,11 +64,11 @@ void DifundirEstrecho(const Tablas& t, const std::uint32_t* s, const std::uint8_
                       std::size_t n, Errores& rows) {
   const std::int32_t* error = rows[0].data() + kMargen;
   std::int32_t* next = rows[1].data() + kMargen;
-  std::int32_t right = 0, here = 0, ahead = 0;
+  std::ptrdiff_t right = 0;
+  std::int32_t here = 0, ahead = 0;
   for (std::size_t x = 0; x < n; ++x) {
-    const std::int32_t sum = t.Suma(grays[x], error[x] + right);
-    const Partes& p = t.De(sum);
-    d[x] = t.Salida(s[x], sum);
+    d[x] = s[x];
+    const Partes& p = t.Repartir(grays[x], error[x], right, d[x]);
     right = p[0];
     next[static_cast<std::ptrdiff_t>(x) - 1] = here + p[1];
     here = ahead + p[2];
@@ -95,14 +97,15 @@ void DifundirAncho(const Tablas& t, const std::uint32_t* s, const std::uint8_t* 
                    std::size_t n, Errores& rows) {
   const std::int32_t* error = rows[0].data() + kMargen;
   std::int32_t *next = rows[1].data(), *third = rows[2].data();
-  std::int32_t right = 0, second = 0;
+  std::ptrdiff_t right = 0;
+  std::int32_t second = 0, luego = 0;
   Ventana below, last;
   for (std::size_t x = 0; x < n; ++x) {
-    const std::int32_t sum = t.Suma(grays[x], error[x] + right);
-    const Partes& p = t.De(sum);
-    d[x] = t.Salida(s[x], sum);
-    right = second + p[0];
-    second = p[1];
+    d[x] = s[x];
+    const Partes& p = t.Repartir(grays[x], error[x] + second, right, d[x]);
+    right = p[0];
+    second = luego;
+    luego = p[1];
     next[x] += below.Pasar(p[2], p[1], p[0]);
     if constexpr (kTercera) third[x] = last.Pasar(p[3], p[2], p[1]);
   }
