@@ -31,11 +31,11 @@ constexpr std::int32_t kMasError = 255, kMasSuma = 10 * kMasError;
 using Partes = std::array<std::int16_t, 4>;
 
 struct Tablas {
-  std::array<std::ptrdiff_t, 2 * kMasError + 1> amortiguado{};  // error x 10 / a
-  std::vector<Partes> partes{2 * kMasSuma + 256};               // by level plus damped error
-  std::int32_t mean;
+  std::array<std::int64_t, 2 * kMasError + 1> amortiguado{};  // error x 10 / a
+  std::vector<Partes> partes{2 * kMasSuma + 256};             // by level plus damped error
+  std::int64_t umbral;  // the least sum that becomes white; every one where the mean is 0
 
-  Tablas(const Metodo& m, std::int32_t meanGray, std::int32_t a) : mean(meanGray) {
+  Tablas(const Metodo& m, std::int32_t mean, std::int32_t a) : umbral(mean > 0 ? mean : -kMasSuma) {
     for (std::int32_t e = -kMasError; e <= kMasError; ++e)
       amortiguado[static_cast<std::size_t>(e + kMasError)] = e * 10 / a;
     for (std::size_t i = 0; i < partes.size(); ++i) {
@@ -45,18 +45,26 @@ struct Tablas {
     }
   }
 
-  // The shares of a pixel and its output. `left` is the share that the pixel before has just passed on,
-  // `other` the rest of the error: from one pixel to the next there are only two table entries, whose bases
-  // do not wait.
-  const Partes& Repartir(std::int32_t gray, std::int32_t other, std::ptrdiff_t left,
-                         std::uint32_t& pixel) const {
-    const std::ptrdiff_t damped = (amortiguado.data() + kMasError + other)[left];
-    // Clamping the sum first would change nothing but where the mean is 0: no clamped level is less than 0.
-    const bool black = gray + damped < mean && mean > 0;
-    pixel = (pixel & 0xFF000000U) | (black ? 0U : 0xFFFFFFU);
-    return (partes.data() + kMasSuma + gray)[damped];
+  // What is known of a pixel before the share of the one to its left: where its damped errors and its shares
+  // begin.
+  struct Base {
+    const std::int64_t* damped;
+    const Partes* shares;
+  };
+  Base De(std::int32_t gray, std::int32_t error) const {
+    return {amortiguado.data() + kMasError + error, partes.data() + kMasSuma + gray};
+  }
+
+  // The output by the sign and not by a branch: which of the two it will be cannot be foretold. The sum is
+  // not clamped first, which makes a difference only where the mean is 0.
+  std::uint32_t Salida(std::uint32_t p, std::int64_t sum) const {
+    const auto black = static_cast<std::uint32_t>((sum - umbral) >> 63);
+    return (p & 0xFF000000U) | (~black & 0xFFFFFFU);
   }
 };
+
+// The rows carry the base of the next pixel along: from one pixel to the next there are only two table
+// entries.
 
 // One row by weights 7 | 3 5 1. What a pixel of the next row gets waits in `here` and `ahead` until it is
 // whole.
@@ -64,12 +72,15 @@ void DifundirEstrecho(const Tablas& t, const std::uint32_t* s, const std::uint8_
                       std::size_t n, Errores& rows) {
   const std::int32_t* error = rows[0].data() + kMargen;
   std::int32_t* next = rows[1].data() + kMargen;
-  std::ptrdiff_t right = 0;
+  std::int64_t right = 0;
+  Tablas::Base base = t.De(grays[0], error[0]);
   std::int32_t here = 0, ahead = 0;
   for (std::size_t x = 0; x < n; ++x) {
-    d[x] = s[x];
-    const Partes& p = t.Repartir(grays[x], error[x], right, d[x]);
+    const std::int64_t damped = base.damped[right];
+    const Partes& p = base.shares[damped];
+    d[x] = t.Salida(s[x], grays[x] + damped);
     right = p[0];
+    base = t.De(grays[x + 1], error[x + 1]);
     next[static_cast<std::ptrdiff_t>(x) - 1] = here + p[1];
     here = ahead + p[2];
     ahead = p[3];
@@ -97,15 +108,17 @@ void DifundirAncho(const Tablas& t, const std::uint32_t* s, const std::uint8_t* 
                    std::size_t n, Errores& rows) {
   const std::int32_t* error = rows[0].data() + kMargen;
   std::int32_t *next = rows[1].data(), *third = rows[2].data();
-  std::ptrdiff_t right = 0;
-  std::int32_t second = 0, luego = 0;
+  std::int64_t right = 0;
+  Tablas::Base base = t.De(grays[0], error[0]);
+  std::int32_t second = 0;
   Ventana below, last;
   for (std::size_t x = 0; x < n; ++x) {
-    d[x] = s[x];
-    const Partes& p = t.Repartir(grays[x], error[x] + second, right, d[x]);
+    const std::int64_t damped = base.damped[right];
+    const Partes& p = base.shares[damped];
+    d[x] = t.Salida(s[x], grays[x] + damped);
     right = p[0];
-    second = luego;
-    luego = p[1];
+    base = t.De(grays[x + 1], error[x + 1] + second);
+    second = p[1];
     next[x] += below.Pasar(p[2], p[1], p[0]);
     if constexpr (kTercera) third[x] = last.Pasar(p[3], p[2], p[1]);
   }
@@ -124,7 +137,7 @@ void DifusionDeError(PixelBuffers& b, const Metodo& m, Difundir row, std::int32_
   b.Avance(10);
   Errores rows;
   rows.fill(FilaDeErrores(b.Columnas() + 2 * kMargen));
-  std::vector<std::uint8_t> grays(b.Columnas());
+  std::vector<std::uint8_t> grays(b.Columnas() + 1);  // and one more, which the look ahead reads
   const Tramo bar{10, 90};
   RecorrerFilas(
       b,
