@@ -1,7 +1,9 @@
 #include <array>
+#include <vector>
 
 #include "effects/Efectos.h"
 #include "effects/Grises.h"
+#include "platform/Clones.h"
 #include "platform/Rounding.h"
 
 namespace pixmosa {
@@ -13,22 +15,76 @@ struct Componentes {
 };
 
 // Limits c to 0..255 and adds half of what was cut off to the other two.
-void Repartir(std::int32_t& c, std::int32_t& one, std::int32_t& other) {
-  const std::int32_t cut = c < 0 ? c : c > 255 ? c - 255 : 0;
-  c -= cut;
-  one += cut / 2;
-  other += cut / 2;
+inline void Repartir(std::int32_t& c, std::int32_t& one, std::int32_t& other) {
+  const std::int32_t limited = c < 0 ? 0 : c > 255 ? 255 : c;
+  const std::int32_t cut = c - limited, half = (cut + (cut < 0 ? 1 : 0)) >> 1;
+  c = limited;
+  one += half;
+  other += half;
 }
 
-Componentes Limitar(Componentes c) {
-  while (!c.EnRango()) {
-    if (c.b < 1 && c.g <= 0 && c.r <= 0) return {0, 0, 0};
-    if (c.b >= 255 && c.g >= 255 && c.r >= 255) return {255, 255, 255};
-    Repartir(c.b, c.r, c.g);
-    Repartir(c.g, c.r, c.b);
-    Repartir(c.r, c.g, c.b);
+// One round. What lies in range is left alone by it, so a round too many does no harm.
+inline Componentes Ronda(Componentes c) {
+  const std::int32_t black = -static_cast<std::int32_t>((c.b < 1) & (c.g < 1) & (c.r < 1)),
+                     white = -static_cast<std::int32_t>((c.b > 254) & (c.g > 254) & (c.r > 254));
+  Repartir(c.b, c.r, c.g);
+  Repartir(c.g, c.r, c.b);
+  Repartir(c.r, c.g, c.b);
+  const std::int32_t keep = ~(black | white), fill = white & 255;
+  return {(c.b & keep) | fill, (c.g & keep) | fill, (c.r & keep) | fill};
+}
+
+constexpr std::uint32_t Unidos(std::uint32_t p, const Componentes& c) {
+  return (p & 0xFF000000U) | static_cast<std::uint32_t>((c.b & 255) | (c.g & 255) << 8 | (c.r & 255) << 16);
+}
+
+// The pixels of a row that still lie out of range, by components so that whole vectors take a round together.
+// Every pixel is written at the end and stays there only if it is out of range: no branch has to be foretold.
+class Pendientes {
+ public:
+  explicit Pendientes(std::size_t columns) : b_(columns), g_(columns), r_(columns), x_(columns) {}
+
+  std::size_t Cuantos() const { return n_; }
+  void Vaciar() { n_ = 0; }
+
+  void Poner(std::size_t x, const Componentes& c) {
+    b_[n_] = c.b;
+    g_[n_] = c.g;
+    r_[n_] = c.r;
+    x_[n_] = static_cast<std::uint32_t>(x);
+    n_ += c.EnRango() ? 0 : 1;
   }
-  return c;
+
+  // One round for all; the results go to the row `d`, and those in range leave.
+  void DarRonda(std::uint32_t* d);
+
+ private:
+  std::vector<std::int32_t> b_, g_, r_;
+  std::vector<std::uint32_t> x_;
+  std::size_t n_ = 0;
+};
+
+PIXMOSA_CLONES
+void RondaDeTodos(std::int32_t* __restrict b, std::int32_t* __restrict g, std::int32_t* __restrict r,
+                  std::size_t n) {
+  for (std::size_t i = 0; i < n; ++i) {
+    const Componentes c = Ronda({b[i], g[i], r[i]});
+    b[i] = c.b;
+    g[i] = c.g;
+    r[i] = c.r;
+  }
+}
+
+void Pendientes::DarRonda(std::uint32_t* d) {
+  RondaDeTodos(b_.data(), g_.data(), r_.data(), n_);
+  const std::size_t n = n_;
+  Vaciar();
+  for (std::size_t i = 0; i < n; ++i) {
+    const Componentes c{b_[i], g_[i], r_[i]};
+    const std::size_t x = x_[i];
+    d[x] = Unidos(d[x], c);
+    Poner(x, c);
+  }
 }
 
 }  // namespace
@@ -38,6 +94,7 @@ void Contraste(PixelBuffers& b, std::int32_t a) {
   const auto f = static_cast<float>((std::clamp(a, -100, 100) + 100) / 100.0);
   std::array<std::int32_t, 256> k{};
   for (int i = 0; i < 256; ++i) k[static_cast<std::size_t>(i)] = RoundHalfEven((i - mean) * double{f} + mean);
+  Pendientes pending(b.Columnas());
   b.Avance(5);
   const Tramo bar{5, 95};
   RecorrerFilas(
@@ -45,10 +102,11 @@ void Contraste(PixelBuffers& b, std::int32_t a) {
       [&](const std::uint32_t* s, std::uint32_t* d, int) {
         for (std::size_t x = 0; x < b.Columnas(); ++x) {
           const std::uint32_t p = s[x];
-          Componentes c{k[p & 0xFF], k[p >> 8 & 0xFF], k[p >> 16 & 0xFF]};
-          if (!c.EnRango()) c = Limitar(c);
-          d[x] = (p & 0xFF000000U) | static_cast<std::uint32_t>(c.b | c.g << 8 | c.r << 16);
+          const Componentes c{k[p & 0xFF], k[p >> 8 & 0xFF], k[p >> 16 & 0xFF]};
+          d[x] = Unidos(p, c);
+          pending.Poner(x, c);
         }
+        while (pending.Cuantos() > 0) pending.DarRonda(d);
       },
       bar);
 }
