@@ -154,6 +154,9 @@ void frmEfectConfig::done(int result) {
   m_.CurrentDialogEffect = 0;
   pending_ = applying_ = false;
   retry_.stop();
+  // A closed dialog keeps no picture; a preview that still runs has nowhere to go.
+  Picture1_.Asignar({});
+  Image1_->Mostrar({}, false);
   QDialog::done(result);
 }
 

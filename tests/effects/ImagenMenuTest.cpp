@@ -158,6 +158,7 @@ class ImagenMenuTest : public QObject {
 
   void cancelAndCloseBoxLeaveThePicture() {
     EffectWindow w;
+    const long holders = w.program.imagen.picMain.Block().use_count();
     for (const bool box : {false, true}) {
       w.Trigger("mnuMetodo1");
       QTest::keyClick(&w.Slider(), Qt::Key_End);
@@ -168,6 +169,7 @@ class ImagenMenuTest : public QObject {
       }
       QCOMPARE(w.Now(), kLoaded);
       QCOMPARE(w.program.mFiltros.CurrentDialogEffect, 0);
+      QCOMPARE(w.program.imagen.picMain.Block().use_count(), holders);
     }
   }
 
