@@ -35,7 +35,7 @@ Empate EmpateDe(std::int32_t percent) {
   return hundredths > percent ? Empate::Arriba : hundredths < percent ? Empate::Abajo : Empate::Par;
 }
 
-// t \ 100 for t = 0..25599, limiting what lies beyond to 0..255.
+// t \ 100 for t = 0..25599.
 inline std::uint32_t Centesima(std::uint32_t t) {
   return (t >> 2) * 20972U >> 19;
 }
@@ -45,7 +45,7 @@ inline std::uint32_t HaciaElPar(std::uint32_t t, std::uint32_t q) {
   return q - static_cast<std::uint32_t>((t == q * 100) & q & 1);
 }
 
-constexpr std::int32_t kTope = 25599;
+constexpr std::int32_t kTope = 25599;  // what lies beyond gives 255
 
 // round(s x percent / 100), limited to a byte, percent = 0..200.
 template <bool kPar>
@@ -54,8 +54,12 @@ inline void EscalarBytes(const std::uint8_t* __restrict s, std::uint8_t* __restr
   for (std::size_t i = 0; i < n; ++i) {
     const auto v = static_cast<std::uint16_t>(s[i] * percent + half);
     const auto t = static_cast<std::uint16_t>(v > kTope ? kTope : v);
-    const std::uint32_t q = Centesima(t);
-    d[i] = static_cast<std::uint8_t>(kPar && v <= kTope ? HaciaElPar(t, q) : q);
+    const auto quarter = static_cast<std::uint16_t>(t >> 2);
+    const auto high = static_cast<std::uint16_t>(quarter * 20972U >> 16);
+    const auto q = static_cast<std::uint16_t>(high >> 3);
+    // Nothing is limited to a tie: 25599 is no whole hundred.
+    const auto odd = static_cast<std::uint16_t>((t == static_cast<std::uint16_t>(q * 100)) & q & 1);
+    d[i] = static_cast<std::uint8_t>(kPar ? q - odd : q);
   }
 }
 

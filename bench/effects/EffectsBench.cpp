@@ -1,7 +1,6 @@
-// Every effect on a 12-megapixel picture, the whole dispatch into a fresh block, beside a memcpy of the picture's
-// bytes.
+// Every effect on a 12-megapixel picture, the whole dispatch into a fresh block, beside a memcpy of the
+// picture's bytes.
 #include <benchmark/benchmark.h>
-
 #include <cstring>
 #include <vector>
 
@@ -69,7 +68,7 @@ void Turn(benchmark::State& state, const Giro& giro) {
   for (int n = 1; n <= kEfectos; ++n) {
     const EffectConfig& e = *Efecto(n);
     const std::int32_t argument = n == 31 ? 50 : e.menu;
-    ms(benchmark::RegisterBenchmark((e.Name + std::string(" ") + NombreDeOrden(e.caption)).c_str(), Dispatch, n,
+    ms(benchmark::RegisterBenchmark((std::to_string(n) + " " + NombreDeOrden(e.caption)).c_str(), Dispatch, n,
                                     argument));
   }
   ms(benchmark::RegisterBenchmark("17 contraste (100)", Dispatch, 17, 100));
