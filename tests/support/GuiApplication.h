@@ -6,6 +6,7 @@
 namespace pixmosa::test {
 
 inline void NeedGuiApplication() {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   static int argc = 1;
   static char name[] = "test";
   static char* argv[] = {name, nullptr};
