@@ -133,7 +133,7 @@ std::string frmMain::TextoDeFotograma(const std::vector<std::filesystem::path>& 
   }
   opciones_->LlenarAjustes(programa_.ajustes);
   std::string& text = programa_.basAscii.ProducedText;
-  if (!HayImagen()) return text;
+  if (!HayImagen()) return text = EscaparTexto(text);
   pixmosa::GenerateAscii(programa_.basAscii, programa_.ajustes, Imagen(), kGrayscale);
   const bool last = k + 1 == frames.size();
   if (last || !desdeElTexto_.isValid() || desdeElTexto_.elapsed() > kMilisegundosEntreTextos) {

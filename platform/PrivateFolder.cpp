@@ -11,6 +11,15 @@
 
 namespace pixmosa {
 namespace fs = std::filesystem;
+namespace {
+
+// The open folder is still the one of this name: its last user may have removed it meanwhile.
+bool StandsAt(const fs::path& path, const struct stat& folder) {
+  struct stat now {};
+  return ::lstat(path.c_str(), &now) == 0 && now.st_dev == folder.st_dev && now.st_ino == folder.st_ino;
+}
+
+}  // namespace
 
 void BorrarBmp(const fs::path& folder) {
   std::error_code ec;
@@ -34,7 +43,7 @@ bool PrivateFolder::Take(const fs::path& path) {
   if (folder < 0) return false;
   struct stat about {};
   const bool mine = ::fstat(folder, &about) == 0 && about.st_uid == ::geteuid() && (about.st_mode & 077) == 0;
-  if (!mine || ::flock(folder, LOCK_EX | LOCK_NB) != 0) {
+  if (!mine || ::flock(folder, LOCK_EX | LOCK_NB) != 0 || !StandsAt(path, about)) {
     ::close(folder);
     return false;
   }

@@ -1,5 +1,7 @@
+#include <atomic>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <thread>
 
 #include "platform/AtomicFile.h"
 #include "platform/PrivateFolder.h"
@@ -37,6 +39,21 @@ TEST(PrivateFolder, TwoProgramsDoNotShareOne) {
     EXPECT_NE(second.Path(), first.Path());
   }
   EXPECT_TRUE(fs::exists(first.Path() / "a.bmp"));
+}
+
+TEST(PrivateFolder, OneThatIsBeingRemovedIsNotTakenOver) {
+  const test::TestFolder temp;
+  std::atomic<int> missing = 0;
+  const auto come = [&] {
+    for (int i = 0; i < 10000; ++i) {
+      const PrivateFolder folder(temp.Path(), "KTW");
+      if (!fs::exists(folder.Path())) ++missing;
+    }
+  };
+  std::thread other(come);
+  come();
+  other.join();
+  EXPECT_EQ(missing, 0);
 }
 
 TEST(PrivateFolder, WhatCannotBeTrustedIsLeftAlone) {
