@@ -19,8 +19,10 @@ struct GifCut {
     return (positions.empty() ? length : positions[0]) - (length > 0 ? 1 : 0);
   }
 
-  // A frame's own bytes (0-based), up to the next one; the last ends before the GIF's final byte. `gif` is
-  // the whole file that was cut.
+  // Bytes of a frame's own (0-based), up to the next one; the last ends before the GIF's final byte.
+  std::size_t FrameLength(std::size_t frame) const;
+
+  // Those bytes. `gif` is the whole file that was cut.
   std::string_view Frame(std::string_view gif, std::size_t frame) const;
 
   // A frame's file: the header and the frame's bytes.
@@ -30,6 +32,9 @@ struct GifCut {
 // Every occurrence of the introducer of a graphic control extension, 0x21 0xF9, begins a frame, wherever it
 // stands. Throws FileError where the frame files together would be far larger than the GIF.
 GifCut CutGif(std::string_view gif);
+
+// The same for a file, read in pieces of bounded size. Throws FileError also where it cannot be read.
+GifCut CutGifFile(const std::filesystem::path& file);
 
 // The state of the last GIF that was loaded.
 struct BasGif {
@@ -50,8 +55,11 @@ std::filesystem::path ArchivoDeFotograma(const std::filesystem::path& folder, co
 // FileError, and then the former frames are as they were.
 void CortarGif(BasGif& gif, const std::filesystem::path& file);
 
-// Writes the frame files of a GIF's bytes into a folder.
+// Writes the frame files of a GIF into a folder, from its bytes or, in pieces of bounded size, from its file.
+// Throws FileError, also where the file is no longer as long as when it was cut.
 void EscribirFotogramas(const GifCut& cut, std::string_view gif, const std::filesystem::path& folder);
+void EscribirFotogramasDeArchivo(const GifCut& cut, const std::filesystem::path& file,
+                                 const std::filesystem::path& folder);
 
 void SeleccionarTodos(BasGif& gif);
 

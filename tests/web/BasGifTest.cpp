@@ -54,6 +54,30 @@ TEST_F(BasGifTest, EveryOccurrenceCounts) {
   EXPECT_EQ(CutGif("\x21\xF9").FrameFile("\x21\xF9", 0), "\x21");
 }
 
+TEST_F(BasGifTest, AFileIsCutAsItsBytesAreWhereverItsPiecesEnd) {
+  // A piece is 256 KiB: a marker that straddles its end, one on either side, and a first half alone.
+  constexpr std::size_t kPiece = 256 << 10;
+  for (const std::size_t before : {kPiece - 3, kPiece - 2, kPiece - 1, kPiece}) {
+    const std::string bytes = std::string(before, 'x') +
+                              "\x21\xF9"
+                              "ab\x21\xF9" +
+                              std::string(kPiece, 'y') + "\x21";
+    EscribirArchivo(folder.File("g.gif"), bytes);
+    const GifCut cut = CutGifFile(folder.File("g.gif"));
+    EXPECT_EQ(cut.positions, (std::vector<std::size_t>{before + 1, before + 5}));
+    EXPECT_EQ(cut.length, bytes.size());
+    EscribirFotogramasDeArchivo(cut, folder.File("g.gif"), scratch.Path());
+    EXPECT_EQ(LeerArchivo(scratch.File("Fotograma 01.bmp")), std::string(before, 'x') +
+                                                                 "\x21\xF9"
+                                                                 "ab");
+    EXPECT_EQ(LeerArchivo(scratch.File("Fotograma 02.bmp")),
+              std::string(before, 'x') + "\x21\xF9" + std::string(kPiece, 'y'));
+    EscribirArchivo(folder.File("g.gif"), bytes.substr(0, before));
+    EXPECT_THROW(EscribirFotogramasDeArchivo(cut, folder.File("g.gif"), scratch.Path()), FileError)
+        << "the file shrank after it was cut";
+  }
+}
+
 TEST_F(BasGifTest, StillGifsAndSecondGifs) {
   Load(Gif(std::vector<int>(120, 1)));
   EXPECT_EQ(Files().size(), 120U);
@@ -69,6 +93,7 @@ TEST_F(BasGifTest, StillGifsAndSecondGifs) {
 TEST_F(BasGifTest, AFailureLeavesTheLastFrames) {
   Load(Gif({0, 1}));
   EXPECT_THROW(CortarGif(gif, folder.File("nada.gif")), FileError);
+  EXPECT_THROW(CortarGif(gif, folder.Path()), FileError);
   // A large header before thousands of frames would fill the disk with its copies.
   std::string bomb(5'000'000, 'x');
   for (int i = 0; i < 50'000; ++i) bomb += "\x21\xF9";
