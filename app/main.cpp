@@ -16,8 +16,8 @@
 int main(int argc, char** argv) {
   using namespace pixmosa;
   QApplication app(argc, argv);
-  QApplication::setApplicationName("pixmosa");
-  QApplication::setApplicationDisplayName("Pixmosa");
+  // No display name: the window system would add it to every caption.
+  QApplication::setApplicationName("Pixmosa");
   QApplication::setApplicationVersion(PIXMOSA_VERSION);
   // A quick stroke in the editor must keep every position that the pointer reported.
   QApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
