@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/Colour.h"
 #include "platform/Font.h"
@@ -20,6 +21,8 @@ class Dialogs {
 
   // Filters alternate description and patterns with "|" separators. An empty path on cancel.
   virtual std::string OpenFile(const std::string& title, const std::string& filter) = 0;
+  // Several files; none on cancel.
+  virtual std::vector<std::string> OpenFiles(const std::string& title, const std::string& filter) = 0;
   virtual std::string SaveFile(const std::string& title, const std::string& filter,
                                const std::string& defaultExtension) = 0;
   virtual std::string ChooseFolder(const std::string& title) = 0;

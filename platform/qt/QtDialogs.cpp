@@ -41,6 +41,13 @@ std::string QtDialogs::OpenFile(const std::string& title, const std::string& fil
   return QFileDialog::getOpenFileName(owner_, Q(title), {}, QtFilterOf(filter)).toStdString();
 }
 
+std::vector<std::string> QtDialogs::OpenFiles(const std::string& title, const std::string& filter) {
+  std::vector<std::string> files;
+  for (const QString& file : QFileDialog::getOpenFileNames(owner_, Q(title), {}, QtFilterOf(filter)))
+    files.push_back(file.toStdString());
+  return files;
+}
+
 std::string QtDialogs::SaveFile(const std::string& title, const std::string& filter,
                                 const std::string& defaultExtension) {
   QFileDialog dialog(owner_, Q(title), {}, QtFilterOf(filter));

@@ -14,6 +14,7 @@ class QtDialogs final : public Dialogs {
   void SetOwner(QWidget* owner) { owner_ = owner; }
 
   std::string OpenFile(const std::string& title, const std::string& filter) override;
+  std::vector<std::string> OpenFiles(const std::string& title, const std::string& filter) override;
   std::string SaveFile(const std::string& title, const std::string& filter,
                        const std::string& defaultExtension) override;
   std::string ChooseFolder(const std::string& title) override;

@@ -24,6 +24,12 @@ class RecordingDialogs final : public Dialogs {
     log.push_back("OpenFile|" + title + "|" + filter);
     return Take(paths, {});
   }
+  std::vector<std::string> OpenFiles(const std::string& title, const std::string& filter) override {
+    log.push_back("OpenFiles|" + title + "|" + filter);
+    const std::vector<std::string> all(paths.begin(), paths.end());
+    paths.clear();
+    return all;
+  }
   std::string SaveFile(const std::string& title, const std::string& filter,
                        const std::string& extension) override {
     log.push_back("SaveFile|" + title + "|" + filter + "|" + extension);

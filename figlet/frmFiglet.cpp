@@ -1,0 +1,196 @@
+#include "figlet/frmFiglet.h"
+
+#include <map>
+
+#include <QAction>
+#include <QHeaderView>
+#include <QListWidget>
+#include <QToolBar>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "figlet/Agregar.h"
+#include "figlet/frmFigAbout.h"
+#include "platform/AtomicFile.h"
+#include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/Menus.h"
+#include "platform/qt/Named.h"
+#include "platform/qt/QtText.h"
+#include "platform/zip/ZipFont.h"
+
+namespace pixmosa {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::uintmax_t kLargestFont = 64 << 20;
+
+struct Alineacion {
+  const char* clave;
+  const char* icono;
+  Qt::AlignmentFlag valor;
+};
+
+constexpr Alineacion kAlineaciones[] = {{"Izquierda", "format-justify-left", Qt::AlignLeft},
+                                        {"Centrado", "format-justify-center", Qt::AlignHCenter},
+                                        {"Derecha", "format-justify-right", Qt::AlignRight}};
+
+QAction* Boton(QToolBar* bar, const char* name, const char* icon, const char* text) {
+  QAction* action = bar->addAction(Icono(icon), QString::fromUtf8(text));
+  action->setObjectName(QString::fromUtf8(name));
+  action->setToolTip(QString::fromUtf8(text));
+  return action;
+}
+
+}  // namespace
+
+frmFiglet::frmFiglet(BasFigLet& font, std::vector<fs::path> folders, Dialogs& dialogs, AreaDeTexto& target,
+                     QWidget* parent)
+    : QWidget(parent), font_(font), folders_(std::move(folders)), dialogs_(dialogs), target_(target) {
+  setObjectName("frmFiglet");
+  CrearControles();
+  LlenarListas();
+  Conectar();
+}
+
+void frmFiglet::CrearControles() {
+  txtFigText_ = named<AreaDeTexto>("txtFigText");
+  txtFigText_->PonerFuente({"Lucida Console", 10});
+  txtFigText_->PonerTexto("Pixmosa\r\n");
+  txtFigText_->setFrameShape(QFrame::StyledPanel);
+  txtFigText_->setMaximumHeight(80);
+  txtFigText_->setToolTip(QStringLiteral("El texto del letrero"));
+  lsvFuentesFig_ = named<QListWidget>("lsvFuentesFig");
+  lsvFuentesFig_->setToolTip(QStringLiteral("Fuentes de letreros"));
+  tvwFigFonts_ = named<QTreeWidget>("tvwFigFonts");
+  tvwFigFonts_->header()->hide();
+  tvwFigFonts_->hide();
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 4, 0, 0);
+  layout->addWidget(txtFigText_);
+  layout->addLayout(CrearBarras());
+  layout->addWidget(lsvFuentesFig_, 1);
+  layout->addWidget(tvwFigFonts_, 1);
+}
+
+QLayout* frmFiglet::CrearBarras() {
+  auto* views = named<QToolBar>("Toolbar3");
+  QAction* flat = Boton(views, "Lista simple", "view-list", "Lista simple");
+  QAction* tree = Boton(views, "Lista agrupada por categorías", "view-tree", "Lista agrupada por categorías");
+  const auto show = [this](bool list) {
+    lsvFuentesFig_->setVisible(list);
+    tvwFigFonts_->setVisible(!list);
+  };
+  connect(flat, &QAction::triggered, this, [show] { show(true); });
+  connect(tree, &QAction::triggered, this, [show] { show(false); });
+
+  auto* align = named<QToolBar>("TBFIGAlinea");
+  for (const Alineacion& a : kAlineaciones) {
+    QAction* action = Boton(align, a.clave, a.icono, a.clave);
+    connect(action, &QAction::triggered, this, [this, value = a.valor] { Alinear(value); });
+  }
+  auto* info = named<QToolButton>("cmdInfoFIG");
+  info->setIcon(Icono("help-about"));
+  info->setToolTip(QStringLiteral("Información sobre la fuente seleccionada"));
+  connect(info, &QAbstractButton::clicked, this, [this] { frmFigAbout(font_.Comment, this).exec(); });
+  auto* add = named<QToolButton>("cmdAgregarFIG");
+  add->setText(QStringLiteral("Añadir..."));
+  add->setToolTip(QStringLiteral("Añadir fuentes FIGlet..."));
+  connect(add, &QAbstractButton::clicked, this, &frmFiglet::PedirFuentes);
+
+  auto* row = new QHBoxLayout;
+  row->addWidget(views);
+  row->addWidget(align);
+  row->addStretch(1);
+  row->addWidget(info);
+  row->addWidget(add);
+  return row;
+}
+
+void frmFiglet::Conectar() {
+  connect(txtFigText_, &QPlainTextEdit::textChanged, this, &frmFiglet::Dibujar);
+  const auto fromList = [this](const QListWidgetItem* item) {
+    if (item) Cargar(item->data(Qt::UserRole).toString().toStdString());
+  };
+  connect(lsvFuentesFig_, &QListWidget::itemClicked, this, fromList);
+  connect(lsvFuentesFig_, &QListWidget::itemActivated, this, fromList);
+  const auto fromTree = [this](const QTreeWidgetItem* item) {
+    if (item && item->data(0, Qt::UserRole).toString().count(u';') >= 2)
+      Cargar(item->text(0).toStdString() + ".flf");
+  };
+  connect(tvwFigFonts_, &QTreeWidget::itemClicked, this, fromTree);
+  connect(tvwFigFonts_, &QTreeWidget::itemActivated, this, fromTree);
+}
+
+void frmFiglet::LlenarListas() {
+  lsvFuentesFig_->clear();
+  for (const std::string& name : FillFontList(folders_)) {
+    auto* item = new QListWidgetItem(Icono("preferences-desktop-font"), Q(name), lsvFuentesFig_);
+    item->setData(Qt::UserRole, Q(name));
+  }
+  tvwFigFonts_->clear();
+  constexpr const char* kIcons[] = {"folder", "folder-open", "preferences-desktop-font"};
+  std::map<std::string, QTreeWidgetItem*> items;
+  for (const NodoDeFuentes& node : ArbolDeFuentes(folders_)) {
+    auto* item =
+        node.parent.empty() ? new QTreeWidgetItem(tvwFigFonts_) : new QTreeWidgetItem(items.at(node.parent));
+    item->setText(0, QStringOfBytes(node.text));
+    item->setData(0, Qt::UserRole, QStringOfBytes(node.key));
+    item->setIcon(0, Icono(kIcons[node.nivel]));
+    items[node.key] = item;
+  }
+  emit ListaCambiada(Cuantas());
+}
+
+int frmFiglet::Cuantas() const {
+  return lsvFuentesFig_->count();
+}
+
+void frmFiglet::PrimeraVez() {
+  if (mostrada_) return;
+  mostrada_ = true;
+  if (Cuantas() > 0) {
+    lsvFuentesFig_->setCurrentRow(0);
+    Cargar(lsvFuentesFig_->item(0)->data(Qt::UserRole).toString().toStdString());
+  }
+}
+
+void frmFiglet::Cargar(const std::string& name) {
+  target_.PonerTexto("");
+  LoadFont(font_, ArchivoDeFuente(folders_, name), [this](const std::string& text) { dialogs_.Fail(text); });
+  Dibujar();
+}
+
+void frmFiglet::Dibujar() {
+  target_.PonerTexto(RenderBanner(font_, txtFigText_->Texto()));
+}
+
+void frmFiglet::Alinear(Qt::Alignment alignment) {
+  txtFigText_->Alinear(alignment);
+  target_.Alinear(alignment);
+}
+
+void frmFiglet::PedirFuentes() {
+  const std::vector<std::string> chosen =
+      dialogs_.OpenFiles("Añadir fuentes FIGlet", "Fuentes FIGlet (*.flf;*.zip)|*.flf;*.zip");
+  if (!chosen.empty()) AgregarFuentes({chosen.begin(), chosen.end()});
+}
+
+void frmFiglet::AgregarFuentes(const std::vector<fs::path>& files) {
+  std::string refused;
+  for (const fs::path& file : files) {
+    try {
+      const auto font = SinComprimir(LeerArchivo(file, kLargestFont));
+      if (!font)
+        throw FuenteRechazada("No se ha añadido \"" + file.string() + "\": el archivo zip está dañado.");
+      GuardarFuente(folders_, file.stem().string() + ".flf", ReescribirFuente(*font, file.string()));
+    } catch (const std::runtime_error& e) {
+      refused += (refused.empty() ? "" : "\r\n") + std::string(e.what());
+    }
+  }
+  LlenarListas();
+  if (!refused.empty()) dialogs_.Fail(refused, "Añadir fuentes FIGlet");
+}
+
+}  // namespace pixmosa
