@@ -2,11 +2,13 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
 #include "conversion/basAscii.h"
 #include "editor/basEditor.h"
 #include "effects/ImagenDeTrabajo.h"
 #include "effects/mFiltros.h"
+#include "figlet/basFigLet.h"
 #include "platform/Dialogs.h"
 #include "platform/PictureCodec.h"
 #include "platform/Registry.h"
@@ -30,11 +32,15 @@ struct Programa {
   Plataforma plataforma;
   std::filesystem::path carpeta;  // the folder with the files that ship with the program
 
+  std::vector<std::filesystem::path>
+      carpetasDeFuentes{};  // of FIGlet fonts: the program's, then the user's own
+
   ImagenDeTrabajo imagen{};
   MFiltros mFiltros{};
   BasAscii basAscii{};
   AsciiSettings ajustes{};
   BasEditor basEditor{};
+  BasFigLet basFigLet{};
   BasWeb basWeb{};
   BasGif basGif{};
   Random azar{};

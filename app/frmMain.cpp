@@ -209,6 +209,7 @@ void frmMain::CrearBarraDeEstado() {
   prgBar1_->hide();
   bar->addPermanentWidget(prgBar1_);
   panelFuente_ = panel("Fuente");
+  panelFiglet_ = panel("Figlet");
   panelTamaño_ = panel("Tamaño");
   panel("Modo")->setText("MODO ASCIIART");
   progreso_.emplace(prgBar1_);
@@ -218,6 +219,7 @@ void frmMain::Arrancar() {
   lblModo_->setText(QString::fromUtf8(kModos[kModoGrises]));
   auto* area = new QVBoxLayout(PicAlgoritmos_);
   area->setContentsMargins(0, 0, 0, 0);
+  CrearLetreros(area);
   area->addWidget(opciones_ = new frmOpcAlgoritmo(*this, PicAlgoritmos_));
   // The text area keeps the Tab key to itself: it comes last, after the options.
   setTabOrder(previousInFocusChain(), chkAsciiPrev_);

@@ -23,6 +23,7 @@ namespace pixmosa {
 
 class AreaDeTexto;
 class frmEditor;
+class frmFiglet;
 class frmOpcAlgoritmo;
 class frmPreview;
 class MenuDeImagen;
@@ -56,7 +57,8 @@ class frmMain final : public QMainWindow {
   void ElegirModo(const QString& mode);
   void ComputeColumnCount();
   void GrabarIni();
-  void PonerEnBlancoYNegro();  // the working picture, by "Método 1"
+  void MostrarLetreros(bool shown);  // the banner panel in front of the options, or not
+  void PonerEnBlancoYNegro();        // the working picture, by "Método 1"
 
   // --- frmMain_Web.cpp ---
   void GenerarWebArt(bool exactCopy);
@@ -101,6 +103,7 @@ class frmMain final : public QMainWindow {
   void CrearCentro();
   void CrearBarraDeEstado();
   void Arrancar();
+  void CrearLetreros(QVBoxLayout* area);
 
   void CortarFotogramas(const std::filesystem::path& file);  // throws FileError
   void GenerarAnimArt(const std::vector<std::filesystem::path>& frames);
@@ -116,11 +119,13 @@ class frmMain final : public QMainWindow {
   QLabel* lblModo_ = nullptr;
   QCheckBox* chkAsciiPrev_ = nullptr;
   QLabel* panelFuente_ = nullptr;
+  QLabel* panelFiglet_ = nullptr;
   QLabel* panelTamaño_ = nullptr;
   QProgressBar* prgBar1_ = nullptr;
   std::optional<QtProgress> progreso_;
   frmPreview* preview_ = nullptr;
   frmEditor* editor_ = nullptr;
+  frmFiglet* figlet_ = nullptr;
   bool ocupada_ = false;        // an animation is being written
   bool cerrarDespues_ = false;  // the user closed the window meanwhile
   QElapsedTimer desdeElTexto_;

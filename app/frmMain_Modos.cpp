@@ -6,12 +6,14 @@
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include "app/Modos.h"
 #include "app/basINI.h"
 #include "app/frmMain.h"
 #include "app/frmMain_Imagen.h"
 #include "app/frmOpcAlgoritmo.h"
+#include "figlet/frmFiglet.h"
 #include "platform/qt/Named.h"
 
 namespace pixmosa {
@@ -45,6 +47,25 @@ void frmMain::CrearSelectorDeModo() {
 void frmMain::ElegirModo(const QString& mode) {
   lblModo_->setText(mode);
   if (!PicAlgoritmos_->isHidden()) opciones_->MostrarPaneles();
+}
+
+void frmMain::CrearLetreros(QVBoxLayout* area) {
+  figlet_ = new frmFiglet(programa_.basFigLet, programa_.carpetasDeFuentes, programa_.plataforma.dialogos,
+                          *txtAscii_, PicAlgoritmos_);
+  figlet_->hide();
+  area->addWidget(figlet_);
+  const auto count = [this](int fonts) {
+    panelFiglet_->setText(QStringLiteral("Fuentes FigLet encontradas (%1)").arg(fonts));
+  };
+  connect(figlet_, &frmFiglet::ListaCambiada, this, count);
+  count(figlet_->Cuantas());
+}
+
+void frmMain::MostrarLetreros(bool shown) {
+  // The options keep their own state behind the panel.
+  figlet_->setVisible(shown);
+  if (opciones_) opciones_->setVisible(!shown);
+  if (shown) figlet_->PrimeraVez();
 }
 
 void frmMain::ComputeColumnCount() {

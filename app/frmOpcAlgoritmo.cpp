@@ -97,7 +97,7 @@ void frmOpcAlgoritmo::ConectarWeb() {
 
 void frmOpcAlgoritmo::MostrarPaneles() {
   const FilaDeVer& row = kVisibilidad[window_.IndiceDelModo()];
-  Poner(window_.findChild<QWidget*>("frmFiglet"), row.figlet);
+  window_.MostrarLetreros(row.figlet == kSi);
   for (int i = 0; i < 2; ++i) Poner(mrcAlgoritmo_[i], row.algoritmo[i]);
   for (int i = 0; i < 3; ++i) Poner(mrcAscii_[i], row.ascii[i]);
   for (int i = 0; i < 2; ++i) Poner(mrcweb_[i], row.web[i]);

@@ -32,6 +32,7 @@ int main(int argc, char** argv) {
   QtShell shell;
   QtRegistry registry;
   Programa program{{surface, pictures, dialogs, shell, registry}, ProgramFolder()};
+  program.carpetasDeFuentes = FontFolders();
   if (!CargarPaleta3x2(program)) return 1;
   std::unique_ptr<PrivateFolder> scratch;
   try {

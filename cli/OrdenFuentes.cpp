@@ -1,14 +1,81 @@
 #include "cli/OrdenFuentes.h"
 
+#include <filesystem>
+
+#include "figlet/Agregar.h"
+#include "figlet/Catalogo.h"
+#include "platform/CodePage.h"
+#include "platform/ProgramFolder.h"
+#include "platform/zip/ZipFont.h"
+
 namespace pixmosa::cli {
 namespace {
 
-int Hacer(Consola& consola, const Argumentos& arguments) {
-  arguments.ExigirOperandos(0, 0, "");
-  if (!arguments.Tiene("--fijas")) throw ErrorDeUso("falta la opción --fijas");
+namespace fs = std::filesystem;
+
+std::string Fijas(Consola& consola) {
   std::string s;
   for (const std::string& name : consola.Superficie().ListFixedFonts()) s += name + "\n";
-  consola.Escribir(s);
+  return s;
+}
+
+// The fonts of the tree with their categories, then those that no category names.
+std::string Lista() {
+  const std::vector<fs::path> folders = FontFolders();
+  const std::vector<NodoDeFuentes> nodes = ArbolDeFuentes(folders);
+  std::vector<std::string> rest = FillFontList(folders);
+  std::string s;
+  for (const NodoDeFuentes& node : nodes) {
+    if (node.nivel != NodoDeFuentes::kFuente) continue;
+    std::string categories = Utf8OfBytes(node.parent);
+    categories.replace(categories.find(';'), 1, "\t");
+    s += categories + "\t" + Utf8OfBytes(node.text) + "\n";
+    std::erase(rest, Utf8OfBytes(node.text) + ".flf");
+  }
+  for (const std::string& name : rest) s += "\t\t" + fs::path(name).stem().string() + "\n";
+  return s;
+}
+
+// The files to add: an operand, or all fonts of a folder.
+std::vector<std::string> Archivos(const std::vector<std::string>& operands) {
+  std::vector<std::string> files;
+  for (const std::string& operand : operands) {
+    std::error_code ec;
+    if (!fs::is_directory(operand, ec)) {
+      files.push_back(operand);
+      continue;
+    }
+    for (const std::string& name : FillFontList({operand}))
+      files.push_back((fs::path(operand) / name).string());
+  }
+  return files;
+}
+
+int Agregar(Consola& consola, const std::vector<std::string>& operands) {
+  int status = 0;
+  const std::vector<std::string> files = Archivos(operands);
+  for (std::size_t i = 0; i < files.size(); ++i) {
+    consola.Progreso("Fuente", i, files.size());
+    try {
+      const auto font = SinComprimir(consola.LeerBytes(files[i]));
+      if (!font) throw ErrorDeTrabajo("No se ha añadido \"" + files[i] + "\": el archivo zip está dañado.");
+      GuardarFuente(FontFolders(), fs::path(files[i]).stem().string() + ".flf",
+                    ReescribirFuente(*font, files[i]));
+    } catch (const std::runtime_error& e) {
+      consola.Avisar(e.what());
+      status = 1;
+    }
+  }
+  consola.Progreso("Fuente", files.size(), files.size());
+  return status;
+}
+
+int Hacer(Consola& consola, const Argumentos& arguments) {
+  const bool add = arguments.Tiene("--agregar");
+  if (add && arguments.Tiene("--fijas")) throw ErrorDeUso("las opciones --fijas y --agregar no van juntas");
+  arguments.ExigirOperandos(add ? 1 : 0, add ? SIZE_MAX : 0, "el archivo de la fuente");
+  if (add) return Agregar(consola, arguments.Operandos());
+  consola.Escribir(arguments.Tiene("--fijas") ? Fijas(consola) : Lista());
   return 0;
 }
 
@@ -16,10 +83,12 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
 
 Orden OrdenFuentes() {
   return {"fuentes",
-          "",
-          "Lista las fuentes.",
-          "pixmosa-cli fuentes --fijas",
-          {{"--fijas", Tipo::Interruptor, "", "las fuentes de ancho fijo del sistema, una por línea"}},
+          "[ARCHIVO...]",
+          "Lista las fuentes FIGlet con sus categorías, o añade otras.",
+          "pixmosa-cli fuentes --agregar grande.flf",
+          {{"--fijas", Tipo::Interruptor, "", "las fuentes de ancho fijo del sistema, una por línea"},
+           {"--agregar", Tipo::Interruptor, "",
+            "añade los archivos de fuentes FIGlet, también en zip o en carpetas"}},
           Hacer};
 }
 

@@ -9,6 +9,7 @@
 #include "cli/OrdenEstadisticas.h"
 #include "cli/OrdenFotogramas.h"
 #include "cli/OrdenFuentes.h"
+#include "cli/OrdenLetrero.h"
 #include "cli/OrdenTabla.h"
 #include "cli/OrdenWeb.h"
 
@@ -52,9 +53,9 @@ int Despachar(Consola& consola, std::span<const std::string> words) {
 }  // namespace
 
 std::span<const Orden> Ordenes() {
-  static const std::vector<Orden> orders = {OrdenAscii(),   OrdenTabla(),       OrdenEfecto(),
-                                            OrdenWeb(),     OrdenFotogramas(),  OrdenAnim(),
-                                            OrdenFuentes(), OrdenEstadisticas()};
+  static const std::vector<Orden> orders = {OrdenAscii(),   OrdenTabla(),      OrdenEfecto(),
+                                            OrdenWeb(),     OrdenFotogramas(), OrdenAnim(),
+                                            OrdenLetrero(), OrdenFuentes(),    OrdenEstadisticas()};
   return orders;
 }
 

@@ -1,5 +1,6 @@
 #include "platform/ProgramFolder.h"
 
+#include <cstdlib>
 #include <system_error>
 
 namespace pixmosa {
@@ -12,6 +13,15 @@ std::filesystem::path ProgramFolder() {
   if (fs::exists(folder / "Fonts", ec) || fs::exists(folder / "Paleta 3x2.txt", ec)) return folder;
   const fs::path share = folder.parent_path() / "share" / "pixmosa";
   return fs::is_directory(share, ec) ? share : folder;
+}
+
+std::vector<std::filesystem::path> FontFolders() {
+  const char* data = std::getenv("XDG_DATA_HOME");
+  const char* home = std::getenv("HOME");
+  const std::filesystem::path share = data && *data
+                                          ? std::filesystem::path(data)
+                                          : std::filesystem::path(home ? home : "") / ".local" / "share";
+  return {ProgramFolder() / "Fonts", share / "pixmosa" / "Fonts"};
 }
 
 }  // namespace pixmosa

@@ -2,11 +2,15 @@
 #pragma once
 
 #include <filesystem>
+#include <vector>
 
 namespace pixmosa {
 
 // The folder that holds the files shipped with the program ("Paleta 3x2.txt", "Fonts"): the folder of the
 // executable where they lie there, otherwise the share folder beside it, otherwise the executable's folder.
 std::filesystem::path ProgramFolder();
+
+// The folders of FIGlet fonts: "Fonts" of the program's folder, then the user's own, which may not exist yet.
+std::vector<std::filesystem::path> FontFolders();
 
 }  // namespace pixmosa

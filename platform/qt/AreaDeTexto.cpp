@@ -64,6 +64,7 @@ class Blanqueador final : public QSyntaxHighlighter {
 
 AreaDeTexto::AreaDeTexto(QWidget* parent) : QPlainTextEdit(parent) {
   setLineWrapMode(NoWrap);
+  setWordWrapMode(QTextOption::NoWrap);
   setTabChangesFocus(true);
   setFrameShape(NoFrame);
   document()->setDocumentMargin(2);
@@ -109,8 +110,12 @@ void AreaDeTexto::PonerColores(QColor background, QColor text) {
 }
 
 void AreaDeTexto::Alinear(Qt::Alignment alignment) {
+  // Lines are laid out within the visible width only where the area would wrap; the words themselves never
+  // do.
+  setLineWrapMode(alignment.testFlag(Qt::AlignLeft) ? NoWrap : WidgetWidth);
   QTextOption option = document()->defaultTextOption();
   option.setAlignment(alignment);
+  option.setWrapMode(QTextOption::NoWrap);
   document()->setDefaultTextOption(option);
 }
 

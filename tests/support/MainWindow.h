@@ -55,6 +55,7 @@ struct MainWindow {
   Programa& Ready(Programa& p) {
     CargarPaleta3x2(p);
     p.basGif.carpeta = scratch.Path();
+    p.carpetasDeFuentes = {folder.Path() / "Fonts", folder.Path() / "Propias"};
     return p;
   }
 

@@ -1,0 +1,73 @@
+#include "cli/OrdenLetrero.h"
+
+#include <filesystem>
+
+#include "figlet/Catalogo.h"
+#include "figlet/basFigLet.h"
+#include "platform/CodePage.h"
+#include "platform/ProgramFolder.h"
+
+namespace pixmosa::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The file of --figlet: a path, or the name of a font of the font folders; without it the first font of the
+// list.
+fs::path FuenteDe(const Argumentos& arguments) {
+  const std::vector<fs::path> folders = FontFolders();
+  const std::optional<std::string> asked = arguments.Texto("--figlet");
+  if (!asked) {
+    const std::vector<std::string> names = FillFontList(folders);
+    if (names.empty())
+      throw ErrorDeTrabajo("No hay ninguna fuente FIGlet en \"" + folders.front().string() + "\".");
+    return ArchivoDeFuente(folders, names.front());
+  }
+  std::error_code ec;
+  if (fs::exists(*asked, ec)) return *asked;
+  const fs::path named = ArchivoDeFuente(folders, asked->ends_with(".flf") ? *asked : *asked + ".flf");
+  if (!fs::exists(named, ec)) throw ErrorDeTrabajo("No hay ninguna fuente FIGlet \"" + *asked + "\".");
+  return named;
+}
+
+// Line breaks of the operand as the renderer wants them.
+std::string ConCrLf(const std::string& bytes) {
+  std::string text;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    if (bytes[i] == '\n' && (i == 0 || bytes[i - 1] != '\r')) text += '\r';
+    text += bytes[i];
+  }
+  return text;
+}
+
+int Hacer(Consola& consola, const Argumentos& arguments) {
+  arguments.ExigirOperandos(1, 1, "el texto");
+  const std::string& operand = arguments.Operandos()[0];
+  const std::string text = ConCrLf(BytesOfUtf8(operand == "-" ? consola.LeerBytes("-") : operand));
+  const fs::path file = FuenteDe(arguments);
+  BasFigLet font;
+  bool failed = false;
+  LoadFontBytes(font, consola.LeerBytes(file.string()), [&](const std::string&) { failed = true; });
+  if (failed) throw ErrorDeTrabajo("Error abriendo la fuente \"" + file.string() + "\".");
+  const std::string banner = RenderBanner(font, text);
+  if (const auto target = arguments.Texto("-o")) {
+    consola.EscribirArchivo(*target, banner);
+  } else {
+    consola.EscribirTexto(banner);
+  }
+  return 0;
+}
+
+}  // namespace
+
+Orden OrdenLetrero() {
+  return {"letrero",
+          "TEXTO",
+          "Escribe un texto con letras grandes de una fuente FIGlet.",
+          "pixmosa-cli letrero \"¡Hola!\"",
+          {{"--figlet", Tipo::Texto, "FUENTE", "un archivo .flf o el nombre de una fuente de la carpeta"},
+           {"-o", Tipo::Texto, "TEXTO.txt", "archivo donde se guarda; si falta, la salida estándar"}},
+          Hacer};
+}
+
+}  // namespace pixmosa::cli

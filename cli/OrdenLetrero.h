@@ -1,0 +1,9 @@
+#pragma once
+
+#include "cli/Orden.h"
+
+namespace pixmosa::cli {
+
+Orden OrdenLetrero();
+
+}  // namespace pixmosa::cli

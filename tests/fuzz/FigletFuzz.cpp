@@ -1,0 +1,30 @@
+// Any bytes as a font, a catalogue and a standard font: the table and the banner stay in proportion to the
+// input.
+#include <cstdint>
+#include <cstdlib>
+
+#include "figlet/Agregar.h"
+#include "figlet/Catalogo.h"
+#include "figlet/basFigLet.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  pixmosa::BasFigLet font;
+  pixmosa::LoadFontBytes(font, bytes, [](const std::string&) {});
+  std::size_t rows = 0;
+  for (const auto& glyph : font.Glyphs) rows += glyph.size();
+  if (rows > size + 1) std::abort();
+  pixmosa::RenderBanner(font, bytes.substr(0, 64));
+
+  std::vector<pixmosa::NodoDeFuentes> nodes;
+  pixmosa::FillFontTree(nodes, bytes.substr(0, 4096));
+
+  try {
+    const std::string own = pixmosa::ReescribirFuente(bytes, "f");
+    pixmosa::BasFigLet again;
+    pixmosa::LoadFontBytes(again, own, [](const std::string&) { std::abort(); });
+    if (again.NextCode != 256) std::abort();
+  } catch (const pixmosa::FuenteRechazada&) {
+  }
+  return 0;
+}
