@@ -201,6 +201,8 @@ void frmMain::CrearBarraDeEstado() {
   setStatusBar(bar);
   const auto panel = [&](const char* key) {
     auto* label = named<QLabel>(key);
+    label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    label->setMargin(3);
     bar->addPermanentWidget(label);
     return label;
   };

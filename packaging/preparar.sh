@@ -15,6 +15,7 @@ run_packages=(
   "qt6-translations-l10n|the system's dialogs in Spanish"
   "libjpeg-dev|reading photographs row by row"
   "libwmf-dev|WMF pictures"
+  "gsfonts|the letters of WMF pictures"
   "libzip-dev|zipped FIGlet fonts"
   "fonts-dejavu-core|the fixed-pitch font that stands for Lucida Console"
 )

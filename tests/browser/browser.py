@@ -5,6 +5,7 @@ import shutil
 import subprocess
 import tempfile
 import time
+import urllib.error
 import urllib.request
 
 FLAGS = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run",
@@ -21,7 +22,11 @@ class Browser:
                 self.base = f"http://127.0.0.1:{found[1]}"
                 break
         options = {"args": FLAGS + [f"--user-data-dir={self.profile}"], "binary": shutil.which("chromium")}
-        session = self.call("POST", "/session", {"capabilities": {"alwaysMatch": {"goog:chromeOptions": options}}})
+        try:
+            session = self.call("POST", "/session", {"capabilities": {"alwaysMatch": {"goog:chromeOptions": options}}})
+        except Exception:
+            self.driver.kill()  # without a session nobody else ends it
+            raise
         self.base += f"/session/{session['sessionId']}"
         return self
 
@@ -37,8 +42,11 @@ class Browser:
         data = None if body is None else json.dumps(body).encode()
         request = urllib.request.Request(self.base + path, data, {"Content-Type": "application/json"}, method=method)
         opener = urllib.request.build_opener(urllib.request.ProxyHandler({}))  # the driver is on this machine
-        with opener.open(request, timeout=60) as answer:
-            return json.load(answer)["value"]
+        try:
+            with opener.open(request, timeout=60) as answer:
+                return json.load(answer)["value"]
+        except urllib.error.HTTPError as refusal:
+            raise RuntimeError(json.load(refusal)["value"]["message"]) from refusal
 
     def open(self, path):
         self.call("POST", "/url", {"url": f"file://{path}"})

@@ -30,6 +30,8 @@ TEST_F(OrdenLetreroTest, BannersOfAFile) {
 
 TEST_F(OrdenLetreroTest, ShippedFontsAndAddedOnes) {
   const std::string before = Cli({"fuentes"}).out;
+  EXPECT_GE(std::count(before.begin(), before.end(), '\n'), 24);
+  EXPECT_NE(Cli({"letrero", "Hola"}).out, "");
   EscribirArchivo(folder.File("rota.flf"), "x");
   const test::Resultado refused = Cli({"fuentes", "--agregar", folder.File("rota.flf")});
   EXPECT_EQ(refused.status, 1);

@@ -80,6 +80,24 @@ TEST_F(QtPictureCodecTest, TransparentPixelsLieOnWhite) {
   EXPECT_EQ(p.ColourAt(0, 0), kWhite);
 }
 
+TEST_F(QtPictureCodecTest, PhotographsTakenSidewaysAreUpright) {
+  const std::string jpeg = codec.Encode(Picture::Filled(40, 24, kWhite), "jpg");
+  const std::string exif(
+      "\xFF\xE1\0\x22"
+      "Exif\0\0"
+      "MM\0\x2A\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0",
+      36);
+  const std::string file = folder.File("x.jpg");
+  EscribirArchivo(file, jpeg.substr(0, 2) + exif + jpeg.substr(2));
+  EXPECT_EQ(codec.Read(file).Size(), (Extent{24, 40}));
+  Extent seen;
+  codec.ReadStretched(file, [&](Extent size) {
+    seen = size;
+    return Extent{1, 1};
+  });
+  EXPECT_EQ(seen, (Extent{24, 40}));
+}
+
 TEST_F(QtPictureCodecTest, MetafilesAreDrawn) {
   const Picture p = codec.ReadBytes(Metafile(), "x");
   ASSERT_EQ(p.Size(), (Extent{96, 96}));
