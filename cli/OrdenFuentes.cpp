@@ -36,31 +36,16 @@ std::string Lista() {
   return s;
 }
 
-// The files to add: an operand, or all fonts of a folder.
-std::vector<std::string> Archivos(const std::vector<std::string>& operands) {
-  std::vector<std::string> files;
-  for (const std::string& operand : operands) {
-    std::error_code ec;
-    if (!fs::is_directory(operand, ec)) {
-      files.push_back(operand);
-      continue;
-    }
-    for (const std::string& name : FillFontList({operand}))
-      files.push_back((fs::path(operand) / name).string());
-  }
-  return files;
-}
-
 int Agregar(Consola& consola, const std::vector<std::string>& operands) {
   int status = 0;
-  const std::vector<std::string> files = Archivos(operands);
+  const std::vector<fs::path> files = FontFiles({operands.begin(), operands.end()});
   for (std::size_t i = 0; i < files.size(); ++i) {
     consola.Progreso("Fuente", i, files.size());
     try {
-      const auto font = SinComprimir(consola.LeerBytes(files[i]));
-      if (!font) throw ErrorDeTrabajo("No se ha añadido \"" + files[i] + "\": el archivo zip está dañado.");
-      GuardarFuente(FontFolders(), fs::path(files[i]).stem().string() + ".flf",
-                    ReescribirFuente(*font, files[i]));
+      const std::string file = files[i].string();
+      const auto font = SinComprimir(consola.LeerBytes(file));
+      if (!font) throw ErrorDeTrabajo("No se ha añadido \"" + file + "\": el archivo zip está dañado.");
+      GuardarFuente(FontFolders(), files[i].stem().string() + ".flf", ReescribirFuente(*font, file));
     } catch (const std::runtime_error& e) {
       consola.Avisar(e.what());
       status = 1;

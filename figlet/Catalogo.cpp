@@ -40,6 +40,19 @@ std::vector<std::string> FillFontList(const std::vector<fs::path>& folders) {
   return names;
 }
 
+std::vector<fs::path> FontFiles(const std::vector<fs::path>& filesAndFolders) {
+  std::vector<fs::path> files;
+  for (const fs::path& path : filesAndFolders) {
+    std::error_code ec;
+    if (!fs::is_directory(path, ec)) {
+      files.push_back(path);
+      continue;
+    }
+    for (const std::string& name : FillFontList({path})) files.push_back(path / name);
+  }
+  return files;
+}
+
 void FillFontTree(std::vector<NodoDeFuentes>& nodes, std::string_view categories) {
   std::string current;  // key of the current subcategory
   while (!categories.empty()) {

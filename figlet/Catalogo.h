@@ -20,6 +20,9 @@ struct NodoDeFuentes {
 // missing has none.
 std::vector<std::string> FillFontList(const std::vector<std::filesystem::path>& folders);
 
+// The files as they are, a folder as its fonts.
+std::vector<std::filesystem::path> FontFiles(const std::vector<std::filesystem::path>& filesAndFolders);
+
 // The nodes that a category file's lines make, added to `nodes`. A line whose parent does not exist, or whose
 // key is there already, adds nothing.
 void FillFontTree(std::vector<NodoDeFuentes>& nodes, std::string_view categories);

@@ -1,10 +1,12 @@
 #include "figlet/frmFiglet.h"
 
 #include <map>
+#include <tuple>
 
 #include <QAction>
 #include <QHeaderView>
 #include <QListWidget>
+#include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -96,8 +98,17 @@ QLayout* frmFiglet::CrearBarras() {
   connect(info, &QAbstractButton::clicked, this, [this] { frmFigAbout(font_.Comment, this).exec(); });
   auto* add = named<QToolButton>("cmdAgregarFIG");
   add->setText(QStringLiteral("Añadir..."));
-  add->setToolTip(QStringLiteral("Añadir fuentes FIGlet..."));
-  connect(add, &QAbstractButton::clicked, this, &frmFiglet::PedirFuentes);
+  add->setToolTip(QStringLiteral("Añade fuentes FIGlet de otros sitios"));
+  add->setPopupMode(QToolButton::InstantPopup);
+  auto* menu = named<QMenu>("mnuAgregarFIG", add);
+  for (const auto& [name, text, work] :
+       {std::tuple{"mnuAgregarFuentes", "Añadir fuentes FIGlet...", &frmFiglet::PedirFuentes},
+        {"mnuAgregarCarpeta", "Añadir una carpeta de fuentes...", &frmFiglet::PedirCarpeta}}) {
+    QAction* action = menu->addAction(QString::fromUtf8(text));
+    action->setObjectName(name);
+    connect(action, &QAction::triggered, this, work);
+  }
+  add->setMenu(menu);
 
   auto* row = new QHBoxLayout;
   row->addWidget(views);
@@ -177,9 +188,14 @@ void frmFiglet::PedirFuentes() {
   if (!chosen.empty()) AgregarFuentes({chosen.begin(), chosen.end()});
 }
 
+void frmFiglet::PedirCarpeta() {
+  const std::string folder = dialogs_.ChooseFolder("Añadir fuentes FIGlet");
+  if (!folder.empty()) AgregarFuentes({folder});
+}
+
 void frmFiglet::AgregarFuentes(const std::vector<fs::path>& files) {
   std::string refused;
-  for (const fs::path& file : files) {
+  for (const fs::path& file : FontFiles(files)) {
     try {
       const auto font = SinComprimir(LeerArchivo(file, kLargestFont));
       if (!font)

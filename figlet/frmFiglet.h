@@ -50,6 +50,7 @@ class frmFiglet final : public QWidget {
   void Dibujar();
   void Alinear(Qt::Alignment alignment);
   void PedirFuentes();
+  void PedirCarpeta();
 
   BasFigLet& font_;
   std::vector<std::filesystem::path> folders_;

@@ -145,13 +145,21 @@ void FrmFigletTest::AddedFontsAreListedAtOnce() {
   EscribirArchivo(m.folder.File("nueva.flf"), standard);
   EscribirArchivo(m.folder.File("rota.flf"), "no");
   m.dialogs.paths = {m.folder.File("nueva.flf"), m.folder.File("rota.flf")};
-  Find<QToolButton>(m.Main(), "cmdAgregarFIG").click();
+  Find<QAction>(m.Main(), "mnuAgregarFuentes").trigger();
   QCOMPARE(m.dialogs.log.back(), "Fail|Añadir fuentes FIGlet|No se ha añadido \"" +
                                      m.folder.File("rota.flf") +
                                      "\": línea 1: no empieza como una fuente FIGlet (flf2).");
   QCOMPARE(Find<QLabel>(m.Main(), "Figlet").text(), "Fuentes FigLet encontradas (3)");
   auto& tree = Find<QTreeWidget>(m.Main(), "tvwFigFonts");
   QCOMPARE(tree.topLevelItem(1)->child(0)->child(0)->text(0), "nueva");
+
+  std::filesystem::create_directory(m.folder.File("serie"));
+  for (const char* name : {"serie/uno.flf", "serie/dos.flf"}) EscribirArchivo(m.folder.File(name), standard);
+  m.dialogs.paths = {m.folder.File("serie")};
+  m.dialogs.log.clear();
+  Find<QAction>(m.Main(), "mnuAgregarCarpeta").trigger();
+  QCOMPARE(m.dialogs.log, std::vector<std::string>{"ChooseFolder|Añadir fuentes FIGlet"});
+  QCOMPARE(Find<QLabel>(m.Main(), "Figlet").text(), "Fuentes FigLet encontradas (5)");
 }
 
 QTEST_MAIN(FrmFigletTest)
