@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "conversion/TextoGuardado.h"
 #include "figlet/Catalogo.h"
 #include "figlet/basFigLet.h"
 #include "platform/CodePage.h"
@@ -51,7 +52,8 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   if (failed) throw ErrorDeTrabajo("Error abriendo la fuente \"" + file.string() + "\".");
   const std::string banner = RenderBanner(font, text);
   if (const auto target = arguments.Texto("-o")) {
-    consola.EscribirArchivo(*target, banner);
+    const Font shown;  // what the window would save: its header names the program's own font
+    consola.EscribirArchivo(*target, TextoGuardado(PanelFuente(shown), PanelTamaño(shown), banner));
   } else {
     consola.EscribirTexto(banner);
   }

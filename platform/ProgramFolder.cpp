@@ -9,7 +9,7 @@ std::filesystem::path ProgramFolder() {
   namespace fs = std::filesystem;
   std::error_code ec;
   const fs::path executable = fs::read_symlink("/proc/self/exe", ec);
-  const fs::path folder = ec ? fs::current_path(ec) : executable.parent_path();
+  fs::path folder = ec ? fs::current_path(ec) : executable.parent_path();
   if (fs::exists(folder / "Fonts", ec) || fs::exists(folder / "Paleta 3x2.txt", ec)) return folder;
   const fs::path share = folder.parent_path() / "share" / "pixmosa";
   return fs::is_directory(share, ec) ? share : folder;

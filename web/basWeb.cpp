@@ -32,7 +32,7 @@ std::array<Decimal, 257> Decimals() {
   std::array<Decimal, 257> table{};
   for (int n = -1; n < 256; ++n) {
     const std::string s = std::to_string(n) + ",";
-    Decimal& d = table[static_cast<std::size_t>(n + 1)];
+    Decimal& d = table[static_cast<std::size_t>(n) + 1];
     std::memcpy(d.text, s.data(), s.size());
     d.length = static_cast<std::uint8_t>(s.size());
   }
@@ -57,7 +57,7 @@ class Etiquetas {
 
  private:
   char* Number(char* to, int n) const {
-    const Decimal& d = decimals_[static_cast<std::size_t>(n + 1)];
+    const Decimal& d = decimals_[static_cast<std::size_t>(n) + 1];
     std::memcpy(to, d.text, sizeof d.text);
     return to + d.length;
   }

@@ -21,7 +21,8 @@ TEST_F(OrdenLetreroTest, BannersOfAFile) {
   EXPECT_EQ(Cli({"letrero", "añ\nb", "--figlet", font}).out, "a1ñ1\na2ñ2\nb1\nb2\n");
   EXPECT_EQ(Cli({"letrero", "-", "--figlet", font}, "x").out, "x1\nx2\n");
   EXPECT_EQ(Cli({"letrero", "a", "--figlet", font, "-o", folder.File("l.txt")}).out, "");
-  EXPECT_EQ(LeerArchivo(folder.File("l.txt")), "a1\r\na2\r\n");
+  EXPECT_EQ(LeerArchivo(folder.File("l.txt")),
+            "Ascii Art generado por Pixmosa. Fuente: Lucida Console Tama\xF1o: 6\r\na1\r\na2\r\n\r\n");
   EXPECT_EQ(Cli({"letrero", "x", "--figlet", "no-esta"}).err,
             "pixmosa-cli: No hay ninguna fuente FIGlet \"no-esta\".\n");
   EscribirArchivo(folder.File("mala.flf"), "x");
