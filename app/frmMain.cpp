@@ -14,93 +14,16 @@
 #include <QVBoxLayout>
 
 #include "app/MarcoDeImagen.h"
-#include "app/Modos.h"
-#include "app/frmMain_Imagen.h"
+#include "app/MenuDeImagen.h"
 #include "app/frmOpcAlgoritmo.h"
-#include "conversion/TextoGuardado.h"
 #include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/Intentar.h"
 #include "platform/qt/Menus.h"
 #include "platform/qt/Named.h"
-#include "platform/qt/QtText.h"
+#include "programa/Ajustes.h"
 
 namespace pixmosa {
 namespace {
-
-struct Entrada : EntradaDeMenu {
-  void (frmMain::*hacer)();
-};
-
-struct Menu {
-  const char* nombre;
-  const char* texto;
-  std::vector<Entrada> entradas;
-};
-
-constexpr Entrada kSeparador = {{"", ""}, nullptr};
-
-const std::vector<Menu>& Menus() {
-  static const std::vector<Menu> menus = {
-      {"mnuArchivo",
-       "&Archivo",
-       {{{"mnuLoadImage", "&Cargar imagen...", "document-open", "Ctrl+O",
-          "Carga una imagen para convertirla"},
-         &frmMain::CargarImagen},
-        {{"mnuGuardar", "&Guardar el AsciiArt...", "document-save", "Ctrl+S",
-          "Guarda el texto en un archivo"},
-         &frmMain::Guardar},
-        {{"mnuGrabarIni", "Grabar la con&figuración", "document-properties", nullptr,
-          "Escribe las opciones y la fuente en KTV.ini"},
-         &frmMain::GrabarIni},
-        kSeparador,
-        {{"mnuSalir", "&Salir", "application-exit", "Ctrl+Q", "Cierra el programa"}, nullptr}}},
-      {"mnuAsciiArt",
-       "As&ciiArt",
-       {{{"mnuPlay", "&Generar", "media-playback-start", "F5", "Convierte la imagen según el modo elegido"},
-         &frmMain::Play},
-        {{"mnuPreviewAsciiArt", "&Vista previa", "zoom-fit-best", "F6",
-          "Muestra el texto en una ventana grande"},
-         &frmMain::ShowPreview},
-        {{"mnuClipboard", "&Copiar en el portapapeles", "edit-copy", "Ctrl+Shift+C",
-          "Copia el último dibujo generado"},
-         &frmMain::CopiarTexto},
-        kSeparador,
-        {{"mnuAnimArtDirectorio", "Animación de una car&peta...", "video-x-generic", nullptr,
-          "Crea una página que muestra en orden las imágenes de una carpeta"},
-         &frmMain::AnimArtDirectorio}}},
-      {"mnuFuentes",
-       "&Fuentes",
-       {{{"mnuFontsChange", "Cambiar la &fuente...", "preferences-desktop-font", "Ctrl+T",
-          "Elige la fuente con la que se mide y se muestra el dibujo"},
-         &frmMain::ChangeFontFromDialog},
-        {{"mnuFixedFonts", "Fuentes de &ancho fijo...", nullptr, nullptr,
-          "Lista las fuentes de ancho fijo del sistema"},
-         &frmMain::MostrarFuentesFijas},
-        {{"mnuCharMap", "&Mapa de caracteres", "accessories-character-map", nullptr,
-          "Abre el mapa de caracteres del sistema"},
-         &frmMain::MapaDeCaracteres}}},
-      {"mnuHerramientas",
-       "&Herramientas",
-       {{{"mnuEditor", "Abrir el AsciiArt en un editor", "accessories-text-editor", "Ctrl+E",
-          "Retoca el dibujo carácter a carácter"},
-         &frmMain::AbrirEditor},
-        {{"mnuEstadisticas", "E&stadísticas", "view-statistics", "Ctrl+I",
-          "Cuenta los caracteres del dibujo"},
-         &frmMain::MostrarEstadisticas},
-        {{"mnuSistema", "&Configuración de aplicaciones del sistema", "preferences-system", nullptr,
-          "Muestra cómo se ven los textos en el bloc de notas y en el navegador"},
-         &frmMain::MostrarSistema}}},
-      {"mnuVer",
-       "&Ver",
-       {{{"mnuImagePreview", "&Imagen a tamaño real", "image-x-generic", "F7",
-          "Muestra la imagen entera en otra ventana"},
-         &frmMain::MostrarImagenCompleta}}},
-      {"mnuAyuda",
-       "A&yuda",
-       {{{"mnuAcercaDe", "&Acerca de Pixmosa", "help-about", "F1", "Qué es este programa y quién lo hace"},
-         &frmMain::AcercaDe}}},
-  };
-  return menus;
-}
 
 // The toolbar's buttons: a key and the menu entry that the button shows.
 struct Boton {
@@ -119,38 +42,45 @@ constexpr Boton kBotones[] = {
 
 }  // namespace
 
-frmMain::frmMain(Programa& program) : programa_(program) {
+frmMain::frmMain(Programa& program, const Escritorio& desktop)
+    : p_(program),
+      desktop_(desktop),
+      prgBar1_(named<QProgressBar>("prgBar1")),
+      progreso_(prgBar1_),
+      regeneracion_(Con(desktop.dialogos, [this] {
+        if (HayImagen(p_)) Generar(caducadoPor_);
+      })) {
   setObjectName("frmMain");
   setWindowTitle("Pixmosa");
   setAcceptDrops(true);
+  CrearBarraDeEstado();
   CrearMenus();
   CrearBarras();
   CrearCentro();
-  CrearBarraDeEstado();
-  Arrancar();
+  CrearPaneles();
 }
 
 frmMain::~frmMain() = default;
 
 void frmMain::CrearMenus() {
+  imagen_ = new MenuDeImagen(p_, progreso_, desktop_.dialogos, this);
   for (const Menu& menu : Menus()) {
     QMenu* m = menuBar()->addMenu(QString::fromUtf8(menu.texto));
     m->setObjectName(menu.nombre);
     m->setToolTipsVisible(true);
-    LlenarMenu<Entrada>(m, menu.entradas, this, [this](const Entrada& row) {
-      if (row.hacer) (this->*row.hacer)();
-    });
+    LlenarMenu<Entrada>(m, menu.entradas, this,
+                        Con(desktop_.dialogos, [this](const Entrada& row) { (this->*row.hacer)(); }));
+    for (std::size_t i = 0; i < menu.entradas.size(); ++i)
+      acciones_[menu.entradas[i].nombre] = m->actions().at(static_cast<qsizetype>(i));
+    if (m->objectName() == "mnuArchivo") menuBar()->addMenu(imagen_->Menu());
   }
-  imagen_ = new MenuDeImagen(*this);
-  menuBar()->insertMenu(findChild<QMenu*>("mnuAsciiArt")->menuAction(), imagen_->Menu());
-  connect(findChild<QAction*>("mnuSalir"), &QAction::triggered, this, &QWidget::close);
 }
 
 void frmMain::CrearBarras() {
   auto* bar = named<QToolBar>("Toolbar1", QStringLiteral("Principal"));
   bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
   for (const Boton& b : kBotones) {
-    auto* entry = findChild<QAction*>(b.accion);
+    QAction* entry = acciones_.at(b.accion);
     auto* button = new QAction(entry->icon(), QString::fromUtf8(b.texto), bar);
     button->setObjectName(b.clave);
     button->setToolTip(entry->toolTip() + " (" + entry->shortcut().toString(QKeySequence::NativeText) + ")");
@@ -158,6 +88,7 @@ void frmMain::CrearBarras() {
     connect(button, &QAction::triggered, entry, &QAction::trigger);
   }
   addToolBar(bar);
+  barras_.push_back(bar);
   CrearSelectorDeModo();
 }
 
@@ -172,6 +103,7 @@ void frmMain::CrearCentro() {
 
   chkAsciiPrev_ = named<QCheckBox>("chkAsciiPrev", QStringLiteral("Vista previa al generar"));
   chkAsciiPrev_->setToolTip(QStringLiteral("Abre la vista previa después de cada generación"));
+  connect(chkAsciiPrev_, &QCheckBox::toggled, this, [this](bool shown) { p_.vistaPrevia = shown; });
   txtAscii_ = named<AreaDeTexto>("txtAscii");
   imagen_->CederDeshacer(txtAscii_);
   txtAscii_->setPlaceholderText(
@@ -206,7 +138,6 @@ void frmMain::CrearBarraDeEstado() {
     bar->addPermanentWidget(label);
     return label;
   };
-  prgBar1_ = named<QProgressBar>("prgBar1");
   prgBar1_->setMaximumWidth(220);
   prgBar1_->hide();
   bar->addPermanentWidget(prgBar1_);
@@ -214,27 +145,27 @@ void frmMain::CrearBarraDeEstado() {
   panelFiglet_ = panel("Figlet");
   panelTamaño_ = panel("Tamaño");
   panel("Modo")->setText("MODO ASCIIART");
-  progreso_.emplace(prgBar1_);
 }
 
-void frmMain::Arrancar() {
-  lblModo_->setText(QString::fromUtf8(kModos[kModoGrises]));
+void frmMain::CrearPaneles() {
   auto* area = new QVBoxLayout(PicAlgoritmos_);
   area->setContentsMargins(0, 0, 0, 0);
   CrearLetreros(area);
-  area->addWidget(opciones_ = new frmOpcAlgoritmo(*this, PicAlgoritmos_));
+  opciones_ = new frmOpcAlgoritmo(p_, desktop_.dialogos, PicAlgoritmos_);
+  area->addWidget(opciones_);
+  Dialogs& dialogs = desktop_.dialogos;
+  connect(opciones_, &frmOpcAlgoritmo::TextoCaducado, this, Con(dialogs, [this](int m) { Caducar(m); }));
+  connect(opciones_, &frmOpcAlgoritmo::LetrerosVisibles, this, &frmMain::MostrarLetreros);
+  connect(opciones_, &frmOpcAlgoritmo::ColoresCambiados, this, &frmMain::MostrarColores);
+  connect(opciones_, &frmOpcAlgoritmo::BlancoYNegroPedido, imagen_, &MenuDeImagen::PonerEnBlancoYNegro);
+  connect(opciones_, &frmOpcAlgoritmo::FotogramasPedidos, this, Con(dialogs, [this] { ElegirFotogramas(); }));
+  connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::MostrarImagen);
   // The text area keeps the Tab key to itself: it comes last, after the options.
   setTabOrder(previousInFocusChain(), chkAsciiPrev_);
   setTabOrder(chkAsciiPrev_, txtAscii_);
-  programa_.basAscii.CountedColour = kWhite;
-  programa_.basAscii.AsciiColumns = 250;
-  RebuildCharacterTables(programa_.basAscii, programa_.ajustes, programa_.plataforma.superficie);
-  ApplyFont(programa_.ajustes.font);
-  txtAscii_->PonerColores(Qt::white, Qt::black);
-}
-
-int frmMain::IndiceDelModo() const {
-  return IndiceDeModo(lblModo_->text().toStdString());
+  Medir(p_);
+  MostrarFuente();
+  MostrarColores();
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event) {

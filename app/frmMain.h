@@ -1,22 +1,27 @@
-// The main window: the working picture, the produced text, the mode, the font, and the way to every other
-// window.
+// The main window: builds the panels and windows, connects what they say to what has to be shown, and starts
+// every generation. What is done to the state is done by the procedures of programa/.
 #pragma once
 
 #include <filesystem>
-#include <optional>
+#include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <QElapsedTimer>
 #include <QMainWindow>
 
-#include "app/Programa.h"
+#include "platform/Escritorio.h"
+#include "platform/qt/Menus.h"
 #include "platform/qt/QtProgress.h"
+#include "platform/qt/UltimoValor.h"
+#include "programa/Animacion.h"
+#include "programa/Programa.h"
 
 class QCheckBox;
 class QLabel;
 class QProgressBar;
-class QPushButton;
+class QToolBar;
 class QVBoxLayout;
 
 namespace pixmosa {
@@ -33,63 +38,12 @@ class frmMain final : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit frmMain(Programa& program);
+  frmMain(Programa& program, const Escritorio& desktop);
   ~frmMain() override;
 
-  // --- frmMain_Archivo.cpp: pictures in, text out ---
-  void CargarImagen();                                  // asks for the file
-  bool AbrirImagen(const std::filesystem::path& file);  // false, after the message, where it cannot be loaded
-  void Guardar();
-  void CopiarTexto();
-
-  // --- frmMain_Generar.cpp ---
-  void Play();
-  void GenerateAscii(int method);  // the driver with its window side; `picMain` holds a picture
-  void ShowPreview();
-
-  // --- frmMain_Fuentes.cpp ---
-  void ChangeFontFromDialog();
-  void ApplyFont(const Font& font);  // text area, status bar, character tables and column count
-  void MostrarFuentesFijas();
-  void AskRegenerateAfterFontChange();
-
-  // --- frmMain_Modos.cpp ---
-  void ElegirModo(const QString& mode);
-  void ComputeColumnCount();
-  void GrabarIni();
-  void MostrarLetreros(bool shown);  // the banner panel in front of the options, or not
-  void PonerEnBlancoYNegro();        // the working picture, by "Método 1"
-
-  // --- frmMain_Web.cpp ---
-  void GenerarWebArt(bool exactCopy);
-  void ElegirFondoWeb(QPushButton* swatch, Colour& colour);
-  void ElegirFotogramas();
-  void AnimArtDeGif();
-  void AnimArtDirectorio();
-
-  // --- frmMain_Ventanas.cpp ---
-  void MapaDeCaracteres();
-  void MostrarImagenCompleta();
-  void AcercaDe();
-  void AbrirEditor();
-  void MostrarEstadisticas();
-  void MostrarSistema();
-
-  // 0..5, from the text of `lblModo`.
-  int IndiceDelModo() const;
-
-  // `picMain` holds a picture.
-  bool HayImagen() const;
-
-  // The picture as it is now; shown and kept by the state that owns it.
-  const Picture& Imagen() const;
-  void MostrarImagen();
-
-  Programa& programa() { return programa_; }
-  AreaDeTexto& areaDeTexto() { return *txtAscii_; }
-  frmOpcAlgoritmo& opciones() { return *opciones_; }
-  QtProgress& progreso() { return *progreso_; }
-  QCheckBox& vistaPrevia() { return *chkAsciiPrev_; }
+ public slots:
+  // False, after the message, where the file cannot be loaded.
+  bool AbrirImagen(const std::filesystem::path& file);
 
  protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
@@ -97,21 +51,75 @@ class frmMain final : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  // --- frmMain.cpp, frmMain_Menus.cpp: what there is ---
+  struct Entrada : EntradaDeMenu {
+    void (frmMain::*hacer)();
+  };
+  struct Menu {
+    const char* nombre;
+    const char* texto;
+    std::vector<Entrada> entradas;
+  };
+  static const std::vector<Menu>& Menus();
   void CrearMenus();
   void CrearBarras();
   void CrearSelectorDeModo();
   void CrearCentro();
   void CrearBarraDeEstado();
-  void Arrancar();
+  void CrearPaneles();
   void CrearLetreros(QVBoxLayout* area);
 
-  void CortarFotogramas(const std::filesystem::path& file);  // throws FileError
-  void GenerarAnimArt(const std::vector<std::filesystem::path>& frames);
-  std::string TextoDeFotograma(const std::vector<std::filesystem::path>& frames, std::size_t k);
+  // --- frmMain_Archivo.cpp: pictures in, text out ---
+  void CargarImagen();
+  void Guardar();
+  void CopiarTexto();
+  void GrabarIni();
+
+  // --- frmMain_Generar.cpp ---
+  void Play();
+  void Generar(int method);  // and shows the text; there is a picture
+  void Caducar(int method);  // the text is made again once the waiting events are handled
+  void ShowPreview();
+  void MostrarImagen();
+  void MostrarTexto();  // the produced text; the part in view stays in view
+  void MostrarColores();
+
+  // --- frmMain_Fuentes.cpp ---
+  void ChangeFontFromDialog();
+  void ApplyFont(const Font& font);
+  void MostrarFuente();
+  void MostrarFuentesFijas();
+  void AskRegenerateAfterFontChange();
+
+  // --- frmMain_Modos.cpp ---
+  void ElegirModo(Modo mode);
+  void MostrarLetreros(bool shown);  // the banner panel in front of the options, or not
+
+  // --- frmMain_Web.cpp ---
+  void GenerarWebArt();
+  void ElegirFotogramas();
+  void AnimArtDeGif();
+  void AnimArtDirectorio();
+  void GenerarAnimArt(const Serie& frames);
+  bool SeguirAnimacion(std::size_t k, std::size_t frames);
   void AbrirPagina(const std::string& file);
   void Ocupar(bool busy);  // while a long work lets events in: nothing else can be started
 
-  Programa& programa_;
+  // --- frmMain_Ventanas.cpp ---
+  void Salir();
+  void MapaDeCaracteres();
+  void MostrarImagenCompleta();
+  void AcercaDe();
+  void AbrirEditor();
+  void MostrarEstadisticas();
+  void MostrarSistema();
+
+  Programa& p_;
+  Escritorio desktop_;
+  QProgressBar* prgBar1_;
+  QtProgress progreso_;
+  std::map<std::string_view, QAction*> acciones_;  // of the menus, by name
+  std::vector<QToolBar*> barras_;
   AreaDeTexto* txtAscii_ = nullptr;
   MarcoDeImagen* marco_ = nullptr;
   QWidget* PicAlgoritmos_ = nullptr;
@@ -121,14 +129,14 @@ class frmMain final : public QMainWindow {
   QLabel* panelFuente_ = nullptr;
   QLabel* panelFiglet_ = nullptr;
   QLabel* panelTamaño_ = nullptr;
-  QProgressBar* prgBar1_ = nullptr;
-  std::optional<QtProgress> progreso_;
   frmPreview* preview_ = nullptr;
   frmEditor* editor_ = nullptr;
   frmFiglet* figlet_ = nullptr;
   bool ocupada_ = false;        // an animation is being written
   bool cerrarDespues_ = false;  // the user closed the window meanwhile
   QElapsedTimer desdeElTexto_;
+  int caducadoPor_ = 0;
+  UltimoValor regeneracion_;  // a dragged slider costs one text however many values it sent
   MenuDeImagen* imagen_ = nullptr;
 };
 

@@ -1,12 +1,16 @@
-// Pictures in, text out: loading, saving, clipboard.
-#include <QLabel>
+// Pictures in, text and settings out: loading, saving, clipboard.
 #include <QStatusBar>
 
+#include "app/MenuDeImagen.h"
+#include "app/basINI.h"
 #include "app/frmMain.h"
+#include "app/frmOpcAlgoritmo.h"
 #include "conversion/TextoGuardado.h"
 #include "platform/AtomicFile.h"
 #include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/Intentar.h"
 #include "platform/qt/QtText.h"
+#include "programa/CargarImagen.h"
 
 namespace pixmosa {
 namespace {
@@ -17,46 +21,53 @@ constexpr int kMilisegundosDeAviso = 10000;
 }  // namespace
 
 void frmMain::CargarImagen() {
-  const std::string file =
-      programa_.plataforma.dialogos.OpenFile("Seleccione una imagen...", kFiltroDeImagenes);
+  const std::string file = desktop_.dialogos.OpenFile("Seleccione una imagen...", kFiltroDeImagenes);
   if (!file.empty()) AbrirImagen(file);
 }
 
 bool frmMain::AbrirImagen(const std::filesystem::path& file) {
   try {
-    Picture loaded = programa_.plataforma.imagenes.Read(file);
-    CortarFotogramas(file);
-    programa_.imagen.Cargar(std::move(loaded));
+    pixmosa::CargarImagen(p_, file);
   } catch (const std::exception& e) {
     // The message is the program's own; the reason stands in the status bar.
-    statusBar()->showMessage(Q(e.what()), kMilisegundosDeAviso);
-    programa_.plataforma.dialogos.Fail("No se ha podido cargar la imagen", "Error en la carga");
+    statusBar()->showMessage(Q(FraseDe(e)), kMilisegundosDeAviso);
+    desktop_.dialogos.Fail("No se ha podido cargar la imagen", "Error en la carga");
     return false;
   }
   statusBar()->clearMessage();
+  opciones_->MostrarAnimArt();
   MostrarImagen();
+  imagen_->SeguirImagen();
   return true;
 }
 
 void frmMain::Guardar() {
   if (txtAscii_->EstaVacia()) return;
-  Dialogs& dialogs = programa_.plataforma.dialogos;
-  const std::string file = dialogs.SaveFile("Guardar el AsciiArt...", "*.txt", "txt");
+  const std::string file = desktop_.dialogos.SaveFile("Guardar el AsciiArt...", "*.txt", "txt");
   if (file.empty()) return;
-  try {
-    EscribirArchivo(file, TextoGuardado(panelFuente_->text().toStdString(),
-                                        panelTamaño_->text().toStdString(), txtAscii_->Texto()));
-  } catch (const FileError& e) {
-    dialogs.Fail(e.what(), "Error al guardar");
-  }
+  Intentar(
+      desktop_.dialogos, [&] { EscribirArchivo(file, TextoGuardado(p_.ajustes.font, txtAscii_->Texto())); },
+      "Error al guardar");
 }
 
 void frmMain::CopiarTexto() {
   if (txtAscii_->EstaVacia()) return;
-  programa_.plataforma.entorno.CopyText(programa_.basAscii.ProducedText);
-  const Font& font = programa_.ajustes.font;
-  programa_.plataforma.dialogos.Inform("Dibujo copiado en el portapapeles.\r\nUsar fuente: " + font.name +
-                                       ". Tamaño: " + std::to_string(font.points));
+  desktop_.entorno.CopyText(p_.basAscii.ProducedText);
+  const Font& font = p_.ajustes.font;
+  desktop_.dialogos.Inform("Dibujo copiado en el portapapeles.\r\nUsar fuente: " + font.name +
+                           ". Tamaño: " + std::to_string(font.points));
+}
+
+void frmMain::GrabarIni() {
+  SaveSettings(IniPath(p_.carpeta), {.colorFondoAscii = p_.fondoTexto,
+                                     .colorTextoAscii = p_.colorTexto,
+                                     .tamañoAscii = p_.ajustes.size,
+                                     .paletaAscii = p_.ajustes.palette,
+                                     .luminosidadAscii = p_.ajustes.luminosity,
+                                     .asciiNegativado = p_.basAscii.CountedColour == kBlack,
+                                     .paletaWeb = p_.ajustesWeb.paleta,
+                                     .previewAscii = p_.vistaPrevia,
+                                     .fuente = p_.ajustes.font});
 }
 
 }  // namespace pixmosa

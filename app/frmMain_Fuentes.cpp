@@ -6,44 +6,46 @@
 #include "conversion/TextoGuardado.h"
 #include "conversion/mFontSize.h"
 #include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/Intentar.h"
 #include "platform/qt/QtText.h"
+#include "programa/Ajustes.h"
 
 namespace pixmosa {
 
 void frmMain::ChangeFontFromDialog() {
-  const Font before = programa_.ajustes.font;
-  const std::optional<FontChoice> choice = programa_.plataforma.dialogos.ChooseFont(before);
+  const Font before = p_.ajustes.font;
+  const std::optional<FontChoice> choice = desktop_.dialogos.ChooseFont(before);
   if (!choice) return;
   ApplyFont(FontOfChoice(*choice, before));
-  if (programa_.ajustes.font == before || txtAscii_->EstaVacia()) return;
+  if (p_.ajustes.font == before || txtAscii_->EstaVacia()) return;
   AskRegenerateAfterFontChange();
 }
 
 void frmMain::ApplyFont(const Font& font) {
-  programa_.ajustes.font = font;
+  PonerFuente(p_, font);
+  MostrarFuente();
+}
+
+void frmMain::MostrarFuente() {
+  const Font& font = p_.ajustes.font;
   txtAscii_->PonerFuente(font);
   panelFuente_->setText(Q(PanelFuente(font)));
   panelTamaño_->setText(Q(PanelTamaño(font)));
-  BasAscii& ascii = programa_.basAscii;
-  TextSurface& surface = programa_.plataforma.superficie;
-  MeasureCharacterSet(ascii, font, surface);
-  BuildGrayLookup(ascii);
-  ComputeColumnCount();
 }
 
 void frmMain::MostrarFuentesFijas() {
-  frmFonts list(programa_.plataforma.superficie.ListFixedFonts(), programa_.ajustes.font.name, this);
-  connect(&list, &frmFonts::Elegida, this, [this](const QString& name) {
-    ApplyFont({name.toStdString(), programa_.ajustes.font.points});
-  });
+  frmFonts list(p_.superficie.ListFixedFonts(), p_.ajustes.font.name, this);
+  connect(&list, &frmFonts::Elegida, this, Con(desktop_.dialogos, [this](const QString& name) {
+    ApplyFont({name.toStdString(), p_.ajustes.font.points});
+  }));
   list.exec();
 }
 
 void frmMain::AskRegenerateAfterFontChange() {
-  if (!programa_.plataforma.dialogos.Ask("Se ha cambiado la fuente. Para un resultado óptimo es conveniente"
-                                         "crear de nuevo el AsciiArt\r\n¿Desea generarlo ahora?"))
+  if (!desktop_.dialogos.Ask("Se ha cambiado la fuente. Para un resultado óptimo es conveniente"
+                             "crear de nuevo el AsciiArt\r\n¿Desea generarlo ahora?"))
     return;
-  if (HayImagen()) GenerateAscii(kGrayscale);
+  if (HayImagen(p_)) Generar(kGrayscale);
 }
 
 }  // namespace pixmosa

@@ -3,71 +3,66 @@
 #include <QScrollBar>
 
 #include "app/MarcoDeImagen.h"
-#include "app/Modos.h"
+#include "app/Muestra.h"
 #include "app/frmMain.h"
-#include "app/frmOpcAlgoritmo.h"
 #include "app/frmPreview.h"
 #include "platform/qt/AreaDeTexto.h"
+#include "programa/Generar.h"
 
 namespace pixmosa {
 
 void frmMain::Play() {
-  if (!HayImagen()) {
-    if (programa_.plataforma.dialogos.Ask("Antes debe cargar una imagen\r\n¿Desea cargarla ahora?"))
-      CargarImagen();
-    return;
-  }
-  switch (IndiceDelModo()) {
-    case kModoGrises:
-      if (opciones_->AnimArt()) {
-        AnimArtDeGif();
-      } else {
-        GenerateAscii(kGrayscale);
-      }
+  switch (QueGenerar(p_)) {
+    case Trabajo::PedirImagen:
+      if (desktop_.dialogos.Ask("Antes debe cargar una imagen\r\n¿Desea cargarla ahora?")) CargarImagen();
       break;
-    case kModoBordes:
-    case kModoAntialias:
-      GenerateAscii(IndiceDelModo());
+    case Trabajo::Texto:
+      Generar(MetodoDe(p_.modo));
       break;
-    case kModoMosaico:
-      GenerarWebArt(false);
+    case Trabajo::AnimArt:
+      AnimArtDeGif();
       break;
-    case kModoCopiaExacta:
-      GenerarWebArt(true);
+    case Trabajo::WebArt:
+      GenerarWebArt();
       break;
-    default:
+    case Trabajo::Ninguno:
       break;
   }
 }
 
-void frmMain::GenerateAscii(int method) {
-  opciones_->LlenarAjustes(programa_.ajustes);
-  pixmosa::GenerateAscii(programa_.basAscii, programa_.ajustes, Imagen(), method);
-  // The part in view stays in view, so that a dragged slider shows its effect there.
-  QScrollBar *across = txtAscii_->horizontalScrollBar(), *down = txtAscii_->verticalScrollBar();
-  const int x = across->value(), y = down->value();
-  txtAscii_->PonerTexto(programa_.basAscii.ProducedText);
-  across->setValue(x);
-  down->setValue(y);
-  if (chkAsciiPrev_->isChecked() && !opciones_->AnimArt()) ShowPreview();
+void frmMain::Generar(int method) {
+  if (!pixmosa::Generar(p_, method)) return;
+  MostrarTexto();
+  if (p_.vistaPrevia && !p_.animArt) ShowPreview();
+}
+
+void frmMain::Caducar(int method) {
+  chkAsciiPrev_->setChecked(p_.vistaPrevia);
+  caducadoPor_ = method;
+  regeneracion_.Pedir();
 }
 
 void frmMain::ShowPreview() {
-  if (programa_.basAscii.ProducedText.empty()) return;
+  if (p_.basAscii.ProducedText.empty()) return;
   if (!preview_) preview_ = new frmPreview(this);
-  preview_->Mostrar(programa_.basAscii.ProducedText, programa_.ajustes.font);
-}
-
-bool frmMain::HayImagen() const {
-  return !programa_.imagen.picMain.IsEmpty();
-}
-
-const Picture& frmMain::Imagen() const {
-  return programa_.imagen.picMain;
+  preview_->Mostrar(p_.basAscii.ProducedText, p_.ajustes.font);
 }
 
 void frmMain::MostrarImagen() {
-  marco_->Mostrar(Imagen());
+  marco_->Mostrar(p_.imagen.picMain);
+}
+
+void frmMain::MostrarTexto() {
+  // The part in view stays in view, so that a dragged slider shows its effect there.
+  QScrollBar *across = txtAscii_->horizontalScrollBar(), *down = txtAscii_->verticalScrollBar();
+  const int x = across->value(), y = down->value();
+  txtAscii_->PonerTexto(p_.basAscii.ProducedText);
+  across->setValue(x);
+  down->setValue(y);
+}
+
+void frmMain::MostrarColores() {
+  txtAscii_->PonerColores(QColorOf(p_.fondoTexto), QColorOf(p_.colorTexto));
 }
 
 }  // namespace pixmosa

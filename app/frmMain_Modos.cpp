@@ -1,19 +1,15 @@
-// The mode drop-down, the options panel and the settings file.
+// The mode drop-down and what a mode shows: the options panel or the banner panel.
 #include <QActionGroup>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QLabel>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "app/Modos.h"
-#include "app/basINI.h"
 #include "app/frmMain.h"
-#include "app/frmMain_Imagen.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "figlet/frmFiglet.h"
+#include "platform/qt/Intentar.h"
 #include "platform/qt/Named.h"
 
 namespace pixmosa {
@@ -28,30 +24,32 @@ void frmMain::CrearSelectorDeModo() {
   button->setToolButtonStyle(Qt::ToolButtonTextOnly);
   auto* menu = named<QMenu>("mnuModo", button);
   auto* group = new QActionGroup(menu);
-  for (const char* mode : kModos) {
-    QAction* item = menu->addAction(QString::fromUtf8(mode));
-    item->setObjectName(QString::fromUtf8(mode));
+  for (std::size_t mode = 0; mode < kModos.size(); ++mode) {
+    QAction* item = menu->addAction(QString::fromUtf8(kModos[mode]));
+    item->setObjectName(QString::fromUtf8(kModos[mode]));
     item->setCheckable(true);
-    item->setChecked(mode == kModos[kModoGrises]);
+    item->setChecked(mode == p_.modo);
     group->addAction(item);
-    connect(item, &QAction::triggered, this, [this, mode] { ElegirModo(QString::fromUtf8(mode)); });
+    connect(item, &QAction::triggered, this,
+            Con(desktop_.dialogos, [this, mode](bool) { ElegirModo(static_cast<Modo>(mode)); }));
   }
   button->setMenu(menu);
-  lblModo_ = named<QLabel>("lblModo");
+  lblModo_ = named<QLabel>("lblModo", QString::fromUtf8(kModos[p_.modo]));
   lblModo_->setContentsMargins(8, 0, 8, 0);
   bar->addWidget(button);
   bar->addWidget(lblModo_);
   addToolBar(bar);
+  barras_.push_back(bar);
 }
 
-void frmMain::ElegirModo(const QString& mode) {
-  lblModo_->setText(mode);
+void frmMain::ElegirModo(Modo mode) {
+  p_.modo = mode;
+  lblModo_->setText(QString::fromUtf8(kModos[mode]));
   if (!PicAlgoritmos_->isHidden()) opciones_->MostrarPaneles();
 }
 
 void frmMain::CrearLetreros(QVBoxLayout* area) {
-  figlet_ = new frmFiglet(programa_.basFigLet, programa_.carpetasDeFuentes, programa_.plataforma.dialogos,
-                          *txtAscii_, PicAlgoritmos_);
+  figlet_ = new frmFiglet(p_.basFigLet, p_.carpetasDeFuentes, desktop_.dialogos, *txtAscii_, PicAlgoritmos_);
   figlet_->hide();
   area->addWidget(figlet_);
   const auto count = [this](int fonts) {
@@ -64,33 +62,8 @@ void frmMain::CrearLetreros(QVBoxLayout* area) {
 void frmMain::MostrarLetreros(bool shown) {
   // The options keep their own state behind the panel.
   figlet_->setVisible(shown);
-  if (opciones_) opciones_->setVisible(!shown);
+  opciones_->setVisible(!shown);
   if (shown) figlet_->PrimeraVez();
-}
-
-void frmMain::ComputeColumnCount() {
-  opciones_->LlenarAjustes(programa_.ajustes);
-  pixmosa::ComputeColumnCount(programa_.basAscii, programa_.ajustes.size,
-                              programa_.plataforma.superficie.ScreenWidth());
-}
-
-void frmMain::GrabarIni() {
-  opciones_->LlenarAjustes(programa_.ajustes);
-  const AsciiSettings& a = programa_.ajustes;
-  SaveSettings(IniPath(programa_.carpeta),
-               {.colorFondoAscii = opciones_->ColorDeFondo(),
-                .colorTextoAscii = opciones_->ColorDeTexto(),
-                .tamañoAscii = a.size,
-                .paletaAscii = a.palette,
-                .luminosidadAscii = a.luminosity,
-                .asciiNegativado = programa_.basAscii.CountedColour == kBlack,
-                .paletaWeb = opciones_->findChild<QComboBox*>("cboPaletaWeb")->currentIndex(),
-                .previewAscii = chkAsciiPrev_->isChecked(),
-                .fuente = a.font});
-}
-
-void frmMain::PonerEnBlancoYNegro() {
-  imagen_->Aplicar(18, Rgb(150, 150, 150), false);
 }
 
 }  // namespace pixmosa

@@ -11,32 +11,34 @@
 
 namespace pixmosa {
 
+void frmMain::Salir() {
+  close();
+}
+
 void frmMain::MapaDeCaracteres() {
-  if (!programa_.plataforma.entorno.StartCharacterMap())
-    programa_.plataforma.dialogos.Fail("No se ha encontrado el mapa de caracteres del sistema.",
-                                       "Mapa de caracteres");
+  if (!desktop_.entorno.StartCharacterMap())
+    desktop_.dialogos.Fail("No se ha encontrado el mapa de caracteres del sistema.", "Mapa de caracteres");
 }
 
 void frmMain::MostrarImagenCompleta() {
-  if (!HayImagen()) {
-    programa_.plataforma.dialogos.Inform("No hay ninguna imagen cargada.");
+  if (!HayImagen(p_)) {
+    desktop_.dialogos.Inform("No hay ninguna imagen cargada.");
     return;
   }
-  auto* window = new frmImagePreview(Imagen(), this);
+  auto* window = new frmImagePreview(p_.imagen.picMain, this);
   window->setAttribute(Qt::WA_DeleteOnClose);
   window->show();
 }
 
 void frmMain::AcercaDe() {
-  frmAbout(programa_.plataforma.entorno, this).exec();
+  frmAbout(desktop_.entorno, this).exec();
 }
 
 void frmMain::AbrirEditor() {
   // A window closed by the user is gone; one that is open gets the text painted over its drawing.
   if (!editor_ || !editor_->isVisible()) {
     delete editor_;
-    const Plataforma& p = programa_.plataforma;
-    editor_ = new frmEditor(programa_.basEditor, programa_.ajustes.font, p.dialogos, p.entorno, this);
+    editor_ = new frmEditor(p_.basEditor, p_.ajustes.font, desktop_.dialogos, desktop_.entorno, this);
     connect(editor_, &frmEditor::Enviado, this,
             [this](const std::string& text) { txtAscii_->PonerTexto(text); });
   }
@@ -54,11 +56,11 @@ void frmMain::closeEvent(QCloseEvent* event) {
 }
 
 void frmMain::MostrarEstadisticas() {
-  frmEstadisticas(txtAscii_->Texto(), programa_.plataforma.entorno, this).exec();
+  frmEstadisticas(txtAscii_->Texto(), desktop_.entorno, this).exec();
 }
 
 void frmMain::MostrarSistema() {
-  frmSistema(programa_.plataforma.registro, this).exec();
+  frmSistema(desktop_.registro, this).exec();
 }
 
 }  // namespace pixmosa

@@ -1,15 +1,11 @@
 // Coloured pages, the frames of a GIF and animation pages.
-#include <QCheckBox>
-#include <QElapsedTimer>
 #include <QMenuBar>
 #include <QToolBar>
 
-#include "app/Muestra.h"
 #include "app/frmMain.h"
 #include "app/frmOpcAlgoritmo.h"
-#include "platform/CodePage.h"
 #include "platform/qt/AreaDeTexto.h"
-#include "web/AnimArt.h"
+#include "platform/qt/Intentar.h"
 #include "web/frmGIFAvance.h"
 
 namespace pixmosa {
@@ -17,81 +13,46 @@ namespace {
 
 constexpr int kMilisegundosEntreTextos = 150;
 
-// Thrown through the writer when the user closes the window in the middle of an animation.
-struct Cancelada {};
-
 // A path as the dialog gave it, without blanks around it.
 std::string Recortada(const std::string& path) {
   const std::size_t first = path.find_first_not_of(' ');
   return first == std::string::npos ? "" : path.substr(first, path.find_last_not_of(' ') - first + 1);
 }
 
-bool TerminaEnGif(const std::filesystem::path& file) {
-  const std::string name = LowerCase(file.filename().string());
-  return name.ends_with("gif");
-}
-
 }  // namespace
 
-void frmMain::GenerarWebArt(bool exactCopy) {
-  Dialogs& dialogs = programa_.plataforma.dialogos;
-  WebSettings settings;
-  opciones_->LlenarAjustesWeb(settings);
-  settings.exactCopy = exactCopy;
-  if (settings.paleta == 0) programa_.azar.SeedFromSystem();
-  PrepararPaleta(programa_.basWeb, settings, programa_.azar);
-  const std::string file = Recortada(dialogs.SaveFile("Guardar el WebArt", "Archivo HTML|*.html", "html"));
+void frmMain::GenerarWebArt() {
+  WebSettings& settings = p_.ajustesWeb;
+  settings.exactCopy = p_.modo == kModoCopiaExacta;
+  if (settings.paleta == 0) p_.azar.SeedFromSystem();
+  PrepararPaleta(p_.basWeb, settings, p_.azar);
+  const std::string file =
+      Recortada(desktop_.dialogos.SaveFile("Guardar el WebArt", "Archivo HTML|*.html", "html"));
   if (file.empty()) return;
-  progreso_->Show();
-  progreso_->Repintar();
-  try {
-    EscribirWebArt(programa_.basWeb, settings, Imagen(), file);
-    progreso_->Hide();
-    if (chkAsciiPrev_->isChecked()) AbrirPagina(file);
-  } catch (const FileError& e) {
-    progreso_->Hide();
-    dialogs.Fail(e.what(), "Error al guardar");
-  }
+  progreso_.Show();
+  progreso_.Repintar();
+  const bool written = Intentar(
+      desktop_.dialogos, [&] { EscribirWebArt(p_.basWeb, settings, p_.imagen.picMain, file); },
+      "Error al guardar");
+  progreso_.Hide();
+  if (written && p_.vistaPrevia) AbrirPagina(file);
 }
 
 void frmMain::AbrirPagina(const std::string& file) {
-  if (!programa_.plataforma.entorno.Open(file))
-    programa_.plataforma.dialogos.Fail("No se ha podido abrir \"" + file +
-                                       "\": no hay ningún programa para ello.");
-}
-
-void frmMain::ElegirFondoWeb(QPushButton* swatch, Colour& colour) {
-  const Colour chosen = programa_.plataforma.dialogos.ChooseColour(colour);
-  if (chosen == kNoColour) return;
-  colour = chosen;
-  programa_.basWeb.Fondo = TextoDeFondo(chosen);
-  PintarMuestra(swatch, chosen);
-}
-
-void frmMain::CortarFotogramas(const std::filesystem::path& file) {
-  if (TerminaEnGif(file) && !programa_.basGif.carpeta.empty()) {
-    CortarGif(programa_.basGif, file);
-    opciones_->PonerAnimArtDisponible(programa_.basGif.AnimArtDisponible());
-  } else {
-    // A still picture: the last GIF's frames stay, but this picture has none to animate.
-    opciones_->PonerAnimArtDisponible(false);
-  }
+  if (!desktop_.entorno.Open(file))
+    desktop_.dialogos.Fail("No se ha podido abrir \"" + file + "\": no hay ningún programa para ello.");
 }
 
 void frmMain::ElegirFotogramas() {
-  frmGIFAvance(programa_.basGif, programa_.plataforma.imagenes, this).exec();
+  frmGIFAvance(p_.basGif, p_.codec, this).exec();
 }
 
 void frmMain::AnimArtDeGif() {
-  const BasGif& gif = programa_.basGif;
-  std::vector<std::filesystem::path> frames;
-  for (const std::string& number : gif.Seleccionados)
-    frames.push_back(ArchivoDeFotograma(gif.carpeta, number));
-  if (!gif.FramesList.empty()) GenerarAnimArt(frames);
+  if (!p_.basGif.FramesList.empty()) GenerarAnimArt(SerieDeGif(p_));
 }
 
 void frmMain::AnimArtDirectorio() {
-  Dialogs& dialogs = programa_.plataforma.dialogos;
+  Dialogs& dialogs = desktop_.dialogos;
   if (!dialogs.Ask("Mediante esta opcion generará un archivo HTML con la animación de los bmp´s que se "
                    "encuentren en el "
                    "directorio seleccionado.\r\nSe seguirá un orden alfabético de los archivos para la "
@@ -102,65 +63,57 @@ void frmMain::AnimArtDirectorio() {
     return;
   const std::string folder = dialogs.ChooseFolder("Seleccione la carpeta donde están los bmp");
   if (folder.empty()) return;
-  const std::vector<std::filesystem::path> frames = ImagenesDeCarpeta(folder);
-  if (!frames.empty()) GenerarAnimArt(frames);
+  const Serie frames = SerieDeCarpeta(p_, folder);
+  if (frames.cuantos > 0) GenerarAnimArt(frames);
 }
 
-void frmMain::GenerarAnimArt(const std::vector<std::filesystem::path>& frames) {
-  Dialogs& dialogs = programa_.plataforma.dialogos;
-  const std::string file = Recortada(dialogs.SaveFile("Guardar el AnimArt", "Archivo HTML|*.html", "html"));
+void frmMain::GenerarAnimArt(const Serie& frames) {
+  const std::string file =
+      Recortada(desktop_.dialogos.SaveFile("Guardar el AnimArt", "Archivo HTML|*.html", "html"));
   if (file.empty()) return;
   Ocupar(true);
-  try {
-    EscribirAnimArt(file, frames.size(), BytesOfUtf8(programa_.ajustes.font.name),
-                    [&](std::size_t k) { return TextoDeFotograma(frames, k); });
-    Ocupar(false);
-    if (chkAsciiPrev_->isChecked()) AbrirPagina(file);
-  } catch (const Cancelada&) {
-    Ocupar(false);
+  bool written = false;
+  Intentar(
+      desktop_.dialogos,
+      [&] {
+        written = EscribirAnimacion(p_, frames, file,
+                                    [&](std::size_t k) { return SeguirAnimacion(k, frames.cuantos); });
+      },
+      "Error al guardar");
+  const bool leave = cerrarDespues_;
+  Ocupar(false);
+  if (leave) {
     close();
-  } catch (const FileError& e) {
-    Ocupar(false);
-    dialogs.Fail(e.what(), "Error al guardar");
+  } else if (written && p_.vistaPrevia) {
+    AbrirPagina(file);
   }
 }
 
-std::string frmMain::TextoDeFotograma(const std::vector<std::filesystem::path>& frames, std::size_t k) {
-  try {
-    programa_.imagen.Asignar(programa_.plataforma.imagenes.Read(frames[k]));
-  } catch (const PictureError&) {
-    // The frame before stays, and with it its text.
-  }
-  opciones_->LlenarAjustes(programa_.ajustes);
-  std::string& text = programa_.basAscii.ProducedText;
-  if (!HayImagen()) return text = EscaparTexto(text);
-  pixmosa::GenerateAscii(programa_.basAscii, programa_.ajustes, Imagen(), kGrayscale);
-  const bool last = k + 1 == frames.size();
+bool frmMain::SeguirAnimacion(std::size_t k, std::size_t frames) {
+  const bool last = k + 1 == frames;
   if (last || !desdeElTexto_.isValid() || desdeElTexto_.elapsed() > kMilisegundosEntreTextos) {
     MostrarImagen();
-    txtAscii_->PonerTexto(text);
+    txtAscii_->PonerTexto(p_.basAscii.ProducedText);
     desdeElTexto_.start();
   }
-  if (last && chkAsciiPrev_->isChecked() && !opciones_->AnimArt()) ShowPreview();
-  text = EscaparTexto(text);
-  progreso_->SetValue(static_cast<int>(100 * (k + 1) / frames.size()));
-  progreso_->Yield();
-  if (cerrarDespues_) throw Cancelada();
-  return text;
+  if (last && p_.vistaPrevia && !p_.animArt) ShowPreview();
+  progreso_.SetValue(static_cast<int>(100 * (k + 1) / frames));
+  progreso_.Yield();
+  return !cerrarDespues_;
 }
 
 void frmMain::Ocupar(bool busy) {
   ocupada_ = busy;
   cerrarDespues_ = cerrarDespues_ && !busy;
-  for (QWidget* bar : findChildren<QToolBar*>()) bar->setEnabled(!busy);
+  for (QToolBar* bar : barras_) bar->setEnabled(!busy);
   menuBar()->setEnabled(!busy);
-  opciones_->setEnabled(!busy);
+  PicAlgoritmos_->setEnabled(!busy);
   txtAscii_->setReadOnly(busy);
   setAcceptDrops(!busy);
   if (busy) {
-    progreso_->Show();
+    progreso_.Show();
   } else {
-    progreso_->Hide();
+    progreso_.Hide();
   }
 }
 

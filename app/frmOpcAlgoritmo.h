@@ -3,9 +3,8 @@
 
 #include <QWidget>
 
-#include "conversion/basAscii.h"
-#include "platform/qt/UltimoValor.h"
-#include "web/basWeb.h"
+#include "platform/Dialogs.h"
+#include "programa/Programa.h"
 
 class QAbstractButton;
 class QCheckBox;
@@ -20,32 +19,26 @@ class QVBoxLayout;
 
 namespace pixmosa {
 
-class frmMain;
-
+// Each control writes its setting into the program's state and says what must be shown or made again.
 class frmOpcAlgoritmo final : public QWidget {
   Q_OBJECT
 
  public:
-  frmOpcAlgoritmo(frmMain& window, QWidget* parent);
+  frmOpcAlgoritmo(Programa& program, Dialogs& dialogs, QWidget* parent);
 
   // Shows the groups of the current mode.
   void MostrarPaneles();
 
-  // The settings as the controls show them now.
-  void LlenarAjustes(AsciiSettings& settings) const;
+  // The AnimArt group: enabled and light where the picture has frames to animate, disabled and navy
+  // elsewhere.
+  void MostrarAnimArt();
 
-  // The AnimArt group's state: enabled and light, or disabled and navy.
-  void PonerAnimArtDisponible(bool available);
-
-  // The same for the WebArt page.
-  void LlenarAjustesWeb(WebSettings& settings) const;
-
-  // "Generar AnimArt del GIF" is ticked.
-  bool AnimArt() const;
-
-  // The swatches' colours.
-  Colour ColorDeFondo() const;
-  Colour ColorDeTexto() const;
+ signals:
+  void TextoCaducado(int method);  // the text has to be made again by this method
+  void LetrerosVisibles(bool shown);
+  void ColoresCambiados();
+  void BlancoYNegroPedido();
+  void FotogramasPedidos();
 
  private:
   // --- frmOpcAlgoritmo_Paneles.cpp: what there is ---
@@ -58,15 +51,12 @@ class frmOpcAlgoritmo final : public QWidget {
   // --- frmOpcAlgoritmo.cpp: how it reacts ---
   void Conectar();
   void ConectarWeb();
-  void PaletaElegida();
-  void NegativoElegido();
-  void LuminosidadCambiada();
-  void TamañoCambiado();
-  void PonerTamaño(int value);
-  void ElegirColor(QPushButton* swatch, Colour& colour);
-  void Regenerar(int method);
+  void TamañoCambiado(int value);
+  void SaltarATamaño(int value);
+  bool ElegirColor(QPushButton* swatch, Colour& colour);
 
-  frmMain& window_;
+  Programa& program_;
+  Dialogs& dialogs_;
   QWidget* mrcAlgoritmo_[2];
   QWidget* mrcAscii_[3];
   QWidget* mrcweb_[2];
@@ -92,10 +82,6 @@ class frmOpcAlgoritmo final : public QWidget {
   QPushButton* lblWebBackColor_;
   QComboBox* cboPaletaWeb_;
   QLineEdit* txtPaletaWeb_;
-
-  Colour fondo_ = kWhite, texto_ = kBlack, fondoWeb_ = kBlack;
-  int regenerarCon_ = 0;
-  UltimoValor regeneracion_;
 };
 
 }  // namespace pixmosa

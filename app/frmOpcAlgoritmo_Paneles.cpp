@@ -77,6 +77,7 @@ struct BotonDeBarra {
   const char* clave;
   const char* texto;
   QIcon signo;
+  bool* ajuste = nullptr;  // set while the button is pressed
 };
 
 // A toolbar of buttons that stay pressed; `exclusive` lets only one be.
@@ -89,6 +90,8 @@ QToolBar* BarraDeBotones(const char* name, std::initializer_list<BotonDeBarra> b
     action->setObjectName(b.clave);
     action->setCheckable(true);
     group->addAction(action);
+    if (b.ajuste)
+      QObject::connect(action, &QAction::toggled, bar, [to = b.ajuste](bool pressed) { *to = pressed; });
     QWidget* button = bar->widgetForAction(action);
     button->setObjectName(b.clave);
     button->setFocusPolicy(Qt::TabFocus);
@@ -132,8 +135,8 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
 
   chkAsciiNegativo_ = named<QCheckBox>("chkAsciiNegativo", QStringLiteral("&Negativo"));
   chkAsciiNegativo_->setToolTip(QStringLiteral("Para leer el dibujo con letras claras sobre fondo oscuro"));
-  lblAsciiBackcolor_ = MuestraDeColor("lblAsciiBackcolor", "Color del fondo del texto", fondo_);
-  lblAsciiForeColor_ = MuestraDeColor("lblAsciiForeColor", "Color del texto", texto_);
+  lblAsciiBackcolor_ = MuestraDeColor("lblAsciiBackcolor", "Color del fondo del texto", program_.fondoTexto);
+  lblAsciiForeColor_ = MuestraDeColor("lblAsciiForeColor", "Color del texto", program_.colorTexto);
   auto* colours = new QHBoxLayout;
   colours->addWidget(chkAsciiNegativo_);
   colours->addStretch(1);
@@ -152,8 +155,8 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
 }
 
 void frmOpcAlgoritmo::CrearTamaño(QVBoxLayout* layout) {
-  sldTamaño_ =
-      Deslizador("sldTamaño", 1, 198, 100, "Tanto por ciento de los caracteres que caben en la pantalla");
+  sldTamaño_ = Deslizador("sldTamaño", 1, 198, program_.ajustes.size,
+                          "Tanto por ciento de los caracteres que caben en la pantalla");
   lblTamañoAsciiMin_ = Etiqueta("lblTamañoAsciiMin", "Mín.", "El tamaño más pequeño");
   lbl100_ = Etiqueta("lbl100", "100 %", "Tantos caracteres como caben en la pantalla");
   lblTamañoAsciiMax_ = Etiqueta("lblTamañoAsciiMax", "Máx.", "El tamaño más grande");
@@ -190,7 +193,8 @@ QWidget* frmOpcAlgoritmo::CrearAnimArt() {
 QWidget* frmOpcAlgoritmo::CrearPaginaWeb() {
   auto* page = named<QWidget>("mrcAlgoritmo(1)");
   QVBoxLayout* layout = Columna(page);
-  sldWTamaño_ = Deslizador("sldWTamaño", 1, 5, 3, "Detalle: cuántos píxeles de la imagen se escriben");
+  sldWTamaño_ = Deslizador("sldWTamaño", 1, 5, program_.ajustesWeb.tamaño,
+                           "Detalle: cuántos píxeles de la imagen se escriben");
   sldWTamaño_->setTickPosition(QSlider::TicksBelow);
   sldWTamaño_->setPageStep(1);
   lblTamañowebMin_ = Etiqueta("lblTamañowebMin", "Mín.", "Un píxel de cada cinco");
@@ -202,7 +206,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaWeb() {
   size->addWidget(lblTamañowebMax_);
   layout->addLayout(size);
 
-  lblWebBackColor_ = MuestraDeColor("lblWebBackColor", "Color del fondo", fondoWeb_);
+  lblWebBackColor_ = MuestraDeColor("lblWebBackColor", "Color del fondo", program_.fondoWeb);
   auto* row = Fila("Color del fondo", lblWebBackColor_);
   row->addStretch(1);
   row->addWidget(BarraDeBotones("TBWebAlinea",
@@ -231,14 +235,16 @@ QWidget* frmOpcAlgoritmo::CrearPaginaWeb() {
 }
 
 void frmOpcAlgoritmo::CrearBordesWeb(QVBoxLayout* layout) {
+  WebSettings& web = program_.ajustesWeb;
   auto* row = new QHBoxLayout;
   row->addWidget(new QLabel(QStringLiteral("Bordes")));
-  row->addWidget(BarraDeBotones("TBBordesWeb",
-                                {{"WebBArriba", "Borde superior", IconoDeBorde(Qt::TopEdge)},
-                                 {"WebBAbajo", "Borde inferior", IconoDeBorde(Qt::BottomEdge)},
-                                 {"WebBDerecha", "Borde derecho", IconoDeBorde(Qt::RightEdge)},
-                                 {"WebBIzquierda", "Borde izquierdo", IconoDeBorde(Qt::LeftEdge)}},
-                                false));
+  row->addWidget(
+      BarraDeBotones("TBBordesWeb",
+                     {{"WebBArriba", "Borde superior", IconoDeBorde(Qt::TopEdge), &web.bordeArriba},
+                      {"WebBAbajo", "Borde inferior", IconoDeBorde(Qt::BottomEdge), &web.bordeAbajo},
+                      {"WebBDerecha", "Borde derecho", IconoDeBorde(Qt::RightEdge), &web.bordeDerecha},
+                      {"WebBIzquierda", "Borde izquierdo", IconoDeBorde(Qt::LeftEdge), &web.bordeIzquierda}},
+                     false));
   row->addStretch(1);
   layout->addLayout(row);
 }

@@ -7,15 +7,38 @@
 #include "app/frmMain.h"
 #include "platform/PrivateFolder.h"
 #include "platform/ProgramFolder.h"
+#include "platform/qt/Intentar.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtPictureCodec.h"
 #include "platform/qt/QtRegistry.h"
 #include "platform/qt/QtShell.h"
 #include "platform/qt/QtTextSurface.h"
+#include "programa/Generar.h"
+
+namespace {
+
+// What no slot has caught still ends in a message and not in the program's end.
+class Aplicacion final : public QApplication {
+ public:
+  Aplicacion(int& argc, char** argv, pixmosa::Dialogs& dialogs)
+      : QApplication(argc, argv), dialogs_(dialogs) {}
+
+  bool notify(QObject* receiver, QEvent* event) override {
+    bool handled = false;
+    pixmosa::Intentar(dialogs_, [&] { handled = QApplication::notify(receiver, event); });
+    return handled;
+  }
+
+ private:
+  pixmosa::Dialogs& dialogs_;
+};
+
+}  // namespace
 
 int main(int argc, char** argv) {
   using namespace pixmosa;
-  QApplication app(argc, argv);
+  QtDialogs dialogs;
+  Aplicacion app(argc, argv, dialogs);
   // No display name: the window system would add it to every caption.
   QApplication::setApplicationName("Pixmosa");
   QApplication::setApplicationVersion(PIXMOSA_VERSION);
@@ -28,20 +51,18 @@ int main(int argc, char** argv) {
 
   QtTextSurface surface;
   QtPictureCodec pictures;
-  QtDialogs dialogs;
   QtShell shell;
   QtRegistry registry;
-  Programa program{{surface, pictures, dialogs, shell, registry}, ProgramFolder()};
-  program.carpetasDeFuentes = FontFolders();
-  if (!CargarPaleta3x2(program)) return 1;
+  Programa program{surface, pictures, ProgramFolder(), FontFolders()};
+  if (!Intentar(dialogs, [&] { CargarPaleta3x2(program); })) return 1;
   std::unique_ptr<PrivateFolder> scratch;
   try {
     scratch = std::make_unique<PrivateFolder>(std::filesystem::temp_directory_path(), "KTW");
     program.basGif.carpeta = scratch->Path();
   } catch (const std::exception& e) {
-    dialogs.Fail(e.what(), {});  // pictures load all the same; only animated GIFs are not cut
+    dialogs.Fail(FraseDe(e), {});  // pictures load all the same; only animated GIFs are not cut
   }
-  frmMain window(program);
+  frmMain window(program, {dialogs, shell, registry});
   dialogs.SetOwner(&window);
   window.show();
   if (const QStringList files = QApplication::arguments().mid(1); !files.isEmpty())

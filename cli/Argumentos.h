@@ -4,23 +4,24 @@
 #include <map>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "platform/Errores.h"
+
 namespace pixmosa::cli {
 
 // what() is a Spanish sentence in UTF-8 without a final period; the program ends with status 2.
-class ErrorDeUso : public std::runtime_error {
+class ErrorDeUso : public ErrorDelPrograma {
  public:
-  using std::runtime_error::runtime_error;
+  using ErrorDelPrograma::ErrorDelPrograma;
 };
 
 // what() is a Spanish sentence in UTF-8; the program ends with status 1.
-class ErrorDeTrabajo : public std::runtime_error {
+class ErrorDeTrabajo : public ErrorDelPrograma {
  public:
-  using std::runtime_error::runtime_error;
+  using ErrorDelPrograma::ErrorDelPrograma;
 };
 
 enum class Tipo { Interruptor, Texto, Entero, Eleccion };

@@ -2,7 +2,6 @@
 
 #include <cstdio>
 #include <filesystem>
-#include <optional>
 #include <set>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -21,20 +20,6 @@ namespace pixmosa::cli {
 namespace {
 
 constexpr int kColumnasSinTerminal = 80;
-
-// Turns what the platform throws into the program's own failure.
-template <typename Work>
-auto Trabajo(Work work) {
-  try {
-    return work();
-  } catch (const PictureError& e) {
-    throw ErrorDeTrabajo(e.what());
-  } catch (const FileError& e) {
-    throw ErrorDeTrabajo(e.what());
-  } catch (const std::bad_alloc&) {
-    throw ErrorDeTrabajo("No queda memoria para este trabajo.");
-  }
-}
 
 std::string LeerEntrada() {
   std::string bytes;
@@ -76,21 +61,22 @@ PictureCodec& Consola::Imagenes() {
   return Arrancar().imagenes;
 }
 
+Programa Consola::NuevoPrograma() {
+  return {Superficie(), Imagenes(), ProgramFolder(), FontFolders()};
+}
+
 Picture Consola::LeerImagen(const std::string& operand) {
-  return Trabajo(
-      [&] { return operand == "-" ? Imagenes().ReadBytes(LeerEntrada(), "-") : Imagenes().Read(operand); });
+  return operand == "-" ? Imagenes().ReadBytes(LeerEntrada(), "-") : Imagenes().Read(operand);
 }
 
 Picture Consola::LeerImagenReducida(const std::string& operand, const std::function<Extent(Extent)>& size) {
-  return Trabajo([&] {
-    if (operand != "-") return Imagenes().ReadStretched(operand, size);
-    const Picture whole = LeerImagen(operand);
-    return Stretch(whole, size(whole.Size()));
-  });
+  if (operand != "-") return Imagenes().ReadStretched(operand, size);
+  const Picture whole = LeerImagen(operand);
+  return Stretch(whole, size(whole.Size()));
 }
 
 std::string Consola::LeerBytes(const std::string& operand) {
-  return Trabajo([&] { return operand == "-" ? LeerEntrada() : LeerArchivo(operand); });
+  return operand == "-" ? LeerEntrada() : LeerArchivo(operand);
 }
 
 void Consola::Escribir(std::string_view utf8) {
@@ -105,10 +91,6 @@ void Consola::EscribirTexto(std::string_view text) {
     if (text[i] != '\r' || text.substr(i, 2) != "\r\n") lines += text[i];
   if (isatty(STDOUT_FILENO) && !lines.ends_with('\n')) lines += '\n';
   Escribir(Utf8OfBytes(lines));
-}
-
-void Consola::EscribirArchivo(const std::string& file, std::string_view bytes) {
-  Trabajo([&] { pixmosa::EscribirArchivo(file, bytes); });
 }
 
 void Consola::Avisar(std::string_view sentence) {
@@ -128,10 +110,6 @@ void Consola::Progreso(std::string_view what, std::size_t n, std::size_t of) {
 int Consola::AnchoDeTerminal() const {
   winsize size{};
   return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : kColumnasSinTerminal;
-}
-
-std::string Consola::CarpetaDelPrograma() {
-  return ProgramFolder().string();
 }
 
 int ConvertirACarpeta(Consola& consola, const std::vector<std::string>& operands, const std::string& folder,
@@ -156,8 +134,8 @@ int ConvertirACarpeta(Consola& consola, const std::vector<std::string>& operands
     consola.Progreso("Imagen", i, operands.size());
     try {
       work(operands[i], files[i]);
-    } catch (const ErrorDeTrabajo& e) {
-      consola.Avisar(e.what());
+    } catch (const std::exception& e) {
+      consola.Avisar(FraseDe(e));
       status = 1;
     }
   }

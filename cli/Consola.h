@@ -8,8 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/PictureCodec.h"
-#include "platform/TextSurface.h"
+#include "programa/Programa.h"
 
 namespace pixmosa::cli {
 
@@ -24,13 +23,16 @@ class Consola {
   TextSurface& Superficie();
   PictureCodec& Imagenes();
 
-  // The picture of an operand; "-" is standard input. Throws ErrorDeTrabajo.
+  // A fresh state over those and the shipped files.
+  Programa NuevoPrograma();
+
+  // The picture of an operand; "-" is standard input. Throws PictureError or ErrorDeTrabajo.
   Picture LeerImagen(const std::string& operand);
 
   // Stretch(LeerImagen(operand), size(its size)), quicker where the format allows.
   Picture LeerImagenReducida(const std::string& operand, const std::function<Extent(Extent)>& size);
 
-  // The bytes of an operand; "-" is standard input. Throws ErrorDeTrabajo.
+  // The bytes of an operand; "-" is standard input. Throws FileError or ErrorDeTrabajo.
   std::string LeerBytes(const std::string& operand);
 
   // Writes to standard output as it stands. Throws ErrorDeTrabajo.
@@ -38,9 +40,6 @@ class Consola {
 
   // Produced text (8-bit code page, CR LF) as UTF-8 with LF line ends; a terminal gets its last line ended.
   void EscribirTexto(std::string_view text);
-
-  // Writes a file whole or not at all. Throws ErrorDeTrabajo.
-  void EscribirArchivo(const std::string& file, std::string_view bytes);
 
   // One line "pixmosa-cli: sentence" on standard error.
   void Avisar(std::string_view sentence);
@@ -50,9 +49,6 @@ class Consola {
 
   // Columns of the terminal on standard output, or 80.
   int AnchoDeTerminal() const;
-
-  // The folder with the files that ship with the program.
-  static std::string CarpetaDelPrograma();
 
  private:
   struct Servicios;

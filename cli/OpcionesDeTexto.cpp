@@ -1,6 +1,7 @@
 #include "cli/OpcionesDeTexto.h"
 
 #include "platform/qt/QtFont.h"
+#include "programa/Ajustes.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -42,16 +43,17 @@ std::vector<Opcion> OpcionesDeTexto() {
                 OpcionesDeTabla());
 }
 
-Conversion PrepararConversion(Consola& consola, const Argumentos& arguments) {
-  Conversion c;
-  c.ajustes.font = FuenteDe(consola, arguments);
-  c.ajustes.palette = arguments.Entero("--paleta", 0);
-  c.ajustes.luminosity = arguments.Entero("--luminosidad", 0);
-  c.ascii.CountedColour = arguments.Tiene("--negativo") ? kBlack : kWhite;
-  RebuildCharacterTables(c.ascii, c.ajustes, consola.Superficie());
-  c.ascii.AsciiColumns =
+Programa PrepararPrograma(Consola& consola, const Argumentos& arguments) {
+  Programa p = consola.NuevoPrograma();
+  p.ajustes.font = FuenteDe(consola, arguments);
+  p.ajustes.palette = arguments.Entero("--paleta", p.ajustes.palette);
+  p.ajustes.luminosity = arguments.Entero("--luminosidad", p.ajustes.luminosity);
+  p.ajustes.relleno = arguments.Tiene("--relleno");
+  p.basAscii.CountedColour = arguments.Tiene("--negativo") ? kBlack : kWhite;
+  Medir(p);
+  p.basAscii.AsciiColumns =
       arguments.Tiene("--columnas") ? arguments.Entero("--columnas", 0) : consola.AnchoDeTerminal();
-  return c;
+  return p;
 }
 
 }  // namespace pixmosa::cli

@@ -5,7 +5,6 @@
 
 #include "cli/Argumentos.h"
 #include "cli/Consola.h"
-#include "conversion/basAscii.h"
 
 namespace pixmosa::cli {
 
@@ -15,13 +14,9 @@ std::vector<Opcion> OpcionesDeTabla();
 // Those of the tables and --columnas, --luminosidad.
 std::vector<Opcion> OpcionesDeTexto();
 
-// The conversion as the options ask for it, with its tables built; AsciiColumns from --columnas or the
-// terminal.
-struct Conversion {
-  BasAscii ascii;
-  AsciiSettings ajustes;
-};
-Conversion PrepararConversion(Consola& consola, const Argumentos& arguments);
+// A program with the settings as the options ask for them, measured; AsciiColumns from --columnas or the
+// terminal. Throws ErrorDeTrabajo.
+Programa PrepararPrograma(Consola& consola, const Argumentos& arguments);
 
 // a followed by b.
 std::vector<Opcion> Juntar(std::vector<Opcion> a, const std::vector<Opcion>& b);

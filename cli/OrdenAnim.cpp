@@ -1,38 +1,33 @@
-#include "cli/OrdenAnim.h"
-
 #include <algorithm>
 #include <filesystem>
+#include <memory>
 
+#include "cli/LeerGif.h"
 #include "cli/Lista.h"
 #include "cli/OpcionesDeTexto.h"
-#include "cli/OrdenFotogramas.h"
-#include "platform/CodePage.h"
-#include "web/AnimArt.h"
-#include "web/basGIF.h"
+#include "cli/Ordenes.h"
+#include "programa/Animacion.h"
 
 namespace pixmosa::cli {
 namespace {
 
-// A series of pictures by number.
-struct Serie {
-  std::size_t cuantos;
-  std::function<Picture(std::size_t)> leer;  // throws PictureError
-};
-
-Serie SerieDe(Consola& consola, const std::string& operand) {
-  if (std::error_code ec; std::filesystem::is_directory(operand, ec)) {
-    const auto files = ImagenesDeCarpeta(operand);
-    return {files.size(), [&consola, files](std::size_t k) { return consola.Imagenes().Read(files[k]); }};
-  }
-  const std::string gif = LeerGif(consola, operand);
-  const GifCut cut = CutGif(gif);
-  return {cut.positions.size(), [&consola, gif, cut, operand](std::size_t k) {
-            return consola.Imagenes().ReadBytes(cut.FrameFile(gif, k), operand);
+// The pictures of the operand: a folder, or a GIF whose bytes the series keeps.
+Serie SerieDe(const Programa& p, Consola& consola, const std::string& operand) {
+  if (std::error_code ec; std::filesystem::is_directory(operand, ec)) return SerieDeCarpeta(p, operand);
+  auto gif = std::make_shared<const std::string>(LeerGif(consola, operand));
+  const GifCut cut = CutGif(*gif);
+  return {cut.positions.size(), [&codec = p.codec, gif, cut, operand](std::size_t k) {
+            return codec.ReadBytes(cut.FrameFile(*gif, k), operand);
           }};
 }
 
+// The frames of a series with these numbers, from 0.
+Serie Elegidos(const Serie& all, const std::vector<std::size_t>& numbers) {
+  return {numbers.size(), [all, numbers](std::size_t k) { return all.leer(numbers[k]); }};
+}
+
 // The chosen frames (0-based), ascending; all without the option.
-std::vector<std::size_t> Elegidos(const Argumentos& arguments, std::size_t count) {
+std::vector<std::size_t> Numeros(const Argumentos& arguments, std::size_t count) {
   std::vector<std::size_t> chosen;
   const auto text = arguments.Texto("--fotogramas");
   if (!text) {
@@ -54,20 +49,15 @@ std::vector<std::size_t> Elegidos(const Argumentos& arguments, std::size_t count
 int Hacer(Consola& consola, const Argumentos& arguments) {
   arguments.ExigirOperandos(1, 1, "el GIF o la carpeta");
   const std::string operand = arguments.Operandos()[0], file = arguments.Exigir("-o");
-  const Serie series = SerieDe(consola, operand);
-  if (series.cuantos == 0) throw ErrorDeTrabajo("No hay fotogramas en \"" + operand + "\".");
-  const std::vector<std::size_t> chosen = Elegidos(arguments, series.cuantos);
-  Conversion c = PrepararConversion(consola, arguments);
-  EscribirAnimArt(file, chosen.size(), BytesOfUtf8(c.ajustes.font.name), [&](std::size_t k) {
-    consola.Progreso("Fotograma", k, chosen.size());
-    try {
-      GenerateAscii(c.ascii, c.ajustes, series.leer(chosen[k]), kGrayscale);
-    } catch (const PictureError&) {
-      // A frame that cannot be read repeats the one before.
-    }
-    return EscaparTexto(c.ascii.ProducedText);
+  Programa p = PrepararPrograma(consola, arguments);
+  const Serie all = SerieDe(p, consola, operand);
+  if (all.cuantos == 0) throw ErrorDeTrabajo("No hay fotogramas en \"" + operand + "\".");
+  const Serie chosen = Elegidos(all, Numeros(arguments, all.cuantos));
+  EscribirAnimacion(p, chosen, file, [&](std::size_t k) {
+    consola.Progreso("Fotograma", k, chosen.cuantos);
+    return true;
   });
-  consola.Progreso("Fotograma", chosen.size(), chosen.size());
+  consola.Progreso("Fotograma", chosen.cuantos, chosen.cuantos);
   return 0;
 }
 

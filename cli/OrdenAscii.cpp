@@ -1,9 +1,10 @@
-#include "cli/OrdenAscii.h"
-
 #include <algorithm>
 
 #include "cli/OpcionesDeTexto.h"
+#include "cli/Ordenes.h"
 #include "conversion/TextoGuardado.h"
+#include "platform/AtomicFile.h"
+#include "programa/Generar.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -18,19 +19,24 @@ int MetodoDe(const Argumentos& arguments) {
 
 constexpr std::int64_t kMasCaracteres = 400'000'000;
 
-void Convertir(Consola& consola, Conversion& c, const std::string& operand, int method) {
-  const Picture resized = consola.LeerImagenReducida(operand, [&](Extent source) {
-    const Extent size = ResizedExtent(c.ascii, source, method);
-    if (std::int64_t{size.width} * size.height > kMasCaracteres)
+void Convertir(Consola& consola, Programa& p, const std::string& operand, int method) {
+  const auto bounded = [&](const std::function<Extent(Extent)>& size, Extent source) {
+    const Extent text = size(source);
+    if (std::int64_t{text.width} * text.height > kMasCaracteres)
       throw ErrorDeTrabajo("El texto de \"" + operand + "\" sería demasiado grande: " +
-                           std::to_string(size.width) + " x " + std::to_string(size.height) + " caracteres.");
-    return size;
-  });
-  ConvertResized(c.ascii, c.ajustes, resized, method);
+                           std::to_string(text.width) + " x " + std::to_string(text.height) + " caracteres.");
+    return text;
+  };
+  GenerarDe(
+      p,
+      [&](const std::function<Extent(Extent)>& size) {
+        return consola.LeerImagenReducida(operand, [&](Extent source) { return bounded(size, source); });
+      },
+      method);
 }
 
-std::string Guardado(const Conversion& c) {
-  return TextoGuardado(PanelFuente(c.ajustes.font), PanelTamaño(c.ajustes.font), c.ascii.ProducedText);
+std::string Guardado(const Programa& p) {
+  return TextoGuardado(p.ajustes.font, p.basAscii.ProducedText);
 }
 
 int Hacer(Consola& consola, const Argumentos& arguments) {
@@ -41,20 +47,19 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   if (pictures.size() > 1 && !folder) throw ErrorDeUso("varias imágenes necesitan la opción --carpeta");
 
   const int method = MetodoDe(arguments);
-  Conversion c = PrepararConversion(consola, arguments);
-  c.ajustes.relleno = arguments.Tiene("--relleno");
-  if (method == kAntiAlias) c.ascii.Palette3x2 = LoadPalette3x2(Consola::CarpetaDelPrograma());
+  Programa p = PrepararPrograma(consola, arguments);
+  if (method == kAntiAlias) CargarPaleta3x2(p);
   if (folder)
     return ConvertirACarpeta(consola, pictures, *folder, ".txt",
                              [&](const std::string& operand, const std::string& to) {
-                               Convertir(consola, c, operand, method);
-                               consola.EscribirArchivo(to, Guardado(c));
+                               Convertir(consola, p, operand, method);
+                               EscribirArchivo(to, Guardado(p));
                              });
-  Convertir(consola, c, pictures[0], method);
+  Convertir(consola, p, pictures[0], method);
   if (file) {
-    consola.EscribirArchivo(*file, Guardado(c));
+    EscribirArchivo(*file, Guardado(p));
   } else {
-    consola.EscribirTexto(c.ascii.ProducedText);
+    consola.EscribirTexto(p.basAscii.ProducedText);
   }
   return 0;
 }

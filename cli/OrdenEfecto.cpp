@@ -1,10 +1,10 @@
-#include "cli/OrdenEfecto.h"
-
 #include <climits>
 #include <filesystem>
 #include <new>
 
+#include "cli/Ordenes.h"
 #include "cli/Pasos.h"
+#include "platform/AtomicFile.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -56,13 +56,7 @@ void Transformar(Consola& consola, const Argumentos& arguments, const Pedido& or
   ImagenDeTrabajo image;
   image.Cargar(consola.LeerImagen(operand));
   for (const Paso& step : order.pasos) DarPaso(m, image, step);
-  std::string bytes;
-  try {
-    bytes = consola.Imagenes().Encode(image.picMain, format);
-  } catch (const PictureError& e) {
-    throw ErrorDeTrabajo(e.what());
-  }
-  consola.EscribirArchivo(file, bytes);
+  EscribirArchivo(file, consola.Imagenes().Encode(image.picMain, format));
 } catch (const std::bad_alloc&) {
   throw ErrorDeTrabajo("No hay memoria suficiente para transformar la imagen \"" + operand + "\".");
 }

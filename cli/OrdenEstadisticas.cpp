@@ -1,5 +1,4 @@
-#include "cli/OrdenEstadisticas.h"
-
+#include "cli/Ordenes.h"
 #include "platform/CodePage.h"
 #include "stats/Estadisticas.h"
 

@@ -1,18 +1,18 @@
-#include "cli/OrdenFotogramas.h"
-
 #include <filesystem>
 #include <fstream>
 
+#include "cli/LeerGif.h"
+#include "cli/Ordenes.h"
 #include "platform/AtomicFile.h"
 #include "web/basGIF.h"
 
 namespace pixmosa::cli {
 
-namespace {
-
 void ExigirGif(std::string_view start, const std::string& operand) {
   if (!start.starts_with("GIF8")) throw ErrorDeTrabajo("El archivo \"" + operand + "\" no es un GIF.");
 }
+
+namespace {
 
 std::string Principio(const std::string& file) {
   std::string start(4, '\0');

@@ -1,7 +1,6 @@
-#include "cli/OrdenFuentes.h"
-
 #include <filesystem>
 
+#include "cli/Ordenes.h"
 #include "figlet/Agregar.h"
 #include "figlet/Catalogo.h"
 #include "platform/CodePage.h"

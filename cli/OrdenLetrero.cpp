@@ -1,10 +1,10 @@
-#include "cli/OrdenLetrero.h"
-
 #include <filesystem>
 
+#include "cli/Ordenes.h"
 #include "conversion/TextoGuardado.h"
 #include "figlet/Catalogo.h"
 #include "figlet/basFigLet.h"
+#include "platform/AtomicFile.h"
 #include "platform/CodePage.h"
 #include "platform/ProgramFolder.h"
 
@@ -52,8 +52,8 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   if (failed) throw ErrorDeTrabajo("Error abriendo la fuente \"" + file.string() + "\".");
   const std::string banner = RenderBanner(font, text);
   if (const auto target = arguments.Texto("-o")) {
-    const Font shown;  // what the window would save: its header names the program's own font
-    consola.EscribirArchivo(*target, TextoGuardado(PanelFuente(shown), PanelTamaño(shown), banner));
+    // What the window would save: its header names the program's own font.
+    EscribirArchivo(*target, TextoGuardado(Font{}, banner));
   } else {
     consola.EscribirTexto(banner);
   }

@@ -1,8 +1,7 @@
-#include "cli/OrdenTabla.h"
-
 #include <charconv>
 
 #include "cli/OpcionesDeTexto.h"
+#include "cli/Ordenes.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -15,7 +14,7 @@ std::string Exacto(float v) {
 
 int Hacer(Consola& consola, const Argumentos& arguments) {
   arguments.ExigirOperandos(0, 0, "");
-  const BasAscii ascii = PrepararConversion(consola, arguments).ascii;
+  const BasAscii ascii = PrepararPrograma(consola, arguments).basAscii;
   std::string s =
       "celda\t" + std::to_string(ascii.CellWidth) + "\t" + std::to_string(ascii.CellHeight) + "\n";
   s += "minimo\t" + Exacto(ascii.BrightnessMin) + "\n";

@@ -1,9 +1,8 @@
-#include "cli/OrdenWeb.h"
-
 #include <array>
 #include <climits>
 
 #include "cli/Lista.h"
+#include "cli/Ordenes.h"
 #include "platform/AtomicFile.h"
 #include "platform/CodePage.h"
 #include "web/basWeb.h"

@@ -1,17 +1,10 @@
+#include "cli/Ordenes.h"
+
 #include <algorithm>
 #include <array>
 #include <string>
 
-#include "cli/Orden.h"
-#include "cli/OrdenAnim.h"
-#include "cli/OrdenAscii.h"
-#include "cli/OrdenEfecto.h"
-#include "cli/OrdenEstadisticas.h"
-#include "cli/OrdenFotogramas.h"
-#include "cli/OrdenFuentes.h"
-#include "cli/OrdenLetrero.h"
-#include "cli/OrdenTabla.h"
-#include "cli/OrdenWeb.h"
+#include "platform/Errores.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -66,7 +59,7 @@ int Ejecutar(Consola& consola, std::span<const std::string> words) {
     consola.Avisar(Frase(e.what()));
     return kUso;
   } catch (const std::exception& e) {
-    consola.Avisar(Frase(e.what()));
+    consola.Avisar(Frase(FraseDe(e)));
     return kFallo;
   }
 }

@@ -110,9 +110,8 @@ void DarPaso(MFiltros& m, ImagenDeTrabajo& image, const Paso& step) {
     Girar(image, *step.giro);
     return;
   }
-  SinVentana window;
   NoProgress progress;
-  ApplyEffect(m, image, window, step.efecto, BitmapDe(image), step.argumento, progress, false);
+  ApplyEffect(m, image, step.efecto, image, step.argumento, progress, false);
 }
 
 std::string AyudaDePasos() {

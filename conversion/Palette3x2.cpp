@@ -23,7 +23,7 @@ std::optional<std::size_t> PatternOf(std::string_view key) {
 }  // namespace
 
 Palette3x2Error::Palette3x2Error()
-    : std::runtime_error(
+    : ErrorDelPrograma(
           "No se ha encontrado el archivo con la paleta 3x2. Restaurelo, o instale nuevamente la "
           "aplicación") {}
 

@@ -4,13 +4,14 @@
 #include <array>
 #include <filesystem>
 #include <optional>
-#include <stdexcept>
 #include <string_view>
+
+#include "platform/Errores.h"
 
 namespace pixmosa {
 
 // The only failure of the pattern file, whatever its cause; what() is the text for the user, in UTF-8.
-class Palette3x2Error : public std::runtime_error {
+class Palette3x2Error : public ErrorDelPrograma {
  public:
   Palette3x2Error();
 };

@@ -12,12 +12,9 @@ std::string PanelTamaño(const Font& font) {
   return "Tamaño: " + std::to_string(font.points);
 }
 
-std::string TextoGuardado(std::string_view fontPanel, std::string_view sizePanel, std::string_view text) {
-  std::string bytes = "Ascii Art generado por Pixmosa. ";
-  bytes += BytesOfUtf8(fontPanel);
-  bytes += ' ';
-  bytes += BytesOfUtf8(sizePanel);
-  bytes += "\r\n";
+std::string TextoGuardado(const Font& font, std::string_view text) {
+  std::string bytes =
+      "Ascii Art generado por Pixmosa. " + BytesOfUtf8(PanelFuente(font) + " " + PanelTamaño(font)) + "\r\n";
   bytes += text;
   bytes += "\r\n";
   return bytes;

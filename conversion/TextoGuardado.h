@@ -12,8 +12,7 @@ namespace pixmosa {
 std::string PanelFuente(const Font& font);
 std::string PanelTamaño(const Font& font);
 
-// The file's bytes: a header line with the two panels' texts (UTF-8), CR LF, the text (8-bit code page), CR
-// LF.
-std::string TextoGuardado(std::string_view fontPanel, std::string_view sizePanel, std::string_view text);
+// The file's bytes: a header line that names the font, CR LF, the text (8-bit code page), CR LF.
+std::string TextoGuardado(const Font& font, std::string_view text);
 
 }  // namespace pixmosa

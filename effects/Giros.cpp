@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "platform/Rounding.h"
 
@@ -87,8 +88,10 @@ std::span<const Giro> Giros() {
 
 void Girar(ImagenDeTrabajo& image, const Giro& giro) {
   if (image.picMain.IsEmpty()) return;
+  Picture turned = image.picMain;
+  giro.hacer(turned);
   image.SaveUndo();
-  giro.hacer(image.picMain);
+  image.picMain = std::move(turned);
 }
 
 }  // namespace pixmosa

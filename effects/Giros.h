@@ -28,7 +28,8 @@ struct Giro {
 
 std::span<const Giro> Giros();
 
-// The menu's handler: keeps the undo copy, then turns the working picture. Does nothing without a picture.
+// Keeps the undo copy and turns the working picture. Does nothing without a picture. Throws std::bad_alloc,
+// leaving both as they were.
 void Girar(ImagenDeTrabajo& image, const Giro& giro);
 
 }  // namespace pixmosa

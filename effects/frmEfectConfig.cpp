@@ -1,7 +1,5 @@
 #include "effects/frmEfectConfig.h"
 
-#include <new>
-
 #include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
@@ -13,6 +11,7 @@
 
 #include "effects/basFiltrosConfig.h"
 #include "platform/Rounding.h"
+#include "platform/qt/Intentar.h"
 #include "platform/qt/Menus.h"
 #include "platform/qt/Named.h"
 #include "platform/qt/QtPicture.h"
@@ -53,12 +52,10 @@ void ImagenEstirable::paintEvent(QPaintEvent*) {
                     image.scaled(thinned).scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
-frmEfectConfig::frmEfectConfig(MFiltros& m, ImagenDeTrabajo& image, VentanaDeEfectos& window,
-                               Dialogs& dialogs, QWidget* parent)
+frmEfectConfig::frmEfectConfig(MFiltros& m, ImagenDeTrabajo& image, Dialogs& dialogs, QWidget* parent)
     : QDialog(parent),
       m_(m),
       image_(image),
-      window_(window),
       dialogs_(dialogs),
       Image1_(named<ImagenEstirable>("Image1")),
       sldEfecto_(named<QSlider>("sldEfecto", Qt::Horizontal)),
@@ -123,10 +120,22 @@ void frmEfectConfig::Componer() {
   grid->addLayout(buttons, 6, 0, 1, 2);
 }
 
+void frmEfectConfig::Abrir(int effect) {
+  if (!isVisible()) Mostrar();
+  if (m_.CurrentDialogEffect != effect) CargarEfecto(effect);
+}
+
+void frmEfectConfig::SeguirImagen() {
+  if (!isVisible()) return;
+  if (probado_) {
+    CambiarValor();
+  } else {
+    Picture1_.Asignar(image_.picMain);
+    FitPreview();
+  }
+}
+
 void frmEfectConfig::Mostrar() {
-  if (isVisible()) return;
-  const QSignalBlocker quiet(sldEfecto_);
-  sldEfecto_->setRange(0, 0);
   Image1_->setFixedSize(kLado, kLado);
   Picture1_.Asignar(image_.picMain);
   FitPreview();
@@ -136,9 +145,11 @@ void frmEfectConfig::Mostrar() {
 
 void frmEfectConfig::CargarEfecto(int effect) {
   m_.CurrentDialogEffect = effect;
+  probado_ = false;
   const EffectConfig& config = *Efecto(effect);
   {
     const QSignalBlocker quiet(sldEfecto_);
+    sldEfecto_->setRange(0, 0);  // every effect begins as near to 0 as its range lets it
     sldEfecto_->setRange(config.Min, config.Max);
     sldEfecto_->setPageStep(std::max(1, (config.Max - config.Min) / 10));
   }
@@ -162,7 +173,7 @@ void frmEfectConfig::done(int result) {
 
 void frmEfectConfig::CambiarValor() {
   lblValor_->setText(QString::number(sldEfecto_->value()));
-  pending_ = true;
+  probado_ = pending_ = true;
   Previsualizar();
 }
 
@@ -185,12 +196,13 @@ void frmEfectConfig::UnaVista() {
   Picture1_.Asignar(image_.picMain);
   prgBar1_->show();
   const int effect = m_.CurrentDialogEffect;
-  try {
-    ApplyEffect(m_, image_, window_, effect, BitmapDe(Picture1_),
-                ArgumentoDelDeslizador(effect, sldEfecto_->value()), progress_, true);
-  } catch (const std::bad_alloc&) {
-    dialogs_.Fail("No hay memoria suficiente para aplicar el efecto a esta imagen.", kTitulo);
-  }
+  Intentar(
+      dialogs_,
+      [&] {
+        ApplyEffect(m_, image_, effect, Picture1_, ArgumentoDelDeslizador(effect, sldEfecto_->value()),
+                    progress_, true);
+      },
+      kTitulo);
   prgBar1_->hide();
   FitPreview();
 }
@@ -201,7 +213,7 @@ void frmEfectConfig::Aplicar() {
     return;
   }
   image_.Asignar(Picture1_.picMain);
-  window_.RefrescarPicMain();
+  emit Aplicado();
   accept();
 }
 

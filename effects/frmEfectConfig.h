@@ -37,18 +37,23 @@ class frmEfectConfig final : public QDialog {
   Q_OBJECT
 
  public:
-  frmEfectConfig(MFiltros& m, ImagenDeTrabajo& image, VentanaDeEfectos& window, Dialogs& dialogs,
-                 QWidget* parent);
+  frmEfectConfig(MFiltros& m, ImagenDeTrabajo& image, Dialogs& dialogs, QWidget* parent);
 
-  // Opens the dialog anew where it is closed.
-  void Mostrar();
+  // Opens the dialog where it is closed, and loads the effect (a configurable one) unless it holds it
+  // already.
+  void Abrir(int effect);
 
-  // The range of an effect (a configurable one), and the picture as it is now.
-  void CargarEfecto(int effect);
+  // The working picture is another one: the preview is made of that.
+  void SeguirImagen();
 
   void done(int result) override;
 
+ signals:
+  void Aplicado();  // the working picture is the preview now
+
  private:
+  void Mostrar();
+  void CargarEfecto(int effect);
   void Componer();
   void CambiarValor();
   void Previsualizar();
@@ -58,7 +63,6 @@ class frmEfectConfig final : public QDialog {
 
   MFiltros& m_;
   ImagenDeTrabajo& image_;
-  VentanaDeEfectos& window_;
   Dialogs& dialogs_;
   ImagenDeTrabajo Picture1_;  // the working copy that previews are computed on
   ImagenEstirable* Image1_;
@@ -68,7 +72,8 @@ class frmEfectConfig final : public QDialog {
   QLabel* lblValor_;
   QProgressBar* prgBar1_;
   QtProgress progress_;
-  QTimer retry_;  // while another effect keeps the dispatcher busy
+  QTimer retry_;          // while another effect keeps the dispatcher busy
+  bool probado_ = false;  // the slider has been moved since the effect was loaded: the preview shows it
   bool running_ = false, pending_ = false, applying_ = false;
 };
 

@@ -7,12 +7,19 @@
 namespace pixmosa {
 namespace {
 
-// Marks the dispatcher as busy, also past an exception.
+// Marks the dispatcher as busy with a picture, also past an exception.
 class Ocupado {
  public:
-  Ocupado(MFiltros& m, Progress& progress) : m_(m), progress_(progress) { m_.EffectBusy = true; }
+  Ocupado(MFiltros& m, const ImagenDeTrabajo& bitmap, Progress& progress) : m_(m), progress_(progress) {
+    m_.EffectBusy = true;
+    m_.enCurso = &bitmap;
+    m_.asignacionesAlEmpezar = bitmap.Asignaciones;
+    m_.girosEnEspera.clear();
+    progress_.Show();
+  }
   ~Ocupado() {
     m_.EffectBusy = false;
+    m_.enCurso = nullptr;
     progress_.Hide();
   }
   Ocupado(const Ocupado&) = delete;
@@ -30,39 +37,51 @@ Picture BloqueParaElResultado(ImagenDeTrabajo& image, Extent size) {
   return {size.width, size.height};
 }
 
-void Procesar(MFiltros& m, ImagenDeTrabajo& image, const EffectConfig& effect, Bitmap bitmap,
+bool FueReemplazada(const MFiltros& m, const ImagenDeTrabajo& bitmap) {
+  return bitmap.Asignaciones != m.asignacionesAlEmpezar;
+}
+
+void Procesar(MFiltros& m, ImagenDeTrabajo& image, const EffectConfig& effect, ImagenDeTrabajo& bitmap,
               std::int32_t argument, Progress& progress) {
-  const Picture source = bitmap.pixels;
-  const unsigned assigned = bitmap.asignaciones;
-  progress.Show();
+  const Ocupado busy(m, bitmap, progress);
+  const Picture source = bitmap.picMain;
   Picture result = BloqueParaElResultado(image, source.Size());
   image.SaveUndo();
   PixelBuffers buffers{source.Width(), source.Height(),   source.Pixels(), result.Writable(),
                        progress,       m.ProgressPercent, m.random};
   effect.worker(buffers, argument);
-  if (bitmap.asignaciones == assigned) bitmap.pixels = std::move(result);
+  if (FueReemplazada(m, bitmap))
+    m.girosEnEspera.clear();  // they were meant for what is gone
+  else
+    bitmap.picMain = std::move(result);
 }
 
 }  // namespace
 
-void ApplyEffect(MFiltros& m, ImagenDeTrabajo& image, VentanaDeEfectos& window, int effect, Bitmap bitmap,
+bool ApplyEffect(MFiltros& m, ImagenDeTrabajo& image, int effect, ImagenDeTrabajo& bitmap,
                  std::int32_t argument, Progress& progress, bool askConfig) {
-  if (m.EffectBusy || bitmap.pixels.IsEmpty()) return;
+  if (m.EffectBusy || bitmap.picMain.IsEmpty()) return false;
   const EffectConfig* config = Efecto(effect);
-  if (askConfig && config && config->Configurable) {
-    window.MostrarDialogo();
-    if (m.CurrentDialogEffect != effect) {
-      window.CargarEfecto(effect);
-      return;
-    }
+  if (askConfig && config && config->Configurable && m.AbrirDialogo) {
+    const bool held = m.CurrentDialogEffect == effect;
+    m.AbrirDialogo(effect);
+    if (!held) return false;
   }
   if (config) {
-    const Ocupado busy(m, progress);
     Procesar(m, image, *config, bitmap, argument, progress);
   } else {
     image.SaveUndo();
   }
-  window.RefrescarPicMain();
+  for (const Giro* giro : std::exchange(m.girosEnEspera, {})) Girar(image, *giro);
+  return true;
+}
+
+void PedirGiro(MFiltros& m, ImagenDeTrabajo& image, const Giro& giro) {
+  if (m.enCurso == &image && !FueReemplazada(m, image)) {
+    m.girosEnEspera.push_back(&giro);
+  } else {
+    Girar(image, giro);
+  }
 }
 
 }  // namespace pixmosa

@@ -3,17 +3,18 @@
 #pragma once
 
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "platform/Errores.h"
+
 namespace pixmosa {
 
 // what() is a Spanish sentence in UTF-8 that names the file, the line and the fault.
-class FuenteRechazada : public std::runtime_error {
+class FuenteRechazada : public ErrorDelPrograma {
  public:
-  using std::runtime_error::runtime_error;
+  using ErrorDelPrograma::ErrorDelPrograma;
 };
 
 // The font with CR LF, "$" as hard blank, end marks "@" and "@@", and 224 blocks in code page order;

@@ -4,16 +4,17 @@
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <string_view>
+
+#include "platform/Errores.h"
 
 namespace pixmosa {
 
 // what() is a Spanish sentence in UTF-8 that names the file and the reason.
-class FileError : public std::runtime_error {
+class FileError : public ErrorDelPrograma {
  public:
-  using std::runtime_error::runtime_error;
+  using ErrorDelPrograma::ErrorDelPrograma;
 };
 
 // Writes beside the place and renames in Commit(); without Commit the earlier file of that name stays as it

@@ -3,17 +3,17 @@
 
 #include <filesystem>
 #include <functional>
-#include <stdexcept>
 #include <string>
 
+#include "platform/Errores.h"
 #include "platform/Picture.h"
 
 namespace pixmosa {
 
 // what() is a Spanish sentence in UTF-8 that names the file and what is wrong with it.
-class PictureError : public std::runtime_error {
+class PictureError : public ErrorDelPrograma {
  public:
-  using std::runtime_error::runtime_error;
+  using ErrorDelPrograma::ErrorDelPrograma;
 };
 
 class PictureCodec {

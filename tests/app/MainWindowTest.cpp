@@ -76,13 +76,13 @@ void MainWindowTest::PlayWithoutPictureAsksFirst() {
   QCOMPARE(m.dialogs.log, Log{"Ask||Antes debe cargar una imagen\r\n¿Desea cargarla ahora?"});
   m.Trigger("Play");
   QCOMPARE(m.dialogs.log.back(), kOpen);
-  QVERIFY(!m.window.HayImagen());
+  QVERIFY(!HayImagen(m.program));
 }
 
 void MainWindowTest::PlaysALoadedPicture() {
   test::MainWindow m;
   m.Load(Picture::Filled(40, 30, kWhite));
-  QVERIFY(m.window.HayImagen());
+  QVERIFY(HayImagen(m.program));
   m.Trigger("Play");
   const BasAscii& ascii = m.program.basAscii;
   const auto columns = static_cast<std::size_t>(ascii.AsciiColumns);
@@ -161,7 +161,7 @@ void MainWindowTest::SavesTheEditedTextAndCopiesTheGenerated() {
   m.dialogs.paths.clear();
   m.Load(Grays({{0, 255}}));
   m.Trigger("Play");
-  QTest::keyClicks(&m.window.areaDeTexto(), "hola");
+  QTest::keyClicks(&m.Area(), "hola");
   QVERIFY(m.Text().starts_with("hola"));
   m.dialogs.paths = {file};
   m.dialogs.log.clear();
@@ -178,7 +178,7 @@ void MainWindowTest::SavesTheEditedTextAndCopiesTheGenerated() {
 
 void MainWindowTest::SaveSaysWhatIsWrong() {
   test::MainWindow m;
-  m.window.areaDeTexto().PonerTexto("x");
+  m.Area().PonerTexto("x");
   m.dialogs.paths = {"/dev/full", ""};
   m.Trigger("Guardar");
   QCOMPARE(m.dialogs.log.back(),
@@ -290,7 +290,7 @@ void MainWindowTest::OtherWindowsOpen() {
 
 void MainWindowTest::EditorSendsItsDrawingBack() {
   test::MainWindow m;
-  m.window.areaDeTexto().PonerTexto("hola");
+  m.Area().PonerTexto("hola");
   m.Trigger("mnuEditor");
   auto& editor = Find<frmEditor>(m.window, "frmEditor");
   QVERIFY(editor.isVisible());

@@ -9,8 +9,8 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "app/Modos.h"
 #include "app/Muestra.h"
+#include "programa/Modos.h"
 #include "tests/support/DrawnPicture.h"
 #include "tests/support/MainWindow.h"
 
@@ -38,17 +38,23 @@ struct Loaded : test::MainWindow {
   // What a method makes of the picture with the controls as they are.
   std::string Expected(int method) {
     BasAscii ascii = program.basAscii;
-    GenerateAscii(ascii, program.ajustes, window.Imagen(), method);
+    GenerateAscii(ascii, program.ajustes, program.imagen.picMain, method);
     return ascii.ProducedText;
   }
 
   // Does something to a control and lets the window follow.
   template <typename Do>
   void Do_(Do work) {
-    window.areaDeTexto().PonerTexto(kStale);
+    Area().PonerTexto(kStale);
     work();
     QCoreApplication::processEvents();
     QTest::qWait(1);
+  }
+
+  // By choosing again the palette that is chosen.
+  void Regenerate() {
+    emit Find<QComboBox>(window, "cboPaletas").activated(0);
+    QCoreApplication::processEvents();
   }
 
   bool Shown(const char* name) { return Find<QWidget>(window, name).isVisible(); }
@@ -73,7 +79,6 @@ class ModesTest : public QObject {
   void BlackAndWhiteButtonChangesThePictureAtOnce();
   void GeneratingKeepsThePlaceAndTheAnimationNeedsNoPreview();
   void SettingsAreWritten();
-  void StartEndsWithoutThePatternFile();
 };
 
 void ModesTest::EachModeShowsItsGroups() {
@@ -95,12 +100,10 @@ void ModesTest::EachModeShowsItsGroups() {
     m.Choose(r.mode);
     QCOMPARE(Find<QLabel>(m.window, "lblModo").text(),
              QString::fromUtf8(kModos[static_cast<std::size_t>(r.mode)]));
-    QCOMPARE(m.window.IndiceDelModo(), r.mode);
     if (r.mode == 3) continue;  // the banner's own panel stands in front; the groups stay as they were
     for (std::size_t i = 0; i < 7; ++i)
       QVERIFY2(m.Shown(groups[i]) == (r.shown[i] == 'x'), (std::to_string(r.mode) + " " + groups[i]).c_str());
   }
-  QCOMPARE(IndiceDeModo("otra cosa"), 0);
 }
 
 void ModesTest::PlayRunsTheModesMethod() {
@@ -184,7 +187,7 @@ void ModesTest::LabelsSetTheirSliders() {
 
 void ModesTest::NothingRegeneratesWithoutAPicture() {
   test::MainWindow m;
-  m.window.areaDeTexto().PonerTexto(kStale);
+  m.Area().PonerTexto(kStale);
   Find<QComboBox>(m.window, "cboPaletas").setCurrentIndex(2);
   Find<QCheckBox>(m.window, "chkAsciiNegativo").click();
   Find<QSlider>(m.window, "sldLuminosidad").setValue(10);
@@ -198,7 +201,7 @@ void ModesTest::DraggingRunsOnceWithTheLastValue() {
   Loaded m;
   auto& light = Find<QSlider>(m.window, "sldLuminosidad");
   int changes = 0;
-  connect(&m.window.areaDeTexto(), &QPlainTextEdit::textChanged, this, [&] { ++changes; });
+  connect(&m.Area(), &QPlainTextEdit::textChanged, this, [&] { ++changes; });
   for (int v = 1; v <= 50; ++v) light.setValue(v);
   QTest::qWait(5);
   QCOMPARE(changes, 1);
@@ -210,11 +213,11 @@ void ModesTest::SwatchesColourTheText() {
   m.dialogs.colours = {kNoColour, Rgb(1, 2, 3), Rgb(200, 100, 50)};
   auto& back = Find<QPushButton>(m.window, "lblAsciiBackcolor");
   back.click();
-  QCOMPARE(m.window.areaDeTexto().palette().color(QPalette::Base), QColor(Qt::white));
+  QCOMPARE(m.Area().palette().color(QPalette::Base), QColor(Qt::white));
   back.click();
   Find<QPushButton>(m.window, "lblAsciiForeColor").click();
-  QCOMPARE(m.window.areaDeTexto().palette().color(QPalette::Base), QColor(1, 2, 3));
-  QCOMPARE(m.window.areaDeTexto().palette().color(QPalette::Text), QColor(200, 100, 50));
+  QCOMPARE(m.Area().palette().color(QPalette::Base), QColor(1, 2, 3));
+  QCOMPARE(m.Area().palette().color(QPalette::Text), QColor(200, 100, 50));
   QCOMPARE(m.dialogs.log,
            (std::vector<std::string>{"ChooseColour|16777215", "ChooseColour|16777215", "ChooseColour|0"}));
 }
@@ -252,7 +255,7 @@ void ModesTest::BlackAndWhiteButtonChangesThePictureAtOnce() {
   auto& button = Find<QPushButton>(m.window, "cmdBN");
   button.click();  // without a picture: nothing
   m.Load(test::Grays({{0, 149, 150, 255}}));
-  m.window.areaDeTexto().PonerTexto(kStale);
+  m.Area().PonerTexto(kStale);
   button.click();
   QCOMPARE(test::Levels(m.program.imagen.picMain), (std::vector<std::vector<int>>{{0, 0, 255, 255}}));
   QCOMPARE(test::Levels(m.program.imagen.picUndo), (std::vector<std::vector<int>>{{0, 149, 150, 255}}));
@@ -264,18 +267,18 @@ void ModesTest::GeneratingKeepsThePlaceAndTheAnimationNeedsNoPreview() {
   Loaded m;
   Find<QSlider>(m.window, "sldTamaño").setValue(198);
   m.Trigger("Play");
-  m.window.areaDeTexto().verticalScrollBar()->setValue(20);
-  m.window.areaDeTexto().horizontalScrollBar()->setValue(30);
+  m.Area().verticalScrollBar()->setValue(20);
+  m.Area().horizontalScrollBar()->setValue(30);
   m.Trigger("Play");
-  QCOMPARE(m.window.areaDeTexto().verticalScrollBar()->value(), 20);
-  QCOMPARE(m.window.areaDeTexto().horizontalScrollBar()->value(), 30);
+  QCOMPARE(m.Area().verticalScrollBar()->value(), 20);
+  QCOMPARE(m.Area().horizontalScrollBar()->value(), 30);
 
   Find<QCheckBox>(m.window, "chkAsciiPrev").setChecked(true);
   Find<QCheckBox>(m.window, "chkAnimArt").setChecked(true);
-  m.window.GenerateAscii(kGrayscale);
+  m.Regenerate();
   QVERIFY(!m.window.findChild<QWidget*>("frmPreview"));
   Find<QCheckBox>(m.window, "chkAnimArt").setChecked(false);
-  m.window.GenerateAscii(kGrayscale);
+  m.Regenerate();
   QVERIFY(m.window.findChild<QWidget*>("frmPreview"));
 }
 
@@ -298,16 +301,6 @@ void ModesTest::SettingsAreWritten() {
   m.dialogs.log.clear();
   m.Trigger("mnuGrabarIni");
   QVERIFY2(m.dialogs.log.empty(), "a folder that cannot be written is silent");
-}
-
-void ModesTest::StartEndsWithoutThePatternFile() {
-  test::MainWindow m;
-  QVERIFY(m.dialogs.log.empty());
-  m.program.carpeta = m.folder.Path();
-  QVERIFY(!CargarPaleta3x2(m.program));
-  QCOMPARE(m.dialogs.log,
-           std::vector<std::string>{"Fail||No se ha encontrado el archivo con la paleta 3x2. Restaurelo, o "
-                                    "instale nuevamente la aplicación"});
 }
 
 QTEST_MAIN(ModesTest)

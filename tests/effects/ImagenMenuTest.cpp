@@ -94,8 +94,8 @@ class ImagenMenuTest : public QObject {
     QCOMPARE(w.Now(), (Rows{{245, 235, 225}, {215, 205, 195}}));
     w.Trigger("mnuHFlip");
     QCOMPARE(w.Now(), (Rows{{225, 235, 245}, {195, 205, 215}}));
-    w.window.areaDeTexto().setFocus();
-    QTest::keyClick(&w.window.areaDeTexto(), Qt::Key_Z, Qt::ControlModifier);
+    w.Area().setFocus();
+    QTest::keyClick(&w.Area(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(w.Now(), (Rows{{245, 235, 225}, {215, 205, 195}}));
     w.Trigger("mnuNegativo");
     w.Trigger("mnuImageReload");
@@ -110,9 +110,9 @@ class ImagenMenuTest : public QObject {
   void textKeepsItsOwnUndo() {
     EffectWindow w;
     w.Trigger("mnuNegativo");
-    w.window.areaDeTexto().setFocus();
-    QTest::keyClicks(&w.window.areaDeTexto(), "abc");
-    QTest::keyClick(&w.window.areaDeTexto(), Qt::Key_Z, Qt::ControlModifier);
+    w.Area().setFocus();
+    QTest::keyClicks(&w.Area(), "abc");
+    QTest::keyClick(&w.Area(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(w.Text(), std::string());
     QVERIFY(w.Now() != kLoaded);
   }

@@ -6,7 +6,7 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
-#include "app/Modos.h"
+#include "programa/Modos.h"
 #include "figlet/frmFiglet.h"
 #include "tests/support/FigletFont.h"
 #include "tests/support/MainWindow.h"
@@ -32,12 +32,13 @@ struct Fonts {
 struct Window : test::MainWindow {
   explicit Window(const Fonts& fonts) {
     program.carpetasDeFuentes = {fonts.folder.Path() / "Fonts"};
-    second = std::make_unique<frmMain>(program);
+    second = std::make_unique<frmMain>(program, Escritorio{dialogs, shell, registry});
     second->show();
   }
   std::unique_ptr<frmMain> second;  // a window that starts with these fonts
   frmMain& Main() { return *second; }
-  std::string Banner() { return Main().areaDeTexto().Texto(); }
+  AreaDeTexto& Area() { return Find<AreaDeTexto>(Main(), "txtAscii"); }
+  std::string Banner() { return Area().Texto(); }
   void Choose(int mode) { Find<QAction>(Main(), kModos[static_cast<std::size_t>(mode)]).trigger(); }
 };
 
@@ -63,7 +64,7 @@ void FrmFigletTest::FirstShowingLoadsTheFirstFont() {
   QVERIFY(Find<frmFiglet>(m.Main(), "frmFiglet").isVisible());
   const std::string banner = "P1i1x1m1o1s1a1\r\nP2i2x2m2o2s2a2\r\n\r\n\r\n";
   QCOMPARE(m.Banner(), banner);
-  m.Main().areaDeTexto().PonerTexto("como estaba");
+  m.Area().PonerTexto("como estaba");
   m.Choose(kModoGrises);
   QVERIFY(!Find<frmFiglet>(m.Main(), "frmFiglet").isVisible());
   m.Choose(kModoTexto);
@@ -130,7 +131,7 @@ void FrmFigletTest::InformationAndAlignment() {
   for (const auto& [key, alignment] :
        {std::pair{"Centrado", Qt::AlignHCenter}, {"Derecha", Qt::AlignRight}, {"Izquierda", Qt::AlignLeft}}) {
     Find<QAction>(m.Main(), key).trigger();
-    for (auto* area : {&m.Main().areaDeTexto(), &Find<AreaDeTexto>(m.Main(), "txtFigText")})
+    for (auto* area : {&m.Area(), &Find<AreaDeTexto>(m.Main(), "txtFigText")})
       QVERIFY(area->document()->defaultTextOption().alignment().testFlag(alignment));
     QCOMPARE(m.Banner(), banner);
   }

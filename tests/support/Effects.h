@@ -29,8 +29,7 @@ inline Picture Applied(int effect, std::int32_t argument, const Picture& picture
   m.random.Seed(1);
   ImagenDeTrabajo image;
   image.Cargar(picture);
-  SinVentana window;
-  ApplyEffect(m, image, window, effect, BitmapDe(image), argument, progress, false);
+  ApplyEffect(m, image, effect, image, argument, progress, false);
   return image.picMain;
 }
 

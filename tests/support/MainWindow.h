@@ -12,6 +12,7 @@
 #include "platform/qt/QtPicture.h"
 #include "platform/qt/QtPictureCodec.h"
 #include "platform/qt/QtTextSurface.h"
+#include "programa/Generar.h"
 #include "tests/support/FakeRegistry.h"
 #include "tests/support/Find.h"
 #include "tests/support/RecordingDialogs.h"
@@ -27,8 +28,8 @@ struct MainWindow {
   RecordingDialogs dialogs;
   RecordingShell shell;
   FakeRegistry registry;
-  Programa program{{surface, pictures, dialogs, shell, registry}, ProgramFolder()};
-  frmMain window{Ready(program)};
+  Programa program{surface, pictures, ProgramFolder()};
+  frmMain window{Ready(program), {dialogs, shell, registry}};
 
   MainWindow() {
     window.show();
@@ -59,7 +60,8 @@ struct MainWindow {
     return p;
   }
 
-  std::string Text() { return window.areaDeTexto().Texto(); }
+  AreaDeTexto& Area() { return Find<AreaDeTexto>(window, "txtAscii"); }
+  std::string Text() { return Area().Texto(); }
 };
 
 }  // namespace pixmosa::test

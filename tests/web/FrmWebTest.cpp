@@ -9,7 +9,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "app/Modos.h"
+#include "programa/Modos.h"
 #include "tests/support/DrawnPicture.h"
 #include "tests/support/Gif.h"
 #include "tests/support/MainWindow.h"
@@ -127,7 +127,7 @@ void FrmWebTest::AnimationFromAGif() {
   QCOMPARE(Count(page, "<div id=\"text"), 2U);
   QVERIFY(page.find("<div id=\"text2\">") < page.find("</body>"));
   QVERIFY(page.find("face=Lucida Console; Size = 1 > \r\n") != std::string::npos);
-  QCOMPARE(m.window.Imagen().ColourAt(0, 0), kWhite);  // the last frame
+  QCOMPARE(m.program.imagen.picMain.ColourAt(0, 0), kWhite);  // the last frame
   QVERIFY(page.ends_with(m.Text() + "\r\n  </font></pre>\r\n </div>\r\n</body>\r\n</html>\r\n"));
 
   m.dialogs.log.clear();

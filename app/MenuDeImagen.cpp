@@ -1,0 +1,119 @@
+#include "app/MenuDeImagen.h"
+
+#include <vector>
+
+#include <QKeyEvent>
+#include <QPlainTextEdit>
+
+#include "effects/Giros.h"
+#include "effects/basFiltrosConfig.h"
+#include "effects/frmEfectConfig.h"
+#include "platform/qt/Intentar.h"
+#include "platform/qt/Menus.h"
+#include "platform/qt/QtText.h"
+
+namespace pixmosa {
+namespace {
+
+constexpr int kMetodo1 = 18;
+
+}  // namespace
+
+MenuDeImagen::MenuDeImagen(Programa& program, Progress& progress, Dialogs& dialogs, QWidget* parent)
+    : QObject(parent),
+      program_(program),
+      progress_(progress),
+      dialogs_(dialogs),
+      window_(parent),
+      menu_(new QMenu(Q(kMenuImagen), parent)) {
+  program_.mFiltros.AbrirDialogo = [this](int effect) { AbrirDialogo(effect); };
+  menu_->setObjectName("mnuImagen");
+  std::vector<QMenu*> open = {menu_};
+  for (const EntradaDeImagen& entry : MenuImagen()) {
+    open.resize(static_cast<std::size_t>(entry.nivel) + 1);
+    QMenu* parentMenu = open.back();
+    if (entry.accion == Accion::Separador) {
+      parentMenu->addSeparator();
+    } else if (entry.accion == Accion::Submenu) {
+      open.push_back(parentMenu->addMenu(Q(entry.caption)));
+      open.back()->setObjectName(entry.control);
+    } else {
+      const char* icon = entry.accion == Accion::Deshacer ? "edit-undo" : nullptr;
+      QAction* action =
+          AccionDe({entry.control, entry.caption, icon, *entry.atajo ? entry.atajo : nullptr}, parentMenu);
+      parentMenu->addAction(action);
+      connect(action, &QAction::triggered, this, Con(dialogs_, [this, &entry](bool) { Hacer(entry); }));
+    }
+  }
+}
+
+MenuDeImagen::~MenuDeImagen() {
+  program_.mFiltros.AbrirDialogo = nullptr;
+}
+
+void MenuDeImagen::Hacer(const EntradaDeImagen& entry) {
+  switch (entry.accion) {
+    case Accion::Efecto:
+      Aplicar(entry.efecto, entry.argumento, true);
+      return;
+    case Accion::Giro:
+      PedirGiro(program_.mFiltros, program_.imagen, *entry.giro);
+      break;
+    case Accion::Deshacer:
+      program_.imagen.Deshacer();
+      break;
+    case Accion::Recargar:
+      program_.imagen.VolverALaOriginal();
+      break;
+    case Accion::Submenu:
+    case Accion::Separador:
+      return;
+  }
+  Avisar();
+}
+
+void MenuDeImagen::Aplicar(int effect, std::int32_t argument, bool askConfig) {
+  Intentar(
+      dialogs_,
+      [&] {
+        if (ApplyEffect(program_.mFiltros, program_.imagen, effect, program_.imagen, argument, progress_,
+                        askConfig))
+          Avisar();
+      },
+      "Efectos");
+}
+
+void MenuDeImagen::PonerEnBlancoYNegro() {
+  Aplicar(kMetodo1, Efecto(kMetodo1)->menu, false);
+}
+
+void MenuDeImagen::AbrirDialogo(int effect) {
+  if (!dialog_) {
+    dialog_ = new frmEfectConfig(program_.mFiltros, program_.imagen, dialogs_, window_);
+    connect(dialog_, &frmEfectConfig::Aplicado, this, &MenuDeImagen::ImagenCambiada);
+  }
+  dialog_->Abrir(effect);
+}
+
+void MenuDeImagen::SeguirImagen() {
+  if (dialog_) dialog_->SeguirImagen();
+}
+
+void MenuDeImagen::Avisar() {
+  emit ImagenCambiada();
+  SeguirImagen();
+}
+
+void MenuDeImagen::CederDeshacer(QPlainTextEdit* area) {
+  area->installEventFilter(this);
+}
+
+bool MenuDeImagen::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::ShortcutOverride) return false;
+  const auto* area = qobject_cast<QPlainTextEdit*>(watched);
+  const bool undo = static_cast<QKeyEvent*>(event)->matches(QKeySequence::Undo);
+  // An empty document counts as changed once it has got its font.
+  return undo && area && (area->document()->isEmpty() || !area->document()->isModified());
+}
+
+}  // namespace pixmosa

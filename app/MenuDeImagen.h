@@ -1,0 +1,60 @@
+// The "&Imagen" menu of the main window: effects through the dispatcher, flips, mirrors, undo and reload of
+// the working picture.
+#pragma once
+
+#include <QMenu>
+#include <QObject>
+
+#include "effects/MenuImagen.h"
+#include "platform/Dialogs.h"
+#include "platform/Progress.h"
+#include "programa/Programa.h"
+
+class QPlainTextEdit;
+
+namespace pixmosa {
+
+class frmEfectConfig;
+
+class MenuDeImagen final : public QObject {
+  Q_OBJECT
+
+ public:
+  // `parent` is the window that the menu and the effect dialog belong to.
+  MenuDeImagen(Programa& program, Progress& progress, Dialogs& dialogs, QWidget* parent);
+  ~MenuDeImagen() override;
+
+  // The menu with every entry of the tree, to be put into the menu bar.
+  QMenu* Menu() const { return menu_; }
+
+  // Runs an effect on the working picture; with askConfig a configurable one opens its dialog instead.
+  void Aplicar(int effect, std::int32_t argument, bool askConfig);
+
+  // "Blanco y negro" of the options: "Método 1" as the menu passes it, at once.
+  void PonerEnBlancoYNegro();
+
+  // The working picture was replaced from outside: an open dialog shows that one.
+  void SeguirImagen();
+
+  // Lets a text area have Ctrl+Z only where its text was changed by hand.
+  void CederDeshacer(QPlainTextEdit* area);
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ signals:
+  void ImagenCambiada();
+
+ private:
+  void Hacer(const EntradaDeImagen& entry);
+  void AbrirDialogo(int effect);
+  void Avisar();
+
+  Programa& program_;
+  Progress& progress_;
+  Dialogs& dialogs_;
+  QWidget* window_;
+  QMenu* menu_;
+  frmEfectConfig* dialog_ = nullptr;
+};
+
+}  // namespace pixmosa

@@ -1,0 +1,71 @@
+// The menus of the main window as a table.
+#include "app/frmMain.h"
+
+namespace pixmosa {
+
+const std::vector<frmMain::Menu>& frmMain::Menus() {
+  static constexpr Entrada kSeparador = {{"", ""}, nullptr};
+  static const std::vector<Menu> menus = {
+      {"mnuArchivo",
+       "&Archivo",
+       {{{"mnuLoadImage", "&Cargar imagen...", "document-open", "Ctrl+O",
+          "Carga una imagen para convertirla"},
+         &frmMain::CargarImagen},
+        {{"mnuGuardar", "&Guardar el AsciiArt...", "document-save", "Ctrl+S",
+          "Guarda el texto en un archivo"},
+         &frmMain::Guardar},
+        {{"mnuGrabarIni", "Grabar la con&figuración", "document-properties", nullptr,
+          "Escribe las opciones y la fuente en KTV.ini"},
+         &frmMain::GrabarIni},
+        kSeparador,
+        {{"mnuSalir", "&Salir", "application-exit", "Ctrl+Q", "Cierra el programa"}, &frmMain::Salir}}},
+      {"mnuAsciiArt",
+       "As&ciiArt",
+       {{{"mnuPlay", "&Generar", "media-playback-start", "F5", "Convierte la imagen según el modo elegido"},
+         &frmMain::Play},
+        {{"mnuPreviewAsciiArt", "&Vista previa", "zoom-fit-best", "F6",
+          "Muestra el texto en una ventana grande"},
+         &frmMain::ShowPreview},
+        {{"mnuClipboard", "&Copiar en el portapapeles", "edit-copy", "Ctrl+Shift+C",
+          "Copia el último dibujo generado"},
+         &frmMain::CopiarTexto},
+        kSeparador,
+        {{"mnuAnimArtDirectorio", "Animación de una car&peta...", "video-x-generic", nullptr,
+          "Crea una página que muestra en orden las imágenes de una carpeta"},
+         &frmMain::AnimArtDirectorio}}},
+      {"mnuFuentes",
+       "&Fuentes",
+       {{{"mnuFontsChange", "Cambiar la &fuente...", "preferences-desktop-font", "Ctrl+T",
+          "Elige la fuente con la que se mide y se muestra el dibujo"},
+         &frmMain::ChangeFontFromDialog},
+        {{"mnuFixedFonts", "Fuentes de &ancho fijo...", nullptr, nullptr,
+          "Lista las fuentes de ancho fijo del sistema"},
+         &frmMain::MostrarFuentesFijas},
+        {{"mnuCharMap", "&Mapa de caracteres", "accessories-character-map", nullptr,
+          "Abre el mapa de caracteres del sistema"},
+         &frmMain::MapaDeCaracteres}}},
+      {"mnuHerramientas",
+       "&Herramientas",
+       {{{"mnuEditor", "Abrir el AsciiArt en un editor", "accessories-text-editor", "Ctrl+E",
+          "Retoca el dibujo carácter a carácter"},
+         &frmMain::AbrirEditor},
+        {{"mnuEstadisticas", "E&stadísticas", "view-statistics", "Ctrl+I",
+          "Cuenta los caracteres del dibujo"},
+         &frmMain::MostrarEstadisticas},
+        {{"mnuSistema", "&Configuración de aplicaciones del sistema", "preferences-system", nullptr,
+          "Muestra cómo se ven los textos en el bloc de notas y en el navegador"},
+         &frmMain::MostrarSistema}}},
+      {"mnuVer",
+       "&Ver",
+       {{{"mnuImagePreview", "&Imagen a tamaño real", "image-x-generic", "F7",
+          "Muestra la imagen entera en otra ventana"},
+         &frmMain::MostrarImagenCompleta}}},
+      {"mnuAyuda",
+       "A&yuda",
+       {{{"mnuAcercaDe", "&Acerca de Pixmosa", "help-about", "F1", "Qué es este programa y quién lo hace"},
+         &frmMain::AcercaDe}}},
+  };
+  return menus;
+}
+
+}  // namespace pixmosa

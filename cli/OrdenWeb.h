@@ -1,9 +1,0 @@
-#pragma once
-
-#include "cli/Orden.h"
-
-namespace pixmosa::cli {
-
-Orden OrdenWeb();
-
-}  // namespace pixmosa::cli

@@ -1,0 +1,18 @@
+// Every order's row, each made in the file of its name.
+#pragma once
+
+#include "cli/Orden.h"
+
+namespace pixmosa::cli {
+
+Orden OrdenAscii();
+Orden OrdenTabla();
+Orden OrdenEfecto();
+Orden OrdenWeb();
+Orden OrdenFotogramas();
+Orden OrdenAnim();
+Orden OrdenLetrero();
+Orden OrdenFuentes();
+Orden OrdenEstadisticas();
+
+}  // namespace pixmosa::cli

@@ -1,0 +1,47 @@
+#include "programa/Ajustes.h"
+
+namespace pixmosa {
+namespace {
+
+void MedirBrillo(Programa& p) {
+  MeasureCharacterSet(p.basAscii, p.ajustes.font, p.superficie);
+  BuildGrayLookup(p.basAscii);
+}
+
+void ContarColumnas(Programa& p) {
+  ComputeColumnCount(p.basAscii, p.ajustes.size, p.superficie.ScreenWidth());
+}
+
+}  // namespace
+
+void Medir(Programa& p) {
+  RebuildCharacterTables(p.basAscii, p.ajustes, p.superficie);
+  ContarColumnas(p);
+}
+
+void PonerFuente(Programa& p, const Font& font) {
+  p.ajustes.font = font;
+  MedirBrillo(p);
+  ContarColumnas(p);
+}
+
+void PonerPaleta(Programa& p, int palette) {
+  p.ajustes.palette = palette;
+  RebuildCharacterTables(p.basAscii, p.ajustes, p.superficie);
+}
+
+void PonerNegativo(Programa& p, bool negative) {
+  p.basAscii.CountedColour = negative ? kBlack : kWhite;
+  MedirBrillo(p);
+}
+
+void PonerTamaño(Programa& p, int percent) {
+  p.ajustes.size = percent;
+  ContarColumnas(p);
+}
+
+void PonerLuminosidad(Programa& p, int luminosity) {
+  p.ajustes.luminosity = luminosity;
+}
+
+}  // namespace pixmosa

@@ -1,0 +1,43 @@
+#include "programa/Generar.h"
+
+namespace pixmosa {
+
+Trabajo QueGenerar(const Programa& p) {
+  if (!HayImagen(p)) return Trabajo::PedirImagen;
+  switch (p.modo) {
+    case kModoGrises:
+      return p.animArt ? Trabajo::AnimArt : Trabajo::Texto;
+    case kModoBordes:
+    case kModoAntialias:
+      return Trabajo::Texto;
+    case kModoMosaico:
+    case kModoCopiaExacta:
+      return Trabajo::WebArt;
+    case kModoTexto:
+      break;
+  }
+  return Trabajo::Ninguno;
+}
+
+int MetodoDe(Modo mode) {
+  return mode <= kModoAntialias ? static_cast<int>(mode) : -1;
+}
+
+bool Generar(Programa& p, int method) {
+  return GenerateAscii(p.basAscii, p.ajustes, p.imagen.picMain, method);
+}
+
+void GenerarDe(Programa& p, const LeerReducida& read, int method) {
+  const Picture resized = read([&](Extent source) { return ResizedExtent(p.basAscii, source, method); });
+  ConvertResized(p.basAscii, p.ajustes, resized, method);
+}
+
+void GenerarLetrero(Programa& p, std::string_view text) {
+  p.basAscii.ProducedText = RenderBanner(p.basFigLet, text);
+}
+
+void CargarPaleta3x2(Programa& p) {
+  p.basAscii.Palette3x2 = LoadPalette3x2(p.carpeta);
+}
+
+}  // namespace pixmosa

@@ -1,0 +1,35 @@
+// Making the produced text: from the working picture, from a file, from a banner.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "programa/Programa.h"
+
+namespace pixmosa {
+
+// What the button "Play" runs.
+enum class Trabajo { Ninguno, PedirImagen, Texto, AnimArt, WebArt };
+
+// By the picture, the mode and the animation's option.
+Trabajo QueGenerar(const Programa& p);
+
+// The conversion method of a mode, or nothing (-1) for the modes that make no text of a picture.
+int MetodoDe(Modo mode);
+
+// The produced text from the working picture, which is there. False for an unknown method, which leaves the
+// text. Throws TextoExcesivo.
+bool Generar(Programa& p, int method);
+
+// The same from a picture that is not kept: `read` gets the size that it has to be stretched to, as
+// PictureCodec::ReadStretched does.
+using LeerReducida = std::function<Picture(const std::function<Extent(Extent)>& size)>;
+void GenerarDe(Programa& p, const LeerReducida& read, int method);
+
+// The produced text is the banner of a typed text in the loaded font.
+void GenerarLetrero(Programa& p, std::string_view text);
+
+// The pattern file, which ships with the program. Throws Palette3x2Error.
+void CargarPaleta3x2(Programa& p);
+
+}  // namespace pixmosa

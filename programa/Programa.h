@@ -1,0 +1,50 @@
+// The program's one state, plain, with what it needs of the platform to measure fonts and to read pictures.
+// The window and the command line each make one and work on it by the procedures of this folder.
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include "conversion/basAscii.h"
+#include "editor/basEditor.h"
+#include "effects/ImagenDeTrabajo.h"
+#include "effects/mFiltros.h"
+#include "figlet/basFigLet.h"
+#include "platform/PictureCodec.h"
+#include "platform/TextSurface.h"
+#include "programa/Modos.h"
+#include "web/basGIF.h"
+#include "web/basWeb.h"
+
+namespace pixmosa {
+
+struct Programa {
+  TextSurface& superficie;
+  PictureCodec& codec;
+  std::filesystem::path carpeta;  // the folder with the files that ship with the program
+  // Of FIGlet fonts: the program's, then the user's own.
+  std::vector<std::filesystem::path> carpetasDeFuentes{};
+
+  Modo modo = kModoGrises;
+  bool vistaPrevia = false;        // open the preview after each generation
+  bool animArt = false;            // in the grayscale mode: an animation instead of one text
+  bool animArtDisponible = false;  // the working picture came from a GIF of two frames or more
+  Colour fondoTexto = kWhite, colorTexto = kBlack, fondoWeb = kBlack;
+
+  ImagenDeTrabajo imagen{};
+  MFiltros mFiltros{};
+  BasAscii basAscii{};
+  AsciiSettings ajustes{};
+  BasEditor basEditor{};
+  BasFigLet basFigLet{};
+  BasWeb basWeb{};
+  WebSettings ajustesWeb{};
+  BasGif basGif{};
+  Random azar{};
+};
+
+inline bool HayImagen(const Programa& p) {
+  return !p.imagen.picMain.IsEmpty();
+}
+
+}  // namespace pixmosa
