@@ -1,0 +1,128 @@
+// The program without a window: settings, loading, generating, animations.
+#include <gtest/gtest.h>
+
+#include "platform/AtomicFile.h"
+#include "programa/Ajustes.h"
+#include "programa/Animacion.h"
+#include "programa/CargarImagen.h"
+#include "programa/Generar.h"
+#include "tests/support/DrawnPicture.h"
+#include "tests/support/FakePictureCodec.h"
+#include "tests/support/FakeTextSurface.h"
+#include "tests/support/Gif.h"
+#include "tests/support/TestFolder.h"
+
+using namespace pixmosa;
+using test::Grays;
+
+namespace {
+
+class ProgramaTest : public testing::Test {
+ protected:
+  test::TestFolder folder;
+  test::FakeTextSurface surface;  // cells of 4 x 5 on a screen of 1000 pixels: 250 columns
+  test::FakePictureCodec codec;
+  Programa p{surface, codec, folder.Path()};
+
+  void SetUp() override {
+    for (std::size_t c = '0'; c <= '9'; ++c) surface.ink[c] = static_cast<int>(c - '0');
+    p.ajustes.palette = 3;
+    Medir(p);
+  }
+};
+
+}  // namespace
+
+TEST_F(ProgramaTest, EachSettingMakesAgainWhatItLeavesStale) {
+  EXPECT_EQ(p.basAscii.AsciiColumns, 250);
+  EXPECT_EQ(p.basAscii.GrayToChar[0], '9');
+
+  const std::size_t measured = surface.measured.size();
+  PonerTamaño(p, 50);
+  EXPECT_EQ(p.basAscii.AsciiColumns, 125);
+  PonerLuminosidad(p, 20);
+  EXPECT_EQ(surface.measured.size(), measured) << "neither needs the characters measured again";
+
+  surface.cell = {8, 10};
+  surface.ink['3'] = 60;  // in another font the 3 is the darkest
+  PonerFuente(p, {"Otra", 9});
+  EXPECT_EQ(surface.measured.back(), (Font{"Otra", 9}));
+  EXPECT_EQ(p.basAscii.CellHeight, 10);
+  EXPECT_EQ(p.basAscii.GrayToChar[0], '3');
+  EXPECT_EQ(p.basAscii.AsciiColumns, 62) << "half of 125, rounded to even";
+
+  PonerNegativo(p, true);
+  EXPECT_EQ(p.basAscii.GrayToChar[255], '3');
+  EXPECT_EQ(p.basAscii.GrayToChar[0], 31);
+  PonerNegativo(p, false);
+  surface.ink['m'] = 70;
+  PonerPaleta(p, 2);
+  EXPECT_EQ(p.basAscii.GrayToChar[0], 'm');
+  EXPECT_EQ(p.basAscii.CharBrightness['3'], 0) << "the palette before is forgotten";
+}
+
+TEST_F(ProgramaTest, LoadingIsWholeOrNothing) {
+  codec.files = {{"a.png", Grays({{1, 2}})}, {"b.GIF", Grays({{7}})}, {"mala.gif", Grays({{9}})}};
+  p.basGif.carpeta = folder.Path();
+  const auto load = [&](const char* name) { CargarImagen(p, folder.File(name)); };
+  load("a.png");
+  EXPECT_TRUE(p.imagen.picMain.SharesBlockWith(p.imagen.picUndo));
+  EXPECT_FALSE(p.animArtDisponible);
+  EscribirArchivo(folder.File("b.GIF"), test::Gif({0, 1, 2}));
+  load("b.GIF");
+  EXPECT_TRUE(p.animArtDisponible);
+  EXPECT_EQ(p.basGif.FramesList.size(), 3U);
+  p.animArt = true;
+
+  EXPECT_THROW(load("no-existe.png"), PictureError);
+  EXPECT_THROW(load("mala.gif"), FileError) << "the picture is there, its file cannot be cut";
+  EXPECT_EQ(p.imagen.picMain.ColourAt(0, 0), Rgb(7, 7, 7));
+  EXPECT_TRUE(p.animArt && p.animArtDisponible);
+
+  load("a.png");
+  EXPECT_FALSE(p.animArt || p.animArtDisponible);
+  EXPECT_EQ(p.basGif.FramesList.size(), 3U) << "the last GIF's frames stay";
+}
+
+TEST_F(ProgramaTest, WhatPlayRuns) {
+  EXPECT_EQ(QueGenerar(p), Trabajo::PedirImagen);
+  p.imagen.Cargar(Grays({{0}}));
+  using enum Trabajo;
+  const Trabajo expected[] = {Texto, Texto, Texto, Ninguno, WebArt, WebArt};
+  for (int mode = 0; mode < 6; ++mode) {
+    p.modo = static_cast<Modo>(mode);
+    EXPECT_EQ(QueGenerar(p), expected[mode]) << mode;
+    EXPECT_EQ(MetodoDe(p.modo), mode < 3 ? mode : -1);
+  }
+  p.animArt = true;
+  EXPECT_EQ(QueGenerar(p), WebArt) << "only the grayscale mode animates";
+  p.modo = kModoGrises;
+  EXPECT_EQ(QueGenerar(p), AnimArt);
+}
+
+TEST_F(ProgramaTest, AnimationGoesThroughTheWorkingPicture) {
+  codec.files = {{"1.bmp", Grays({{0, 255}})}, {"3.gif", Grays({{255, 0}})}};
+  for (const char* name : {"1.bmp", "2.jpg", "3.gif"}) EscribirArchivo(folder.File(name), "");
+  surface.cell = {4, 4};
+  surface.ink.fill(0);
+  surface.ink['<'] = 12;
+  PonerPaleta(p, 1);
+  p.basAscii.AsciiColumns = 2;
+
+  const std::string page = folder.File("p.html");
+  const Serie frames = SerieDeCarpeta(p, folder.Path());
+  std::vector<std::string> texts;
+  EXPECT_TRUE(EscribirAnimacion(p, frames, page, [&](std::size_t) {
+    texts.push_back(p.basAscii.ProducedText);
+    return true;
+  }));
+  EXPECT_EQ(texts, (std::vector<std::string>{"< ", "< ", " <"}))
+      << "an unreadable frame repeats the one before";
+  EXPECT_EQ(p.basAscii.ProducedText, " &lt;");
+  EXPECT_EQ(p.imagen.picMain.ColourAt(0, 0), kWhite) << "the last frame";
+  const std::string written = LeerArchivo(page);
+  EXPECT_NE(written.find("Size = 1 > \r\n &lt;\r\n  </font></pre>\r\n </div>\r\n</body>"), std::string::npos);
+
+  EXPECT_FALSE(EscribirAnimacion(p, frames, page, [](std::size_t k) { return k == 0; }));
+  EXPECT_EQ(LeerArchivo(page), written) << "a cancelled page leaves the former one";
+}
