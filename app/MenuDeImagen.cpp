@@ -29,7 +29,7 @@ MenuDeImagen::MenuDeImagen(Programa& program, Progress& progress, Dialogs& dialo
   program_.mFiltros.AbrirDialogo = [this](int effect) { AbrirDialogo(effect); };
   menu_->setObjectName("mnuImagen");
   std::vector<QMenu*> open = {menu_};
-  for (const EntradaDeImagen& entry : MenuImagen()) {
+  for (const EntradaDeImagen& entry : EntradasDeImagen()) {
     open.resize(static_cast<std::size_t>(entry.nivel) + 1);
     QMenu* parentMenu = open.back();
     if (entry.accion == Accion::Separador) {

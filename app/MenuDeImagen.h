@@ -5,7 +5,7 @@
 #include <QMenu>
 #include <QObject>
 
-#include "effects/MenuImagen.h"
+#include "effects/EntradasDeImagen.h"
 #include "platform/Dialogs.h"
 #include "platform/Progress.h"
 #include "programa/Programa.h"

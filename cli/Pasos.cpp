@@ -4,7 +4,7 @@
 #include <climits>
 
 #include "cli/Argumentos.h"
-#include "effects/MenuImagen.h"
+#include "effects/EntradasDeImagen.h"
 #include "effects/basFiltrosConfig.h"
 #include "platform/CodePage.h"
 
@@ -58,7 +58,7 @@ std::optional<Paso> PasoPorNombre(const std::string& name, const std::string& wo
     }
   for (int n = 1; n <= kEfectos; ++n)
     if (name == NombreDeOrden(Efecto(n)->caption)) return PasoDeEfecto(n, Efecto(n)->menu, word, value);
-  for (const EntradaDeImagen& e : MenuImagen())
+  for (const EntradaDeImagen& e : EntradasDeImagen())
     if (e.accion == Accion::Efecto && name == NombreDeOrden(e.caption))
       return PasoDeEfecto(e.efecto, e.argumento, word, value);
   return std::nullopt;
@@ -120,7 +120,7 @@ std::string AyudaDePasos() {
       "lleva:\n";
   for (int n = 1; n <= kEfectos; ++n)
     s += Linea(std::to_string(n), NombreDeOrden(Efecto(n)->caption), Efecto(n)->caption, AyudaDelValor(n));
-  for (const EntradaDeImagen& e : MenuImagen())
+  for (const EntradaDeImagen& e : EntradasDeImagen())
     if (e.accion == Accion::Efecto && std::string_view(e.caption) != Efecto(e.efecto)->caption)
       s += Linea("", NombreDeOrden(e.caption), e.caption,
                  "lo mismo que " + std::to_string(e.efecto) + "=" + std::to_string(e.argumento));

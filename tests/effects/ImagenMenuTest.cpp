@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "effects/basFiltrosConfig.h"
 #include "effects/frmEfectConfig.h"
 #include "tests/support/DrawnPicture.h"
 #include "tests/support/Effects.h"
@@ -30,12 +31,91 @@ QString Tree(const QMenu& menu) {
 
 const Rows kLoaded = {{10, 20, 30}, {40, 50, 60}};
 
+// What each entry of the menu runs.
+struct Entry {
+  const char* control;
+  int effect;
+  std::int32_t argument;
+};
+constexpr Entry kEntries[] = {
+    {"mnuNitidez", 1, 2},
+    {"mnuNegativo", 2, 0},
+    {"mnuDesenfocar", 3, 0},
+    {"mnuDifuminar", 4, 6},
+    {"mnuHumo", 5, 0},
+    {"mnuRealceBorde", 6, 1},
+    {"mnuContornos", 7, 0xFFFFFF},
+    {"mnuRealzar", 8, 0x787800},
+    {"mnuRealzarMas", 9, 0x787800},
+    {"mnugrabado", 10, 0x787800},
+    {"mnuMasGrabado", 11, 0x787800},
+    {"mnuGrises", 12, 0},
+    {"mnuRelieve", 13, 0},
+    {"mnuAumentarbrillo", 14, 10},
+    {"mnuPixelizar", 15, 3},
+    {"mnuRGB1", 16, 1},
+    {"mnuRGB2", 16, 2},
+    {"mnuRGB3", 16, 3},
+    {"mnuRGB4", 16, 4},
+    {"mnuRGB5", 16, 5},
+    {"mnuAumentarcontraste", 17, 10},
+    {"mnuMetodo1", 18, 0x969696},
+    {"mnuMetodo2", 19, 0},
+    {"mnuMetodo3", 20, 0},
+    {"mnuMetodo4", 21, 15},
+    {"mnuMetodo5", 22, 15},
+    {"mnuMetodo6", 23, 15},
+    {"mnuAcuarela", 24, 0},
+    {"mnuDilate", 25, 0},
+    {"mnuErosion", 26, 0},
+    {"mnuContornosUnidos", 27, 0},
+    {"mnuruido", 29, 50},
+    {"mnuAumentarsaturacion", 30, 15},
+    {"mnuGamma", 31, 0},
+    {"mnuOldPhoto", 32, 0},
+};
+
+// A picture of noise, so that no two effects or arguments give the same.
+Picture Noise(int width, int height) {
+  Picture p(width, height);
+  std::uint32_t bits = 1;
+  std::uint32_t* to = p.Writable();
+  for (std::size_t i = 0; i < p.PixelCount(); ++i)
+    to[i] = 0xFF000000U | (bits = bits * 1664525U + 1013904223U) >> 8;
+  return p;
+}
+
+const Rows kNumbered = {{1, 2, 3, 4}, {5, 6, 7, 8}, {9, 10, 11, 12}, {13, 14, 15, 16}};
+
+struct Turn {
+  const char* control;
+  Rows result;
+};
+const Turn kTurns[] = {
+    {"mnuHFlip", {{4, 3, 2, 1}, {8, 7, 6, 5}, {12, 11, 10, 9}, {16, 15, 14, 13}}},
+    {"mnuVFLip", {{13, 14, 15, 16}, {9, 10, 11, 12}, {5, 6, 7, 8}, {1, 2, 3, 4}}},
+    {"mnuEspejoAenB", {{1, 2, 3, 4}, {5, 6, 7, 8}, {9, 10, 11, 12}, {5, 6, 7, 8}}},
+    {"mnuEspejoBenA", {{1, 2, 3, 4}, {13, 14, 15, 16}, {9, 10, 11, 12}, {13, 14, 15, 16}}},
+    {"mnuEspejoDenI", {{1, 4, 3, 4}, {5, 8, 7, 8}, {9, 12, 11, 12}, {13, 16, 15, 16}}},
+    {"mnuEspejoIenD", {{1, 2, 3, 2}, {5, 6, 7, 6}, {9, 10, 11, 10}, {13, 14, 15, 14}}},
+};
+
 struct EffectWindow : test::MainWindow {
   explicit EffectWindow(const Picture& picture = Grays(kLoaded)) { Load(picture); }
   frmEfectConfig& Dialog() { return Find<frmEfectConfig>(window, "frmEfectConfig"); }
   QSlider& Slider() { return Find<QSlider>(Dialog(), "sldEfecto"); }
   void Press(const char* button) { QTest::mouseClick(&Find<QPushButton>(Dialog(), button), Qt::LeftButton); }
   Rows Now() const { return Levels(program.imagen.picMain); }
+
+  // The picture as the window shows it.
+  Rows Seen() {
+    const QImage shown = Find<QWidget>(window, "picMain").grab().toImage();
+    Rows rows(static_cast<std::size_t>(shown.height()));
+    for (int y = 0; y < shown.height(); ++y)
+      for (int x = 0; x < shown.width(); ++x)
+        rows[static_cast<std::size_t>(y)].push_back(qRed(shown.pixel(x, y)));
+    return rows;
+  }
 };
 
 bool Same(const Picture& a, const Picture& b) {
@@ -44,10 +124,7 @@ bool Same(const Picture& a, const Picture& b) {
 
 // Large enough that an effect yields to the event loop many times.
 Picture Large() {
-  Picture p(3000, 2500);
-  for (std::size_t i = 0; i < p.PixelCount(); ++i)
-    p.Writable()[i] = 0xFF000000U | (static_cast<std::uint32_t>(i * 2654435761U) >> 8);
-  return p;
+  return Noise(3000, 2500);
 }
 
 }  // namespace
@@ -88,12 +165,39 @@ class ImagenMenuTest : public QObject {
     QVERIFY(w.dialogs.log.empty());
   }
 
+  // A configurable entry opens its dialog; chosen again, it runs with the menu's own argument.
+  void everyEntryRunsItsEffect() {
+    const Picture noise = Noise(13, 11);
+    EffectWindow w(noise);
+    for (const Entry& e : kEntries) {
+      w.program.imagen.Cargar(noise);
+      w.program.mFiltros.random.Seed(1);
+      w.Trigger(e.control);
+      if (Efecto(e.effect)->Configurable) {
+        QCOMPARE(w.program.mFiltros.CurrentDialogEffect, e.effect);
+        QVERIFY2(Same(w.program.imagen.picMain, noise), e.control);
+        w.Trigger(e.control);
+      }
+      QVERIFY2(Same(w.program.imagen.picMain, test::Applied(e.effect, e.argument, noise)), e.control);
+    }
+  }
+
+  void everyTurnIsDoneAndSeen() {
+    EffectWindow w(Grays(kNumbered));
+    for (const Turn& turn : kTurns) {
+      w.Trigger(turn.control);
+      QVERIFY2(w.Seen() == turn.result, turn.control);
+      w.Trigger("mnuUndoPicture");
+      QVERIFY2(w.Seen() == kNumbered, turn.control);
+    }
+  }
+
   void effectsFlipsUndoAndReload() {
     EffectWindow w;
     w.Trigger("mnuNegativo");
     QCOMPARE(w.Now(), (Rows{{245, 235, 225}, {215, 205, 195}}));
+    QCOMPARE(w.Seen(), w.Now());
     w.Trigger("mnuHFlip");
-    QCOMPARE(w.Now(), (Rows{{225, 235, 245}, {195, 205, 215}}));
     w.Area().setFocus();
     QTest::keyClick(&w.Area(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(w.Now(), (Rows{{245, 235, 225}, {215, 205, 195}}));
@@ -124,10 +228,16 @@ class ImagenMenuTest : public QObject {
     QCOMPARE(w.Dialog().windowTitle(), QString("Parámetros del filtro"));
     const auto& range = Find<QLabel>(w.Dialog(), "lblRango");
     QCOMPARE(range.text(), QString("Rango del filtro: -100 , 100"));
+    w.Slider().setValue(40);
+    w.Press("cmdCancel");
+    w.Trigger("mnuAumentarbrillo");
+    QCOMPARE(w.Slider().value(), 0);
+    w.Slider().setValue(40);
     w.Trigger("mnuPixelizar");
     QCOMPARE(range.text(), QString("Rango del filtro: 1 , 20"));
     QCOMPARE(w.Slider().minimum(), 1);
     QCOMPARE(w.Slider().maximum(), 20);
+    QCOMPARE(w.Slider().value(), 1);
     QCOMPARE(w.Now(), kLoaded);
     w.Press("cmdApply");
     QCOMPARE(w.Now(), kLoaded);
@@ -203,6 +313,16 @@ class ImagenMenuTest : public QObject {
     w.Load(Picture::Filled(100, 310, kWhite), "alta.png");
     w.Trigger("mnuNitidez");
     QCOMPARE(shown.size(), QSize(50, 155));
+    w.Press("cmdCancel");
+    Picture wide = Picture::Filled(400, 100, kWhite);
+    for (int i = 0; i < 400 * 100; ++i)
+      if (i % 400 < 200) wide.Writable()[i] = PixelOfColour(kBlack);
+    w.Load(wide, "ancha.png");
+    w.Trigger("mnuNitidez");
+    QCOMPARE(shown.size(), QSize(155, 39));
+    const QImage seen = shown.grab().toImage();
+    QCOMPARE(seen.pixelColor(70, 38), QColor(Qt::black));
+    QCOMPARE(seen.pixelColor(85, 0), QColor(Qt::white));
   }
 
   void lastValueWinsAndIsWhatGetsApplied() {

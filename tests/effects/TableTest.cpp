@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 #include <set>
 
+#include "effects/EntradasDeImagen.h"
 #include "effects/Giros.h"
-#include "effects/MenuImagen.h"
 #include "effects/basFiltrosConfig.h"
 #include "platform/Colour.h"
 
@@ -46,7 +46,7 @@ TEST(ImageMenu, ReachesEveryEffectButOneOnce) {
   std::multiset<int> effects;
   std::set<std::string> controls;
   std::size_t named = 0;
-  for (const EntradaDeImagen& e : MenuImagen()) {
+  for (const EntradaDeImagen& e : EntradasDeImagen()) {
     if (e.accion == Accion::Efecto) effects.insert(e.efecto);
     if (e.accion == Accion::Separador) continue;
     controls.insert(e.control);

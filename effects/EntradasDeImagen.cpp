@@ -1,4 +1,4 @@
-#include "effects/MenuImagen.h"
+#include "effects/EntradasDeImagen.h"
 
 #include <string_view>
 #include <vector>
@@ -89,7 +89,7 @@ std::vector<EntradaDeImagen> Arbol() {
 
 }  // namespace
 
-std::span<const EntradaDeImagen> MenuImagen() {
+std::span<const EntradaDeImagen> EntradasDeImagen() {
   static const std::vector<EntradaDeImagen> tree = Arbol();
   return tree;
 }

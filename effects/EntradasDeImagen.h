@@ -25,6 +25,6 @@ struct EntradaDeImagen {
 
 inline constexpr const char* kMenuImagen = "&Imagen";
 
-std::span<const EntradaDeImagen> MenuImagen();
+std::span<const EntradaDeImagen> EntradasDeImagen();
 
 }  // namespace pixmosa
