@@ -17,6 +17,7 @@ namespace {
 
 constexpr int kVisibleWidth = 320, kVisibleHeight = 250;
 constexpr int kStepAcross = 6, kStepDown = 12;
+constexpr int kVuelta = 120, kPasosPorVuelta = 3;  // of a mouse wheel, and what one moves
 
 }  // namespace
 
@@ -107,8 +108,11 @@ void MarcoDeImagen::resizeEvent(QResizeEvent* event) {
 void MarcoDeImagen::wheelEvent(QWheelEvent* event) {
   const bool sideways = event->modifiers().testFlag(Qt::ShiftModifier) || event->angleDelta().y() == 0;
   QScrollBar* bar = sideways ? horizontal_ : vertical_;
-  const int turn = event->angleDelta().y() != 0 ? event->angleDelta().y() : event->angleDelta().x();
-  bar->setValue(bar->value() - turn / 120 * 3 * bar->singleStep());
+  // A touchpad sends many small turns: they add up.
+  giro_ += event->angleDelta().y() != 0 ? event->angleDelta().y() : event->angleDelta().x();
+  const int steps = giro_ * kPasosPorVuelta / kVuelta;
+  giro_ -= steps * kVuelta / kPasosPorVuelta;
+  bar->setValue(bar->value() - steps * bar->singleStep());
   event->accept();
 }
 

@@ -50,6 +50,7 @@ class MarcoDeImagen final : public QWidget {
   VistaDeImagen* vista_;
   QScrollBar* horizontal_;
   QScrollBar* vertical_;
+  int giro_ = 0;  // of the wheel, not yet moved by
 };
 
 }  // namespace pixmosa

@@ -1,13 +1,11 @@
 #include "app/MenuDeImagen.h"
 
-#include <vector>
-
 #include <QKeyEvent>
-#include <QPlainTextEdit>
 
 #include "effects/Giros.h"
 #include "effects/basFiltrosConfig.h"
 #include "effects/frmEfectConfig.h"
+#include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Intentar.h"
 #include "platform/qt/Menus.h"
 #include "platform/qt/QtText.h"
@@ -42,6 +40,7 @@ MenuDeImagen::MenuDeImagen(Programa& program, Progress& progress, Dialogs& dialo
       QAction* action =
           AccionDe({entry.control, entry.caption, icon, *entry.atajo ? entry.atajo : nullptr}, parentMenu);
       parentMenu->addAction(action);
+      entradas_.push_back(action);
       connect(action, &QAction::triggered, this, Con(dialogs_, [this, &entry](bool) { Hacer(entry); }));
     }
   }
@@ -49,6 +48,10 @@ MenuDeImagen::MenuDeImagen(Programa& program, Progress& progress, Dialogs& dialo
 
 MenuDeImagen::~MenuDeImagen() {
   program_.mFiltros.AbrirDialogo = nullptr;
+}
+
+void MenuDeImagen::PonerDisponible(bool available) {
+  for (QAction* action : entradas_) action->setEnabled(available);
 }
 
 void MenuDeImagen::Hacer(const EntradaDeImagen& entry) {
@@ -104,16 +107,15 @@ void MenuDeImagen::Avisar() {
   SeguirImagen();
 }
 
-void MenuDeImagen::CederDeshacer(QPlainTextEdit* area) {
+void MenuDeImagen::CederDeshacer(AreaDeTexto* area) {
   area->installEventFilter(this);
 }
 
 bool MenuDeImagen::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::ShortcutOverride) return false;
-  const auto* area = qobject_cast<QPlainTextEdit*>(watched);
+  const auto* area = qobject_cast<AreaDeTexto*>(watched);
   const bool undo = static_cast<QKeyEvent*>(event)->matches(QKeySequence::Undo);
-  // An empty document counts as changed once it has got its font.
-  return undo && area && (area->document()->isEmpty() || !area->document()->isModified());
+  return undo && area && !area->PuedeDeshacer();
 }
 
 }  // namespace pixmosa

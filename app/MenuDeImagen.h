@@ -2,6 +2,8 @@
 // the working picture.
 #pragma once
 
+#include <vector>
+
 #include <QMenu>
 #include <QObject>
 
@@ -10,10 +12,9 @@
 #include "platform/Progress.h"
 #include "programa/Programa.h"
 
-class QPlainTextEdit;
-
 namespace pixmosa {
 
+class AreaDeTexto;
 class frmEfectConfig;
 
 class MenuDeImagen final : public QObject {
@@ -27,6 +28,9 @@ class MenuDeImagen final : public QObject {
   // The menu with every entry of the tree, to be put into the menu bar.
   QMenu* Menu() const { return menu_; }
 
+  // There is a working picture, or none: the entries can be chosen, or not.
+  void PonerDisponible(bool available);
+
   // Runs an effect on the working picture; with askConfig a configurable one opens its dialog instead.
   void Aplicar(int effect, std::int32_t argument, bool askConfig);
 
@@ -36,8 +40,8 @@ class MenuDeImagen final : public QObject {
   // The working picture was replaced from outside: an open dialog shows that one.
   void SeguirImagen();
 
-  // Lets a text area have Ctrl+Z only where its text was changed by hand.
-  void CederDeshacer(QPlainTextEdit* area);
+  // Lets a text area have Ctrl+Z only where it has something to take back.
+  void CederDeshacer(AreaDeTexto* area);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -54,6 +58,7 @@ class MenuDeImagen final : public QObject {
   Dialogs& dialogs_;
   QWidget* window_;
   QMenu* menu_;
+  std::vector<QAction*> entradas_;
   frmEfectConfig* dialog_ = nullptr;
 };
 

@@ -37,7 +37,10 @@ frmFonts::frmFonts(const std::vector<std::string>& names, const std::string& cur
   layout->addWidget(count);
   layout->addWidget(buttons);
   resize(420, 460);
-  connect(list, &QListWidget::currentTextChanged, this, &frmFonts::Elegida);
+  // The row that is current changes also when the list merely gets the focus; the selection does not.
+  connect(list, &QListWidget::itemSelectionChanged, this, [this, list] {
+    for (const QListWidgetItem* item : list->selectedItems()) emit Elegida(item->text());
+  });
   connect(list, &QListWidget::itemActivated, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }

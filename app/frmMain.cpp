@@ -57,7 +57,9 @@ frmMain::frmMain(Programa& program, const Escritorio& desktop)
   CrearMenus();
   CrearBarras();
   CrearCentro();
+  CrearEstados();
   CrearPaneles();
+  ActualizarAcciones();
 }
 
 frmMain::~frmMain() = default;
@@ -86,6 +88,7 @@ void frmMain::CrearBarras() {
     button->setToolTip(entry->toolTip() + " (" + entry->shortcut().toString(QKeySequence::NativeText) + ")");
     bar->addAction(button);
     connect(button, &QAction::triggered, entry, &QAction::trigger);
+    connect(entry, &QAction::changed, button, [button, entry] { button->setEnabled(entry->isEnabled()); });
   }
   addToolBar(bar);
   barras_.push_back(bar);
@@ -106,8 +109,12 @@ void frmMain::CrearCentro() {
   connect(chkAsciiPrev_, &QCheckBox::toggled, this, [this](bool shown) { p_.vistaPrevia = shown; });
   txtAscii_ = named<AreaDeTexto>("txtAscii");
   imagen_->CederDeshacer(txtAscii_);
-  txtAscii_->setPlaceholderText(
-      QStringLiteral("Aquí aparecerá el dibujo: cargue una imagen y pulse Generar."));
+  txtAscii_->PonerPista(QStringLiteral("Aquí aparecerá el dibujo: cargue una imagen y pulse Generar."));
+  connect(txtAscii_, &QPlainTextEdit::textChanged, this, &frmMain::ActualizarAcciones);
+  connect(txtAscii_, &AreaDeTexto::TextoSustituido, this, [this] {
+    Decir(QStringLiteral("El texto editado a mano se ha sustituido."), QStringLiteral("Recuperarlo"),
+          [this] { txtAscii_->Deshacer(); });
+  });
   auto* head = new QHBoxLayout;
   head->addStretch(1);
   head->addWidget(chkAsciiPrev_);
@@ -124,7 +131,7 @@ void frmMain::CrearCentro() {
   splitter->setStretchFactor(1, 1);
   splitter->setChildrenCollapsible(false);
   setCentralWidget(splitter);
-  resize(1180, 760);
+  resize(QSize(1180, 760).boundedTo(screen()->availableSize() - QSize(16, 48)));
   splitter->setSizes({marco_->sizeHint().width() + 9, 840});
 }
 
@@ -170,7 +177,7 @@ void frmMain::CrearPaneles() {
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event) {
   const QList<QUrl> urls = event->mimeData()->urls();
-  if (!urls.isEmpty() && urls.first().isLocalFile()) event->acceptProposedAction();
+  if (!ocupada_ && !urls.isEmpty() && urls.first().isLocalFile()) event->acceptProposedAction();
 }
 
 void frmMain::dropEvent(QDropEvent* event) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -21,6 +22,8 @@
 class QCheckBox;
 class QLabel;
 class QProgressBar;
+class QPushButton;
+class QShortcut;
 class QToolBar;
 class QVBoxLayout;
 
@@ -67,6 +70,7 @@ class frmMain final : public QMainWindow {
   void CrearCentro();
   void CrearBarraDeEstado();
   void CrearPaneles();
+  void CrearEstados();
   void CrearLetreros(QVBoxLayout* area);
 
   // --- frmMain_Archivo.cpp: pictures in, text out ---
@@ -82,6 +86,9 @@ class frmMain final : public QMainWindow {
   void ShowPreview();
   void MostrarImagen();
   void MostrarTexto();  // the produced text; the part in view stays in view
+  void PonerLetrero(const std::string& banner);
+  void ActualizarAcciones();  // what has nothing to work on cannot be chosen
+  void AvisarSiHaSalidoEnBlanco(int method);
   void MostrarColores();
 
   // --- frmMain_Fuentes.cpp ---
@@ -103,7 +110,12 @@ class frmMain final : public QMainWindow {
   void GenerarAnimArt(const Serie& frames);
   bool SeguirAnimacion(std::size_t k, std::size_t frames);
   void AbrirPagina(const std::string& file);
+
+  // --- frmMain_Estado.cpp: the left part of the status bar, and what long work shows ---
+  void Decir(const QString& text, const QString& link = {}, std::function<void()> follow = {});
   void Ocupar(bool busy);  // while a long work lets events in: nothing else can be started
+  void Cancelar();
+  void NombrarArchivo(const QString& what, const std::string& file);
 
   // --- frmMain_Ventanas.cpp ---
   void Salir();
@@ -132,8 +144,13 @@ class frmMain final : public QMainWindow {
   frmPreview* preview_ = nullptr;
   frmEditor* editor_ = nullptr;
   frmFiglet* figlet_ = nullptr;
-  bool ocupada_ = false;        // an animation is being written
-  bool cerrarDespues_ = false;  // the user closed the window meanwhile
+  QLabel* lblEnlace_ = nullptr;
+  std::function<void()> alSeguirEnlace_;
+  QPushButton* cmdCancelar_ = nullptr;
+  QShortcut* escape_ = nullptr;
+  bool ocupada_ = false;        // a page is being written
+  bool cancelada_ = false;      // the user wants it no longer
+  bool cerrarDespues_ = false;  // and closed the window
   QElapsedTimer desdeElTexto_;
   int caducadoPor_ = 0;
   UltimoValor regeneracion_;  // a dragged slider costs one text however many values it sent

@@ -1,6 +1,4 @@
 // Pictures in, text and settings out: loading, saving, clipboard.
-#include <QStatusBar>
-
 #include "app/MenuDeImagen.h"
 #include "app/basINI.h"
 #include "app/frmMain.h"
@@ -16,7 +14,6 @@ namespace pixmosa {
 namespace {
 
 constexpr char kFiltroDeImagenes[] = "Imagenes (*.bmp;*.gif;*.jpg;*.ico;*.wmf)|*.bmp;*.gif;*.jpg;*.ico;*.wmf";
-constexpr int kMilisegundosDeAviso = 10000;
 
 }  // namespace
 
@@ -29,12 +26,10 @@ bool frmMain::AbrirImagen(const std::filesystem::path& file) {
   try {
     pixmosa::CargarImagen(p_, file);
   } catch (const std::exception& e) {
-    // The message is the program's own; the reason stands in the status bar.
-    statusBar()->showMessage(Q(FraseDe(e)), kMilisegundosDeAviso);
-    desktop_.dialogos.Fail("No se ha podido cargar la imagen", "Error en la carga");
+    desktop_.dialogos.Fail("No se ha podido cargar la imagen", "Error en la carga", FraseDe(e));
     return false;
   }
-  statusBar()->clearMessage();
+  Decir({});
   opciones_->MostrarAnimArt();
   MostrarImagen();
   imagen_->SeguirImagen();
@@ -43,7 +38,8 @@ bool frmMain::AbrirImagen(const std::filesystem::path& file) {
 
 void frmMain::Guardar() {
   if (txtAscii_->EstaVacia()) return;
-  const std::string file = desktop_.dialogos.SaveFile("Guardar el AsciiArt...", "*.txt", "txt");
+  const std::string file =
+      desktop_.dialogos.SaveFile("Guardar el AsciiArt...", "*.txt", "txt", NombreDeImagen(p_));
   if (file.empty()) return;
   Intentar(
       desktop_.dialogos, [&] { EscribirArchivo(file, TextoGuardado(p_.ajustes.font, txtAscii_->Texto())); },
@@ -52,7 +48,9 @@ void frmMain::Guardar() {
 
 void frmMain::CopiarTexto() {
   if (txtAscii_->EstaVacia()) return;
-  desktop_.entorno.CopyText(p_.basAscii.ProducedText);
+  // What was only typed or drawn by hand was never produced: then the text itself is copied.
+  const std::string& produced = p_.basAscii.ProducedText;
+  desktop_.entorno.CopyText(produced.empty() ? txtAscii_->Texto() : produced);
   const Font& font = p_.ajustes.font;
   desktop_.dialogos.Inform("Dibujo copiado en el portapapeles.\r\nUsar fuente: " + font.name +
                            ". Tamaño: " + std::to_string(font.points));

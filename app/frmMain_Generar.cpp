@@ -3,8 +3,10 @@
 #include <QScrollBar>
 
 #include "app/MarcoDeImagen.h"
+#include "app/MenuDeImagen.h"
 #include "app/Muestra.h"
 #include "app/frmMain.h"
+#include "app/frmOpcAlgoritmo.h"
 #include "app/frmPreview.h"
 #include "platform/qt/AreaDeTexto.h"
 #include "programa/Generar.h"
@@ -32,7 +34,10 @@ void frmMain::Play() {
 
 void frmMain::Generar(int method) {
   if (!pixmosa::Generar(p_, method)) return;
+  if (!txtAscii_->PuedeDeshacer()) Decir({});
+  txtAscii_->Alinear(Qt::AlignLeft);
   MostrarTexto();
+  AvisarSiHaSalidoEnBlanco(method);
   if (p_.vistaPrevia && !p_.animArt) ShowPreview();
 }
 
@@ -45,11 +50,32 @@ void frmMain::Caducar(int method) {
 void frmMain::ShowPreview() {
   if (p_.basAscii.ProducedText.empty()) return;
   if (!preview_) preview_ = new frmPreview(this);
-  preview_->Mostrar(p_.basAscii.ProducedText, p_.ajustes.font);
+  preview_->Mostrar(p_.basAscii.ProducedText, p_.ajustes.font, p_.fondoTexto, p_.colorTexto);
 }
 
 void frmMain::MostrarImagen() {
   marco_->Mostrar(p_.imagen.picMain);
+  ActualizarAcciones();
+}
+
+void frmMain::AvisarSiHaSalidoEnBlanco(int method) {
+  if (method == kGrayscale || p_.basAscii.ProducedText.find_first_not_of(" \r\n") != std::string::npos)
+    return;
+  Decir(
+      QStringLiteral("El dibujo ha salido en blanco: este modo necesita una imagen en blanco y negro puros."),
+      QStringLiteral("Ponerla en blanco y negro"), [this, method] {
+        imagen_->PonerEnBlancoYNegro();
+        Generar(method);
+      });
+}
+
+void frmMain::ActualizarAcciones() {
+  const bool picture = HayImagen(p_), text = !txtAscii_->EstaVacia();
+  imagen_->PonerDisponible(picture);
+  opciones_->PonerImagenDisponible(picture);
+  acciones_.at("mnuGuardar")->setEnabled(text);
+  acciones_.at("mnuClipboard")->setEnabled(text);
+  acciones_.at("mnuPreviewAsciiArt")->setEnabled(!p_.basAscii.ProducedText.empty());
 }
 
 void frmMain::MostrarTexto() {

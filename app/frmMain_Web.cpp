@@ -1,7 +1,4 @@
 // Coloured pages, the frames of a GIF and animation pages.
-#include <QMenuBar>
-#include <QToolBar>
-
 #include "app/frmMain.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "platform/qt/AreaDeTexto.h"
@@ -26,8 +23,8 @@ void frmMain::GenerarWebArt() {
   settings.exactCopy = p_.modo == kModoCopiaExacta;
   if (settings.paleta == 0) p_.azar.SeedFromSystem();
   PrepararPaleta(p_.basWeb, settings, p_.azar);
-  const std::string file =
-      Recortada(desktop_.dialogos.SaveFile("Guardar el WebArt", "Archivo HTML|*.html", "html"));
+  const std::string file = Recortada(
+      desktop_.dialogos.SaveFile("Guardar el WebArt", "Archivo HTML|*.html", "html", NombreDeImagen(p_)));
   if (file.empty()) return;
   progreso_.Show();
   progreso_.Repintar();
@@ -35,6 +32,7 @@ void frmMain::GenerarWebArt() {
       desktop_.dialogos, [&] { EscribirWebArt(p_.basWeb, settings, p_.imagen.picMain, file); },
       "Error al guardar");
   progreso_.Hide();
+  if (written) NombrarArchivo("Página escrita", file);
   if (written && p_.vistaPrevia) AbrirPagina(file);
 }
 
@@ -68,8 +66,8 @@ void frmMain::AnimArtDirectorio() {
 }
 
 void frmMain::GenerarAnimArt(const Serie& frames) {
-  const std::string file =
-      Recortada(desktop_.dialogos.SaveFile("Guardar el AnimArt", "Archivo HTML|*.html", "html"));
+  const std::string file = Recortada(
+      desktop_.dialogos.SaveFile("Guardar el AnimArt", "Archivo HTML|*.html", "html", frames.nombre));
   if (file.empty()) return;
   Ocupar(true);
   bool written = false;
@@ -80,8 +78,10 @@ void frmMain::GenerarAnimArt(const Serie& frames) {
                                     [&](std::size_t k) { return SeguirAnimacion(k, frames.cuantos); });
       },
       "Error al guardar");
-  const bool leave = cerrarDespues_;
+  const bool leave = cerrarDespues_, cancelled = cancelada_;
   Ocupar(false);
+  if (written) NombrarArchivo("Animación escrita", file);
+  if (cancelled) Decir("Animación cancelada: no se ha escrito nada.");
   if (leave) {
     close();
   } else if (written && p_.vistaPrevia) {
@@ -99,22 +99,7 @@ bool frmMain::SeguirAnimacion(std::size_t k, std::size_t frames) {
   if (last && p_.vistaPrevia && !p_.animArt) ShowPreview();
   progreso_.SetValue(static_cast<int>(100 * (k + 1) / frames));
   progreso_.Yield();
-  return !cerrarDespues_;
-}
-
-void frmMain::Ocupar(bool busy) {
-  ocupada_ = busy;
-  cerrarDespues_ = cerrarDespues_ && !busy;
-  for (QToolBar* bar : barras_) bar->setEnabled(!busy);
-  menuBar()->setEnabled(!busy);
-  PicAlgoritmos_->setEnabled(!busy);
-  txtAscii_->setReadOnly(busy);
-  setAcceptDrops(!busy);
-  if (busy) {
-    progreso_.Show();
-  } else {
-    progreso_.Hide();
-  }
+  return !cancelada_ && !cerrarDespues_;
 }
 
 }  // namespace pixmosa

@@ -3,9 +3,11 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -141,6 +143,19 @@ bool frmOpcAlgoritmo::ElegirColor(QPushButton* swatch, Colour& colour) {
   colour = chosen;
   PintarMuestra(swatch, chosen);
   return true;
+}
+
+bool frmOpcAlgoritmo::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == lblAnimArt_ && event->type() == QEvent::MouseButtonRelease) chkAnimArt_->click();
+  // A file dropped on the palette's text is for the window, which loads it.
+  const bool file = watched == txtPaletaWeb_ && event->type() == QEvent::DragEnter &&
+                    static_cast<QDragEnterEvent*>(event)->mimeData()->hasUrls();
+  if (file) event->ignore();
+  return file;
+}
+
+void frmOpcAlgoritmo::PonerImagenDisponible(bool available) {
+  cmdBN_->setEnabled(available);
 }
 
 void frmOpcAlgoritmo::MostrarAnimArt() {

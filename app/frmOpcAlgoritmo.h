@@ -33,12 +33,19 @@ class frmOpcAlgoritmo final : public QWidget {
   // elsewhere.
   void MostrarAnimArt();
 
+  // There is a working picture, or none: what works on it can be chosen, or not.
+  void PonerImagenDisponible(bool available);
+
  signals:
   void TextoCaducado(int method);  // the text has to be made again by this method
   void LetrerosVisibles(bool shown);
   void ColoresCambiados();
   void BlancoYNegroPedido();
   void FotogramasPedidos();
+
+ protected:
+  // A click on the caption of "Generar AnimArt del GIF" ticks its box.
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   // --- frmOpcAlgoritmo_Paneles.cpp: what there is ---

@@ -180,6 +180,7 @@ QWidget* frmOpcAlgoritmo::CrearAnimArt() {
   chkAnimArt_->setToolTip(QStringLiteral("Al generar, crea la animación en vez de un solo texto"));
   lblAnimArt_ = named<QLabel>("lblAnimArt", QStringLiteral("Generar AnimArt del GIF"));
   lblAnimArt_->setBuddy(chkAnimArt_);
+  lblAnimArt_->installEventFilter(this);
   cmdGIFAvance_ = named<QPushButton>("cmdGIFAvance", QStringLiteral("Avanzado >>"));
   cmdGIFAvance_->setToolTip(QStringLiteral("Elige los fotogramas de la animación"));
   auto* row = new QHBoxLayout(mrcAnimArt_);
@@ -223,6 +224,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaWeb() {
   cboPaletaWeb_->setToolTip(QStringLiteral("Caracteres que se repiten por toda la página"));
   txtPaletaWeb_ = named<QLineEdit>("txtPaletaWeb");
   txtPaletaWeb_->setEnabled(false);
+  txtPaletaWeb_->installEventFilter(this);
   txtPaletaWeb_->setToolTip(QStringLiteral("El texto que se repite por toda la página"));
   mosaic->addLayout(Fila("&Paleta", cboPaletaWeb_));
   mosaic->addLayout(Fila("Paleta de te&xto", txtPaletaWeb_));

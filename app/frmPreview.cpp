@@ -3,6 +3,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "app/Muestra.h"
 #include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Named.h"
 
@@ -13,14 +14,14 @@ frmPreview::frmPreview(QWidget* parent) : QDialog(parent, Qt::Window) {
   setWindowTitle(QStringLiteral("Vista previa"));
   txtAscii_ = named<AreaDeTexto>("txtAscii");
   txtAscii_->setReadOnly(true);
-  txtAscii_->PonerColores(Qt::white, Qt::black);
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(txtAscii_);
   resize(screen()->availableSize() * 9 / 10);
 }
 
-void frmPreview::Mostrar(std::string_view text, const Font& font) {
+void frmPreview::Mostrar(std::string_view text, const Font& font, Colour background, Colour ink) {
+  txtAscii_->PonerColores(QColorOf(background), QColorOf(ink));
   txtAscii_->PonerFuente(font);
   txtAscii_->PonerTexto(text);
   show();

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+#include "platform/Colour.h"
 #include "platform/Font.h"
 
 namespace pixmosa {
@@ -18,7 +19,7 @@ class frmPreview final : public QDialog {
   explicit frmPreview(QWidget* parent);
 
   // Shows the window with a text of the 8-bit code page.
-  void Mostrar(std::string_view text, const Font& font);
+  void Mostrar(std::string_view text, const Font& font, Colour background, Colour ink);
 
  private:
   AreaDeTexto* txtAscii_;

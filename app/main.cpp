@@ -60,7 +60,7 @@ int main(int argc, char** argv) {
     scratch = std::make_unique<PrivateFolder>(std::filesystem::temp_directory_path(), "KTW");
     program.basGif.carpeta = scratch->Path();
   } catch (const std::exception& e) {
-    dialogs.Fail(FraseDe(e), {});  // pictures load all the same; only animated GIFs are not cut
+    dialogs.Fail(FraseDe(e), {}, {});  // pictures load all the same; only animated GIFs are not cut
   }
   frmMain window(program, {dialogs, shell, registry});
   dialogs.SetOwner(&window);

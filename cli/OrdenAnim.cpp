@@ -16,14 +16,16 @@ Serie SerieDe(const Programa& p, Consola& consola, const std::string& operand) {
   if (std::error_code ec; std::filesystem::is_directory(operand, ec)) return SerieDeCarpeta(p, operand);
   auto gif = std::make_shared<const std::string>(LeerGif(consola, operand));
   const GifCut cut = CutGif(*gif);
-  return {cut.positions.size(), [&codec = p.codec, gif, cut, operand](std::size_t k) {
+  return {cut.positions.size(),
+          [&codec = p.codec, gif, cut, operand](std::size_t k) {
             return codec.ReadBytes(cut.FrameFile(*gif, k), operand);
-          }};
+          },
+          {}};
 }
 
 // The frames of a series with these numbers, from 0.
 Serie Elegidos(const Serie& all, const std::vector<std::size_t>& numbers) {
-  return {numbers.size(), [all, numbers](std::size_t k) { return all.leer(numbers[k]); }};
+  return {numbers.size(), [all, numbers](std::size_t k) { return all.leer(numbers[k]); }, {}};
 }
 
 // The chosen frames (0-based), ascending; all without the option.

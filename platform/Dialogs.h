@@ -23,8 +23,9 @@ class Dialogs {
   virtual std::string OpenFile(const std::string& title, const std::string& filter) = 0;
   // Several files; none on cancel.
   virtual std::vector<std::string> OpenFiles(const std::string& title, const std::string& filter) = 0;
+  // `proposal` is the file name that stands there at first.
   virtual std::string SaveFile(const std::string& title, const std::string& filter,
-                               const std::string& defaultExtension) = 0;
+                               const std::string& defaultExtension, const std::string& proposal = {}) = 0;
   virtual std::string ChooseFolder(const std::string& title) = 0;
 
   // The chosen colour, or kNoColour on cancel.
@@ -35,8 +36,9 @@ class Dialogs {
   virtual bool Ask(const std::string& text, const std::string& title = {}) = 0;
   // Information icon and OK.
   virtual void Inform(const std::string& text, const std::string& title = {}) = 0;
-  // Critical icon and OK.
-  virtual void Fail(const std::string& text, const std::string& title = {}) = 0;
+  // Critical icon and OK; `detail` says more below the text.
+  virtual void Fail(const std::string& text, const std::string& title = {},
+                    const std::string& detail = {}) = 0;
 };
 
 }  // namespace pixmosa

@@ -9,10 +9,10 @@ namespace {
 // Ends the writing of a page from inside; never leaves this file.
 struct Cancelada {};
 
-Serie SerieDeArchivos(const Programa& p, std::vector<std::filesystem::path> files) {
+Serie SerieDeArchivos(const Programa& p, std::vector<std::filesystem::path> files, std::string name) {
   const std::size_t count = files.size();
-  return {count,
-          [&codec = p.codec, files = std::move(files)](std::size_t k) { return codec.Read(files[k]); }};
+  return {count, [&codec = p.codec, files = std::move(files)](std::size_t k) { return codec.Read(files[k]); },
+          std::move(name)};
 }
 
 void PonerFotograma(Programa& p, const Serie& frames, std::size_t k) {
@@ -30,11 +30,11 @@ Serie SerieDeGif(const Programa& p) {
   std::vector<std::filesystem::path> files;
   for (const std::string& number : p.basGif.Seleccionados)
     files.push_back(ArchivoDeFotograma(p.basGif.carpeta, number));
-  return SerieDeArchivos(p, std::move(files));
+  return SerieDeArchivos(p, std::move(files), NombreDeImagen(p));
 }
 
 Serie SerieDeCarpeta(const Programa& p, const std::filesystem::path& folder) {
-  return SerieDeArchivos(p, ImagenesDeCarpeta(folder));
+  return SerieDeArchivos(p, ImagenesDeCarpeta(folder), folder.filename().string());
 }
 
 bool EscribirAnimacion(Programa& p, const Serie& frames, const std::filesystem::path& file,

@@ -15,6 +15,7 @@ namespace pixmosa {
 struct Serie {
   std::size_t cuantos = 0;
   std::function<Picture(std::size_t)> leer{};  // throws PictureError
+  std::string nombre{};                        // what a page of it may be called
 };
 
 // The chosen frames of the last GIF, from their files.

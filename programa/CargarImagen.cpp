@@ -16,6 +16,7 @@ void CargarImagen(Programa& p, const std::filesystem::path& file) {
   const bool frames = TerminaEnGif(file) && !p.basGif.carpeta.empty();
   if (frames) CortarGif(p.basGif, file);
   p.imagen.Cargar(std::move(loaded));
+  p.archivo = file;
   p.animArtDisponible = frames && p.basGif.AnimArtDisponible();
   p.animArt = p.animArt && p.animArtDisponible;
 }

@@ -31,6 +31,7 @@ struct Programa {
   bool animArtDisponible = false;  // the working picture came from a GIF of two frames or more
   Colour fondoTexto = kWhite, colorTexto = kBlack, fondoWeb = kBlack;
 
+  std::filesystem::path archivo{};  // that the working picture came from
   ImagenDeTrabajo imagen{};
   MFiltros mFiltros{};
   BasAscii basAscii{};
@@ -42,6 +43,11 @@ struct Programa {
   BasGif basGif{};
   Random azar{};
 };
+
+// The working picture's own name, without folder and ending; nothing without a picture.
+inline std::string NombreDeImagen(const Programa& p) {
+  return p.archivo.stem().string();
+}
 
 inline bool HayImagen(const Programa& p) {
   return !p.imagen.picMain.IsEmpty();

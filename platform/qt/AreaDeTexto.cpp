@@ -1,7 +1,15 @@
 #include "platform/qt/AreaDeTexto.h"
 
+#include <algorithm>
+#include <utility>
+
+#include <QAction>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMimeData>
+#include <QPainter>
 #include <QSyntaxHighlighter>
 #include <QTextBlock>
 
@@ -73,6 +81,20 @@ AreaDeTexto::AreaDeTexto(QWidget* parent) : QPlainTextEdit(parent) {
 AreaDeTexto::~AreaDeTexto() = default;
 
 void AreaDeTexto::PonerTexto(std::string_view bytes) {
+  const bool edited = EditadaAMano();
+  if (edited) editada_ = Texto();
+  puesta_ = bytes;
+  Mostrar(bytes);
+  if (edited) emit TextoSustituido();
+}
+
+void AreaDeTexto::RecibirTexto(std::string_view bytes) {
+  editada_ = Texto();
+  Mostrar(bytes);
+  document()->setModified(true);
+}
+
+void AreaDeTexto::Mostrar(std::string_view bytes) {
   QString held(static_cast<qsizetype>(bytes.size()), Qt::Uninitialized);
   QChar* to = held.data();
   bool standIns = false;
@@ -90,6 +112,39 @@ void AreaDeTexto::PonerTexto(std::string_view bytes) {
   blanqueador_.reset();
   setPlainText(held);
   if (standIns) blanqueador_ = std::make_unique<Blanqueador>(document());
+  AjustarAlineacion();
+}
+
+bool AreaDeTexto::EditadaAMano() const {
+  // An empty document counts as changed once it has got its font.
+  return document()->isModified() && Texto() != puesta_;
+}
+
+bool AreaDeTexto::SinGuardar() const {
+  return EditadaAMano() && Texto() != guardada_;
+}
+
+void AreaDeTexto::DarPorGuardada() {
+  guardada_ = Texto();
+}
+
+bool AreaDeTexto::PuedeDeshacer() const {
+  return document()->isUndoAvailable() || editada_;
+}
+
+void AreaDeTexto::Deshacer() {
+  if (document()->isUndoAvailable()) {
+    undo();
+  } else if (editada_) {
+    const std::string text = *std::exchange(editada_, std::nullopt);
+    Mostrar(text);
+    document()->setModified(true);
+  }
+}
+
+void AreaDeTexto::PonerPista(const QString& hint) {
+  pista_ = hint;
+  viewport()->update();
 }
 
 std::string AreaDeTexto::Texto() const {
@@ -110,13 +165,56 @@ void AreaDeTexto::PonerColores(QColor background, QColor text) {
 }
 
 void AreaDeTexto::Alinear(Qt::Alignment alignment) {
-  // Lines are laid out within the visible width only where the area would wrap; the words themselves never
-  // do.
-  setLineWrapMode(alignment.testFlag(Qt::AlignLeft) ? NoWrap : WidgetWidth);
+  alineacion_ = alignment;
   QTextOption option = document()->defaultTextOption();
   option.setAlignment(alignment);
   option.setWrapMode(QTextOption::NoWrap);
   document()->setDefaultTextOption(option);
+  AjustarAlineacion();
+}
+
+void AreaDeTexto::AjustarAlineacion() {
+  // Lines are laid out within the visible width only where the area would wrap; the words themselves never
+  // do. What is wider than that could not be scrolled to then, so it goes without.
+  if (alineacion_.testFlag(Qt::AlignLeft)) {
+    setLineWrapMode(NoWrap);
+    return;
+  }
+  int columns = 0;
+  for (QTextBlock line = document()->begin(); line.isValid(); line = line.next())
+    columns = std::max(columns, line.length() - 1);
+  const qreal width = columns * fontMetrics().horizontalAdvance(u'0') + 2 * document()->documentMargin();
+  setLineWrapMode(width > viewport()->width() ? NoWrap : WidgetWidth);
+}
+
+void AreaDeTexto::resizeEvent(QResizeEvent* event) {
+  QPlainTextEdit::resizeEvent(event);
+  AjustarAlineacion();
+}
+
+void AreaDeTexto::paintEvent(QPaintEvent* event) {
+  QPlainTextEdit::paintEvent(event);
+  if (pista_.isEmpty() || !document()->isEmpty()) return;
+  QPainter painter(viewport());
+  painter.setFont(QApplication::font());
+  painter.setPen(palette().color(QPalette::Text));
+  painter.setOpacity(0.7);
+  painter.drawText(viewport()->rect().adjusted(24, 24, -24, -24), Qt::AlignCenter | Qt::TextWordWrap, pista_);
+}
+
+bool AreaDeTexto::canInsertFromMimeData(const QMimeData* source) const {
+  // Files are for the window around, which loads them.
+  return !source->hasUrls() && QPlainTextEdit::canInsertFromMimeData(source);
+}
+
+void AreaDeTexto::contextMenuEvent(QContextMenuEvent* event) {
+  const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
+  if (editada_ && !document()->isUndoAvailable()) {
+    auto* back = new QAction(QStringLiteral("Recuperar el texto editado"), menu.get());
+    connect(back, &QAction::triggered, this, &AreaDeTexto::Deshacer);
+    menu->insertAction(menu->actions().value(0), back);
+  }
+  menu->exec(event->globalPos());
 }
 
 QMimeData* AreaDeTexto::createMimeDataFromSelection() const {
@@ -126,6 +224,11 @@ QMimeData* AreaDeTexto::createMimeDataFromSelection() const {
 }
 
 void AreaDeTexto::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Undo) && !isReadOnly()) {
+    Deshacer();
+    event->accept();
+    return;
+  }
   // Shift+Enter would begin a line inside the paragraph; here every line is one.
   if (event->matches(QKeySequence::InsertLineSeparator)) {
     if (!isReadOnly()) textCursor().insertBlock();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -24,8 +25,13 @@ class AreaDeTexto : public QPlainTextEdit {
   explicit AreaDeTexto(QWidget* parent = nullptr);
   ~AreaDeTexto() override;
 
-  // Replaces the whole text; bytes of the 8-bit code page. The history of edits starts anew.
+  // Replaces the whole text; bytes of the 8-bit code page. The history of edits starts anew, but a text that
+  // was edited by hand is kept, and Undo brings it back.
   void PonerTexto(std::string_view bytes);
+
+  // The same for a text that the user drew elsewhere: it counts as edited by hand, and Undo brings back what
+  // stood here before.
+  void RecibirTexto(std::string_view bytes);
 
   // The whole text with every code and line break as it was given; characters typed or pasted that the code
   // page lacks read as "?".
@@ -33,18 +39,45 @@ class AreaDeTexto : public QPlainTextEdit {
 
   bool EstaVacia() const { return document()->isEmpty(); }
 
+  // The text differs from the last one that was put, and was not saved since.
+  bool SinGuardar() const;
+  void DarPorGuardada();
+
+  // There is something that Undo takes back: an edit by hand, or a replaced text that was edited.
+  bool PuedeDeshacer() const;
+  void Deshacer();
+
+  // A few words shown while the text is empty, in the window's own font.
+  void PonerPista(const QString& hint);
+
   void PonerFuente(const Font& font);
   void PonerColores(QColor background, QColor text);
 
-  // How each line lies within the visible width.
+  // How each line lies within the visible width. Text wider than that lies at the left and scrolls.
   void Alinear(Qt::Alignment alignment);
 
+ signals:
+  void TextoSustituido();  // a text edited by hand gave way to another; Undo brings it back
+
  protected:
+  bool canInsertFromMimeData(const QMimeData* source) const override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   QMimeData* createMimeDataFromSelection() const override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  bool EditadaAMano() const;
+  void Mostrar(std::string_view bytes);
+  void AjustarAlineacion();
+
   std::unique_ptr<QSyntaxHighlighter> blanqueador_;
+  std::string puesta_;                  // the text that was put last
+  std::string guardada_;                // the text that was saved last
+  std::optional<std::string> editada_;  // a text that gave way to another
+  QString pista_;
+  Qt::Alignment alineacion_ = Qt::AlignLeft;
 };
 
 }  // namespace pixmosa

@@ -19,9 +19,11 @@ QString Description(const QString& text) {
   return bracket < 0 ? text : text.left(bracket);
 }
 
-void Show(QWidget* owner, QMessageBox::Icon icon, const std::string& text, const std::string& title) {
+void Show(QWidget* owner, QMessageBox::Icon icon, const std::string& text, const std::string& title,
+          const std::string& detail = {}) {
   QMessageBox box(icon, Q(title), Q(text), QMessageBox::Ok, owner);
   box.setTextFormat(Qt::PlainText);
+  box.setInformativeText(Q(detail));
   box.button(QMessageBox::Ok)->setText(QStringLiteral("Aceptar"));
   box.exec();
 }
@@ -49,10 +51,11 @@ std::vector<std::string> QtDialogs::OpenFiles(const std::string& title, const st
 }
 
 std::string QtDialogs::SaveFile(const std::string& title, const std::string& filter,
-                                const std::string& defaultExtension) {
+                                const std::string& defaultExtension, const std::string& proposal) {
   QFileDialog dialog(owner_, Q(title), {}, QtFilterOf(filter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(Q(defaultExtension));
+  if (!proposal.empty()) dialog.selectFile(Q(proposal));
   return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0).toStdString() : std::string();
 }
 
@@ -92,8 +95,8 @@ void QtDialogs::Inform(const std::string& text, const std::string& title) {
   Show(owner_, QMessageBox::Information, text, title);
 }
 
-void QtDialogs::Fail(const std::string& text, const std::string& title) {
-  Show(owner_, QMessageBox::Critical, text, title);
+void QtDialogs::Fail(const std::string& text, const std::string& title, const std::string& detail) {
+  Show(owner_, QMessageBox::Critical, text, title, detail);
 }
 
 }  // namespace pixmosa

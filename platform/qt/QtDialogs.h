@@ -16,13 +16,13 @@ class QtDialogs final : public Dialogs {
   std::string OpenFile(const std::string& title, const std::string& filter) override;
   std::vector<std::string> OpenFiles(const std::string& title, const std::string& filter) override;
   std::string SaveFile(const std::string& title, const std::string& filter,
-                       const std::string& defaultExtension) override;
+                       const std::string& defaultExtension, const std::string& proposal) override;
   std::string ChooseFolder(const std::string& title) override;
   Colour ChooseColour(Colour current) override;
   std::optional<FontChoice> ChooseFont(const Font& current) override;
   bool Ask(const std::string& text, const std::string& title) override;
   void Inform(const std::string& text, const std::string& title) override;
-  void Fail(const std::string& text, const std::string& title) override;
+  void Fail(const std::string& text, const std::string& title, const std::string& detail) override;
 
  private:
   QPointer<QWidget> owner_;

@@ -48,9 +48,12 @@ Picture QtTextSurface::PrintCharacters(const Font& font, Extent cell, int first,
 
 std::vector<std::string> QtTextSurface::ListFixedFonts() {
   std::vector<std::string> names;
-  for (const QString& family : QFontDatabase::families())
-    if (QFontDatabase::isFixedPitch(family) && !QFontDatabase::isPrivateFamily(family))
-      names.push_back(family.toStdString());
+  for (const QString& family : QFontDatabase::families()) {
+    // An alias such as "Monospace" is listed too, and is no family that could be asked for by its name.
+    const std::string name = family.toStdString();
+    if (QFontDatabase::isFixedPitch(family) && !QFontDatabase::isPrivateFamily(family) && FontInstalled(name))
+      names.push_back(name);
+  }
   std::sort(names.begin(), names.end(), [](const std::string& a, const std::string& b) {
     return QString::compare(QString::fromStdString(a), QString::fromStdString(b), Qt::CaseInsensitive) < 0;
   });

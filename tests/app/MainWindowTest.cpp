@@ -2,13 +2,15 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDropEvent>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QMimeData>
 #include <QScrollBar>
-#include <QStatusBar>
+#include <QSlider>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include "app/MarcoDeImagen.h"
 #include "app/frmPreview.h"
@@ -49,6 +51,9 @@ class MainWindowTest : public QObject {
   void DroppedPictureLoads();
   void SavesTheEditedTextAndCopiesTheGenerated();
   void SaveSaysWhatIsWrong();
+  void WhatHasNothingToWorkOnIsOff();
+  void ReplacedHandEditsComeBack();
+  void WideTextAlwaysScrolls();
   void EveryCodeGoesThroughTheTextArea();
   void FontDialogMeasuresAgainAndPrompts();
   void FixedFontListAppliesTheChosenRow();
@@ -135,7 +140,7 @@ void MainWindowTest::FailedLoadsLeaveEverything() {
   QVERIFY(m.program.imagen.picMain.SharesBlockWith(before.picMain));
   QVERIFY(m.program.imagen.picUndo.SharesBlockWith(before.picUndo));
   QCOMPARE(m.Text(), text);
-  QVERIFY(m.window.statusBar()->currentMessage().contains("no-existe.gif"));
+  QVERIFY2(m.dialogs.details.back().find("no-existe.gif") != std::string::npos, "the reason stands below");
 }
 
 void MainWindowTest::DroppedPictureLoads() {
@@ -148,6 +153,10 @@ void MainWindowTest::DroppedPictureLoads() {
   QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(&m.window, &drop);
   QCOMPARE(m.program.imagen.picMain.Width(), 3);
+  AreaDeTexto area;
+  QDragEnterEvent over({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(area.viewport(), &over);
+  QVERIFY2(!over.isAccepted(), "a text area leaves a file to the window around");
 }
 
 void MainWindowTest::SavesTheEditedTextAndCopiesTheGenerated() {
@@ -185,6 +194,51 @@ void MainWindowTest::SaveSaysWhatIsWrong() {
            "Fail|Error al guardar|No se ha podido escribir \"/dev/full\": no queda espacio en el disco.");
   m.Trigger("Guardar");
   QCOMPARE(m.dialogs.log.back(), "SaveFile|Guardar el AsciiArt...|*.txt|txt");
+}
+
+void MainWindowTest::WhatHasNothingToWorkOnIsOff() {
+  test::MainWindow m;
+  const auto on = [&](const char* name) { return Find<QAction>(m.window, name).isEnabled(); };
+  for (const char* name :
+       {"mnuNegativo", "mnuHFlip", "mnuUndoPicture", "Guardar", "VistaPrevia", "mnuClipboard"})
+    QVERIFY2(!on(name), name);
+  QVERIFY(on("Play") && on("mnuImagePreview") && on("mnuEditor"));
+  m.Load(Grays({{0, 255}}));
+  QVERIFY(on("mnuNegativo") && !on("Guardar"));
+  m.Trigger("Play");
+  QVERIFY(on("Guardar") && on("VistaPrevia") && on("mnuClipboard"));
+}
+
+void MainWindowTest::ReplacedHandEditsComeBack() {
+  test::MainWindow m;
+  m.Load(Grays({{0, 255}, {255, 0}}));
+  m.Trigger("Play");
+  m.Area().setFocus();
+  QTest::keyClicks(&m.Area(), "hola");
+  const std::string edited = m.Text();
+  for (const int light : {10, 20, 30}) {
+    Find<QSlider>(m.window, "sldLuminosidad").setValue(light);
+    QCoreApplication::processEvents();
+    QTest::qWait(1);
+  }
+  QVERIFY(m.Text() != edited);
+  QVERIFY(LabelText(m.window, "lblEnlace").startsWith("El texto editado a mano se ha sustituido."));
+  QTest::keyClick(&m.Area(), Qt::Key_Z, Qt::ControlModifier);
+  QCOMPARE(m.Text(), edited);
+}
+
+void MainWindowTest::WideTextAlwaysScrolls() {
+  AreaDeTexto area;
+  area.resize(200, 100);
+  area.show();
+  area.PonerTexto("corta\r\nno");
+  area.Alinear(Qt::AlignHCenter);
+  QVERIFY(area.cursorRect().x() > 40);
+  area.PonerTexto(std::string(500, 'x') + "\r\nno");
+  QTest::qWait(1);
+  QVERIFY(area.horizontalScrollBar()->maximum() > 0);
+  area.horizontalScrollBar()->setValue(0);
+  QVERIFY2(area.cursorRect().x() >= 0, "its left part is reached");
 }
 
 void MainWindowTest::EveryCodeGoesThroughTheTextArea() {
@@ -238,6 +292,9 @@ void MainWindowTest::FixedFontListAppliesTheChosenRow() {
     QCOMPARE(LabelText(*list, "lblFontCount"), QString("Fuentes encontradas: %1").arg(names.size()));
     auto& rows = Find<QListWidget>(*list, "lvwFuentes");
     QCOMPARE(rows.count(), static_cast<int>(names.size()));
+    rows.setFocus();
+    QApplication::sendEvent(&rows, std::make_unique<QFocusEvent>(QEvent::FocusIn).get());
+    QCOMPARE(m.program.ajustes.font, Font());
     rows.setCurrentItem(rows.findItems("DejaVu Sans Mono", Qt::MatchExactly).value(0));
     list->close();
   });
@@ -265,6 +322,14 @@ void MainWindowTest::ScrollBarsMoveThePictureInSteps() {
   bar.setValue(bar.maximum());
   const int hidden = 1500 - Find<QWidget>(m.window, "picMarco").width();
   QCOMPARE(Find<QWidget>(m.window, "picMain").x(), -(hidden / 6 * 6));
+  // A touchpad's small turns add up to the same way as one turn of a wheel: three steps.
+  bar.setValue(0);
+  QWidget& frame = *Find<QWidget>(m.window, "picMarco").parentWidget();
+  for (int i = 0; i < 40; ++i) {
+    QWheelEvent turn({5, 5}, {5, 5}, {}, {-3, 0}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&frame, &turn);
+  }
+  QCOMPARE(bar.value(), 3 * 6);
   m.Load(Picture::Filled(20, 20, kWhite));
   QCOMPARE(Find<QWidget>(m.window, "picMain").pos(), QPoint(0, 0));
   QVERIFY(!bar.isEnabled());

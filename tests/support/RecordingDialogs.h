@@ -15,6 +15,7 @@ namespace pixmosa::test {
 class RecordingDialogs final : public Dialogs {
  public:
   std::vector<std::string> log;
+  std::vector<std::string> proposals, details;  // of SaveFile and Fail
   std::deque<std::string> paths;
   std::deque<Colour> colours;
   std::deque<FontChoice> fonts;
@@ -31,8 +32,9 @@ class RecordingDialogs final : public Dialogs {
     return all;
   }
   std::string SaveFile(const std::string& title, const std::string& filter,
-                       const std::string& extension) override {
+                       const std::string& extension, const std::string& proposal) override {
     log.push_back("SaveFile|" + title + "|" + filter + "|" + extension);
+    proposals.push_back(proposal);
     return Take(paths, {});
   }
   std::string ChooseFolder(const std::string& title) override {
@@ -55,8 +57,9 @@ class RecordingDialogs final : public Dialogs {
   void Inform(const std::string& text, const std::string& title) override {
     log.push_back("Inform|" + title + "|" + text);
   }
-  void Fail(const std::string& text, const std::string& title) override {
+  void Fail(const std::string& text, const std::string& title, const std::string& detail) override {
     log.push_back("Fail|" + title + "|" + text);
+    if (!detail.empty()) details.push_back(detail);
   }
 
  private:

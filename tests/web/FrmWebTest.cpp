@@ -113,7 +113,7 @@ void FrmWebTest::AnimationFromAGif() {
   Window m;
   m.LoadBytes("a.gif", Gif({1, 0, 1}));
   Find<QSlider>(m.window, "sldTamaño").setValue(2);
-  Find<QCheckBox>(m.window, "chkAnimArt").click();
+  QTest::mouseClick(&Find<QLabel>(m.window, "lblAnimArt"), Qt::LeftButton);
   Find<QCheckBox>(m.window, "chkAsciiPrev").setChecked(true);
   m.program.basGif.Seleccionados = {"02", "03"};
   const std::string file = m.folder.File("p.html");
@@ -230,6 +230,16 @@ void FrmWebTest::ClosingInTheMiddleIsSafe() {
   m.LoadBytes("a.gif", Gif(std::vector<int>(400, 1)));
   Find<QCheckBox>(m.window, "chkAnimArt").click();
   const std::string file = m.folder.File("p.html");
+  m.dialogs.paths = {file};
+  QTimer::singleShot(0, [&] {
+    auto& cancel = Find<QPushButton>(m.window, "cmdCancelar");
+    QVERIFY(cancel.isVisible() && !Find<QWidget>(m.window, "PicAlgoritmos").isEnabled());
+    cancel.click();
+  });
+  m.Trigger("Play");
+  QVERIFY(!std::filesystem::exists(file) && m.window.isVisible());
+  QCOMPARE(Find<QLabel>(m.window, "lblEnlace").text(), "Animación cancelada: no se ha escrito nada.");
+
   m.dialogs.paths = {file};
   QTimer::singleShot(0, [&] {
     m.Trigger("mnuLoadImage");  // its menu is off: nothing happens

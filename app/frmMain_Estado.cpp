@@ -1,0 +1,69 @@
+// The left part of the status bar: a sentence with a link; and what long work shows and allows.
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "app/frmMain.h"
+#include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/Intentar.h"
+#include "platform/qt/Named.h"
+#include "platform/qt/QtText.h"
+
+namespace pixmosa {
+
+void frmMain::CrearEstados() {
+  lblEnlace_ = named<QLabel>("lblEnlace");
+  lblEnlace_->setTextInteractionFlags(Qt::TextBrowserInteraction);
+  lblEnlace_->setMinimumWidth(1);
+  statusBar()->addWidget(lblEnlace_, 1);
+  connect(lblEnlace_, &QLabel::linkActivated, this, Con(desktop_.dialogos, [this](const QString&) {
+            if (alSeguirEnlace_) alSeguirEnlace_();
+          }));
+  cmdCancelar_ = named<QPushButton>("cmdCancelar", QStringLiteral("Cancelar"));
+  cmdCancelar_->setToolTip(QStringLiteral("Deja de escribir la página (Escape)"));
+  cmdCancelar_->hide();
+  statusBar()->insertPermanentWidget(1, cmdCancelar_);
+  connect(cmdCancelar_, &QAbstractButton::clicked, this, &frmMain::Cancelar);
+  escape_ = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+  escape_->setEnabled(false);
+  connect(escape_, &QShortcut::activated, this, &frmMain::Cancelar);
+}
+
+void frmMain::Decir(const QString& text, const QString& link, std::function<void()> follow) {
+  alSeguirEnlace_ = std::move(follow);
+  const QString anchor = link.isEmpty() ? QString() : " <a href=\"#\">" + link.toHtmlEscaped() + "</a>";
+  lblEnlace_->setText(text.toHtmlEscaped() + anchor);
+  lblEnlace_->setToolTip(text);
+}
+
+void frmMain::NombrarArchivo(const QString& what, const std::string& file) {
+  Decir(what + ": " + Q(std::filesystem::path(file).filename().string()) + ".", QStringLiteral("Abrir"),
+        [this, file] { AbrirPagina(file); });
+}
+
+void frmMain::Ocupar(bool busy) {
+  ocupada_ = busy;
+  cancelada_ = cerrarDespues_ = false;
+  for (QToolBar* bar : barras_) bar->setEnabled(!busy);
+  menuBar()->setEnabled(!busy);
+  PicAlgoritmos_->setEnabled(!busy);
+  txtAscii_->setReadOnly(busy);
+  setAcceptDrops(!busy);
+  cmdCancelar_->setVisible(busy);
+  escape_->setEnabled(busy);
+  if (busy) {
+    Decir({});
+    progreso_.Show();
+  } else {
+    progreso_.Hide();
+  }
+}
+
+void frmMain::Cancelar() {
+  cancelada_ = true;
+}
+
+}  // namespace pixmosa
