@@ -107,7 +107,7 @@ class frmMain final : public QMainWindow {
 
   void CortarFotogramas(const std::filesystem::path& file);  // throws FileError
   void GenerarAnimArt(const std::vector<std::filesystem::path>& frames);
-  std::string TextoDeFotograma(const std::vector<std::filesystem::path>& frames, std::size_t k);
+  std::string& TextoDeFotograma(const std::vector<std::filesystem::path>& frames, std::size_t k);
   void AbrirPagina(const std::string& file);
   void Ocupar(bool busy);  // while a long work lets events in: nothing else can be started
 

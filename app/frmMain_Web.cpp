@@ -113,7 +113,7 @@ void frmMain::GenerarAnimArt(const std::vector<std::filesystem::path>& frames) {
   Ocupar(true);
   try {
     EscribirAnimArt(file, frames.size(), BytesOfUtf8(programa_.ajustes.font.name),
-                    [&](std::size_t k) { return TextoDeFotograma(frames, k); });
+                    [&](std::size_t k) -> std::string& { return TextoDeFotograma(frames, k); });
     Ocupar(false);
     if (chkAsciiPrev_->isChecked()) AbrirPagina(file);
   } catch (const Cancelada&) {
@@ -125,7 +125,7 @@ void frmMain::GenerarAnimArt(const std::vector<std::filesystem::path>& frames) {
   }
 }
 
-std::string frmMain::TextoDeFotograma(const std::vector<std::filesystem::path>& frames, std::size_t k) {
+std::string& frmMain::TextoDeFotograma(const std::vector<std::filesystem::path>& frames, std::size_t k) {
   try {
     programa_.imagen.Asignar(programa_.plataforma.imagenes.Read(frames[k]));
   } catch (const PictureError&) {
@@ -133,7 +133,7 @@ std::string frmMain::TextoDeFotograma(const std::vector<std::filesystem::path>& 
   }
   opciones_->LlenarAjustes(programa_.ajustes);
   std::string& text = programa_.basAscii.ProducedText;
-  if (!HayImagen()) return text = EscaparTexto(text);
+  if (!HayImagen()) return text;
   pixmosa::GenerateAscii(programa_.basAscii, programa_.ajustes, Imagen(), kGrayscale);
   const bool last = k + 1 == frames.size();
   if (last || !desdeElTexto_.isValid() || desdeElTexto_.elapsed() > kMilisegundosEntreTextos) {
@@ -142,7 +142,6 @@ std::string frmMain::TextoDeFotograma(const std::vector<std::filesystem::path>& 
     desdeElTexto_.start();
   }
   if (last && chkAsciiPrev_->isChecked() && !opciones_->AnimArt()) ShowPreview();
-  text = EscaparTexto(text);
   progreso_->SetValue(static_cast<int>(100 * (k + 1) / frames.size()));
   progreso_->Yield();
   if (cerrarDespues_) throw Cancelada();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <memory>
 
 #include "cli/Lista.h"
 #include "cli/OpcionesDeTexto.h"
@@ -24,10 +25,10 @@ Serie SerieDe(Consola& consola, const std::string& operand) {
     const auto files = ImagenesDeCarpeta(operand);
     return {files.size(), [&consola, files](std::size_t k) { return consola.Imagenes().Read(files[k]); }};
   }
-  const std::string gif = LeerGif(consola, operand);
-  const GifCut cut = CutGif(gif);
-  return {cut.positions.size(), [&consola, gif, cut, operand](std::size_t k) {
-            return consola.Imagenes().ReadBytes(cut.FrameFile(gif, k), operand);
+  const auto gif = std::make_shared<FuenteGif>(AbrirGif(consola, operand));
+  const auto cut = std::make_shared<const GifCut>(CutGif(*gif));
+  return {cut->positions.size(), [&consola, gif, cut, operand](std::size_t k) {
+            return consola.Imagenes().ReadBytes(FrameFile(*gif, *cut, k), operand);
           }};
 }
 
@@ -58,14 +59,14 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   if (series.cuantos == 0) throw ErrorDeTrabajo("No hay fotogramas en \"" + operand + "\".");
   const std::vector<std::size_t> chosen = Elegidos(arguments, series.cuantos);
   Conversion c = PrepararConversion(consola, arguments);
-  EscribirAnimArt(file, chosen.size(), BytesOfUtf8(c.ajustes.font.name), [&](std::size_t k) {
+  EscribirAnimArt(file, chosen.size(), BytesOfUtf8(c.ajustes.font.name), [&](std::size_t k) -> std::string& {
     consola.Progreso("Fotograma", k, chosen.size());
     try {
       GenerateAscii(c.ascii, c.ajustes, series.leer(chosen[k]), kGrayscale);
     } catch (const PictureError&) {
       // A frame that cannot be read repeats the one before.
     }
-    return EscaparTexto(c.ascii.ProducedText);
+    return c.ascii.ProducedText;
   });
   consola.Progreso("Fotograma", chosen.size(), chosen.size());
   return 0;
