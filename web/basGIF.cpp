@@ -13,7 +13,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr char kIntroducer = 0x21, kGraphicControl = static_cast<char>(0xF9);
-constexpr std::size_t kMostFrames = 100'000;
+constexpr std::size_t kMostFrames = 100'000, kMegabyte = 1'000'000;
 constexpr std::string_view kPrincipio = "Fotograma ";
 // A real header is a few hundred bytes, so copies of it are a small part of all; what goes far beyond the
 // GIF's own size is a file made to fill the disk.
@@ -39,7 +39,8 @@ class Buscador {
   GifCut Terminar() {
     const std::size_t n = cut_.positions.size();
     if (n > 0 && cut_.HeaderLength() > kMostForHeaders / n + cut_.length / n)
-      throw FileError("El GIF tiene demasiados fotogramas: " + std::to_string(n) + ".");
+      throw FileError("El GIF tiene demasiados fotogramas: " + std::to_string(n) + ", que ocuparían " +
+                      std::to_string(cut_.HeaderLength() * n / kMegabyte) + " MB.");
     return std::move(cut_);
   }
 
