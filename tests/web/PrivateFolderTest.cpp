@@ -70,7 +70,7 @@ TEST(PrivateFolder, OneThatIsBeingRemovedIsNotTakenOver) {
   const test::TestFolder temp;
   std::atomic<int> missing = 0;
   const auto come = [&] {
-    for (int i = 0; i < 10000; ++i) {
+    for (int i = 0; i < 3000; ++i) {
       const PrivateFolder folder(temp.Path(), "KTW");
       if (!fs::exists(folder.Path())) ++missing;
     }
