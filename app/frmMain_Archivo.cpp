@@ -24,12 +24,11 @@ void frmMain::CargarImagen() {
 
 bool frmMain::AbrirImagen(const std::filesystem::path& file) {
   try {
-    pixmosa::CargarImagen(p_, file);
+    Decir(Q(pixmosa::CargarImagen(p_, file)));
   } catch (const std::exception& e) {
     desktop_.dialogos.Fail("No se ha podido cargar la imagen", "Error en la carga", FraseDe(e));
     return false;
   }
-  Decir({});
   opciones_->MostrarAnimArt();
   MostrarImagen();
   imagen_->SeguirImagen();

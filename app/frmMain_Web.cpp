@@ -74,8 +74,9 @@ void frmMain::GenerarAnimArt(const Serie& frames) {
   Intentar(
       desktop_.dialogos,
       [&] {
-        written = EscribirAnimacion(p_, frames, file,
-                                    [&](std::size_t k) { return SeguirAnimacion(k, frames.cuantos); });
+        written = EscribirAnimacion(p_, frames, file, [&](std::size_t k, const std::string&) {
+          return SeguirAnimacion(k, frames.cuantos);
+        });
       },
       "Error al guardar");
   const bool leave = cerrarDespues_, cancelled = cancelada_;

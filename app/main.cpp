@@ -7,6 +7,7 @@
 #include "app/frmMain.h"
 #include "platform/PrivateFolder.h"
 #include "platform/ProgramFolder.h"
+#include "platform/Temporales.h"
 #include "platform/qt/Intentar.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtPictureCodec.h"
@@ -37,6 +38,7 @@ class Aplicacion final : public QApplication {
 
 int main(int argc, char** argv) {
   using namespace pixmosa;
+  QuitarTemporalesAlTerminar();
   QtDialogs dialogs;
   Aplicacion app(argc, argv, dialogs);
   // No display name: the window system would add it to every caption.

@@ -4,13 +4,11 @@
 #include <string>
 
 #include "cli/Consola.h"
+#include "web/OrigenGif.h"
 
 namespace pixmosa::cli {
 
-// Throws ErrorDeTrabajo unless these are the first bytes of a GIF.
-void ExigirGif(std::string_view start, const std::string& operand);
-
-// The bytes of a GIF. Throws ErrorDeTrabajo for any other file.
-std::string LeerGif(Consola& consola, const std::string& operand);
+// The bytes of a GIF; "-" is standard input. Throws ErrorDeTrabajo for what is no GIF, FileError.
+OrigenGif AbrirGif(Consola& consola, const std::string& operand);
 
 }  // namespace pixmosa::cli

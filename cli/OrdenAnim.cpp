@@ -11,16 +11,12 @@
 namespace pixmosa::cli {
 namespace {
 
-// The pictures of the operand: a folder, or a GIF whose bytes the series keeps.
-Serie SerieDe(const Programa& p, Consola& consola, const std::string& operand) {
+// The pictures of the operand: a folder, or a GIF, whose own picture is the one that stands before its
+// frames.
+Serie SerieDe(Programa& p, Consola& consola, const std::string& operand) {
   if (std::error_code ec; std::filesystem::is_directory(operand, ec)) return SerieDeCarpeta(p, operand);
-  auto gif = std::make_shared<const std::string>(LeerGif(consola, operand));
-  const GifCut cut = CutGif(*gif);
-  return {cut.positions.size(),
-          [&codec = p.codec, gif, cut, operand](std::size_t k) {
-            return codec.ReadBytes(cut.FrameFile(*gif, k), operand);
-          },
-          {}};
+  const auto gif = std::make_shared<OrigenGif>(AbrirGif(consola, operand));
+  return SerieDeOrigen(p, gif, operand);
 }
 
 // The frames of a series with these numbers, from 0.
@@ -55,11 +51,17 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   const Serie all = SerieDe(p, consola, operand);
   if (all.cuantos == 0) throw ErrorDeTrabajo("No hay fotogramas en \"" + operand + "\".");
   const Serie chosen = Elegidos(all, Numeros(arguments, all.cuantos));
-  EscribirAnimacion(p, chosen, file, [&](std::size_t k) {
+  std::size_t unreadable = 0;
+  const bool written = EscribirAnimacion(p, chosen, file, [&](std::size_t k, const std::string& failure) {
     consola.Progreso("Fotograma", k, chosen.cuantos);
-    return true;
+    if (!failure.empty()) {
+      ++unreadable;
+      consola.Avisar(failure);
+    }
+    return unreadable < chosen.cuantos;
   });
   consola.Progreso("Fotograma", chosen.cuantos, chosen.cuantos);
+  if (!written) throw ErrorDeTrabajo("No se ha podido leer ningún fotograma de \"" + operand + "\".");
   return 0;
 }
 

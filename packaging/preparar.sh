@@ -28,6 +28,7 @@ test_packages=(
   "clang|the fuzzers"
   "libclang-rt-dev|the fuzzers and sanitizers"
   "clang-format|the style check"
+  "clang-tidy|the check of names and of common mistakes"
 )
 
 wanted=("${run_packages[@]}")

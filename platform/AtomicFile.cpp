@@ -1,10 +1,12 @@
 #include "platform/AtomicFile.h"
 
+#include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <memory>
 #include <random>
 #include <system_error>
+#include <unistd.h>
+#include <utility>
 
 namespace pixmosa {
 namespace {
@@ -32,53 +34,102 @@ fs::path Beside(const fs::path& target) {
   return target.parent_path() / ("." + name + Suffix());
 }
 
+// Where a name leads through its links, whether or not a file is there; empty where they go round in circles.
+fs::path Destino(fs::path file) {
+  constexpr int kMostLinks = 40;
+  std::error_code ec;
+  for (int i = 0; i < kMostLinks; ++i) {
+    if (!fs::is_symlink(file, ec)) return file;
+    const fs::path next = fs::read_symlink(file, ec);
+    if (ec) return file;
+    file = file.parent_path() / next;
+  }
+  return {};
+}
+
+// What file systems say that have no such call.
+bool CannotSync(int error) {
+  return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == EROFS;
+}
+
+struct Razon {
+  int error;
+  const char* texto;
+};
+
+constexpr Razon kRazones[] = {
+    {EPERM, "permiso denegado"},
+    {EACCES, "permiso denegado"},
+    {ENOENT, "no existe"},
+    {EEXIST, "ya existe"},
+    {EISDIR, "es una carpeta"},
+    {ENOTDIR, "una parte de la ruta no es una carpeta"},
+    {ENOTEMPTY, "la carpeta no está vacía"},
+    {ENAMETOOLONG, "el nombre es demasiado largo"},
+    {EILSEQ, "el nombre tiene caracteres que el disco no admite"},
+    {EINVAL, "el disco no lo admite"},
+    {EOPNOTSUPP, "el disco no lo admite"},
+    {ENOSYS, "el disco no lo admite"},
+    {ELOOP, "los enlaces dan vueltas sin fin"},
+    {EMLINK, "hay demasiados enlaces"},
+    {EXDEV, "está en otro disco"},
+    {ENOSPC, "no queda espacio en el disco"},
+    {EDQUOT, "no queda espacio en el disco para este usuario"},
+    {EFBIG, "el archivo es demasiado grande"},
+    {EOVERFLOW, "el archivo es demasiado grande"},
+    {EROFS, "el disco es de solo lectura"},
+    {EIO, "error de lectura o escritura del disco"},
+    {ENOMEM, "no queda memoria"},
+    {EMFILE, "hay demasiados archivos abiertos"},
+    {ENFILE, "hay demasiados archivos abiertos"},
+    {EBUSY, "otro programa lo está usando"},
+    {ETXTBSY, "otro programa lo está usando"},
+    {EAGAIN, "no está disponible en este momento"},
+    {EINTR, "la operación se ha interrumpido"},
+    {ENXIO, "el dispositivo no existe"},
+    {ENODEV, "el dispositivo no existe"},
+    {ENOMEDIUM, "no hay ningún disco en la unidad"},
+    {ESPIPE, "no es un archivo en el que se pueda saltar"},
+    {EPIPE, "nadie lee ya lo que se escribe"},
+    {EBADF, "el archivo no está abierto"},
+    {ESTALE, "el archivo ya no está en el servidor"},
+    {ETIMEDOUT, "el servidor no responde"},
+    {EHOSTDOWN, "el servidor no responde"},
+    {ENETUNREACH, "no hay red"},
+    {ENOTCONN, "el disco ya no está conectado"},
+    {EREMOTEIO, "error de lectura o escritura del servidor"},
+    {EUCLEAN, "el disco está dañado"},
+    {ENOLCK, "no se ha podido bloquear el archivo"},
+};
+
 }  // namespace
 
 std::string RazonDelError(int error) {
-  switch (error) {
-    case EACCES:
-    case EPERM:
-      return "permiso denegado";
-    case ENOENT:
-      return "no existe";
-    case EISDIR:
-      return "es una carpeta";
-    case ENOTDIR:
-      return "una parte de la ruta no es una carpeta";
-    case ENOSPC:
-    case EDQUOT:
-      return "no queda espacio en el disco";
-    case EROFS:
-      return "el disco es de solo lectura";
-    case ENAMETOOLONG:
-      return "el nombre es demasiado largo";
-    case EFBIG:
-      return "el archivo es demasiado grande";
-    case EIO:
-      return "error de lectura o escritura del disco";
-    default:
-      return std::strerror(error);
-  }
+  for (const Razon& r : kRazones)
+    if (r.error == error) return r.texto;
+  return "error del sistema " + std::to_string(error);
 }
 
-AtomicFile::AtomicFile(const fs::path& file) : named_(file), target_(file) {
+AtomicFile::AtomicFile(const fs::path& file, Guardado kept) : named_(file), kept_(kept) {
   if (file.empty()) Fail(ENOENT);
+  target_ = Destino(file);
+  if (target_.empty()) Fail(ELOOP);
   std::error_code ec;
-  if (const fs::path real = fs::canonical(file, ec); !ec) target_ = real;
   const fs::file_status status = fs::status(target_, ec);
   if (fs::is_directory(status)) Fail(EISDIR);
   direct_ = fs::exists(status) && !fs::is_regular_file(status);
   temporary_ = direct_ ? target_ : Beside(target_);
+  if (!direct_) alive_.emplace(temporary_);
   stream_ = std::fopen(temporary_.c_str(), direct_ ? "wb" : "wbx");
-  if (!stream_) Fail(errno);
+  if (!stream_) {
+    temporary_.clear();  // it is not ours
+    Fail(errno);
+  }
   if (!direct_ && fs::exists(status)) fs::permissions(temporary_, status.permissions(), ec);
 }
 
 AtomicFile::~AtomicFile() {
-  if (!stream_) return;
-  std::fclose(stream_);
-  std::error_code ec;
-  if (!direct_) fs::remove(temporary_, ec);
+  if (stream_) Dejar();
 }
 
 void AtomicFile::Write(std::string_view bytes) {
@@ -87,29 +138,23 @@ void AtomicFile::Write(std::string_view bytes) {
 
 void AtomicFile::Commit() {
   if (std::fflush(stream_) != 0) Fail(errno);
-  const int closed = std::fclose(stream_);
-  stream_ = nullptr;
+  if (!direct_ && kept_ == Guardado::Duradero && ::fdatasync(::fileno(stream_)) != 0 && !CannotSync(errno))
+    Fail(errno);
+  const int closed = std::fclose(std::exchange(stream_, nullptr));
+  if (closed != 0) Fail(errno);
+  if (!direct_ && std::rename(temporary_.c_str(), target_.c_str()) != 0) Fail(errno);
+  alive_.reset();
+}
+
+void AtomicFile::Dejar() {
+  if (stream_) std::fclose(std::exchange(stream_, nullptr));
   std::error_code ec;
-  if (closed != 0) {
-    const int error = errno;
-    if (!direct_) fs::remove(temporary_, ec);
-    Fail(error);
-  }
-  if (direct_) return;
-  fs::rename(temporary_, target_, ec);
-  if (!ec) return;
-  std::error_code ignored;
-  fs::remove(temporary_, ignored);
-  Fail(ec.value());
+  if (!direct_ && !temporary_.empty()) fs::remove(temporary_, ec);
+  alive_.reset();
 }
 
 void AtomicFile::Fail(int error) {
-  if (stream_) {
-    std::fclose(stream_);
-    stream_ = nullptr;
-    std::error_code ec;
-    if (!direct_) fs::remove(temporary_, ec);
-  }
+  Dejar();
   throw FileError("No se ha podido escribir \"" + named_.string() + "\": " + RazonDelError(error) + ".");
 }
 

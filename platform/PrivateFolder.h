@@ -11,7 +11,8 @@ class PrivateFolder {
  public:
   // Creates `parent`/`name` with access for nobody else, or takes over one that is this user's own, closed to
   // others, no link, and in use by no other running program. What cannot be trusted is left alone and a
-  // folder of another name is made. Throws FileError where none can be.
+  // folder `name`-XXXXXX is made. Folders of either name that a program left behind when it was ended are
+  // emptied and removed first. Throws FileError where none can be made.
   PrivateFolder(const std::filesystem::path& parent, const std::string& name);
 
   // Deletes the files "*.bmp" and then the folder, if nothing else remains in it.
@@ -22,13 +23,17 @@ class PrivateFolder {
   const std::filesystem::path& Path() const { return path_; }
 
  private:
+  PrivateFolder() = default;
+  static void RemoveOrphans(const std::filesystem::path& parent, const std::string& name);
+  // Takes a folder and its lock, held as long as this lives; nothing where that cannot be.
   bool Take(const std::filesystem::path& path);
 
   std::filesystem::path path_;
   int lock_ = -1;
 };
 
-// Deletes the files of a folder whose names end in ".bmp". Errors are ignored.
+// Deletes the files of a folder whose names end in ".bmp", and those that were never finished. Errors are
+// ignored.
 void BorrarBmp(const std::filesystem::path& folder);
 
 }  // namespace pixmosa

@@ -15,13 +15,16 @@ Serie SerieDeArchivos(const Programa& p, std::vector<std::filesystem::path> file
           std::move(name)};
 }
 
-void PonerFotograma(Programa& p, const Serie& frames, std::size_t k) {
+// The frame becomes the working picture; why it could not, or nothing.
+std::string PonerFotograma(Programa& p, const Serie& frames, std::size_t k) {
+  std::string failure;
   try {
     p.imagen.Asignar(frames.leer(k));
-  } catch (const PictureError&) {
-    // The frame before stays, and with it its text.
+  } catch (const std::exception& e) {
+    failure = FraseDe(e);  // the frame before stays, and with it its text
   }
   if (HayImagen(p)) GenerateAscii(p.basAscii, p.ajustes, p.imagen.picMain, kGrayscale);
+  return failure;
 }
 
 }  // namespace
@@ -37,19 +40,33 @@ Serie SerieDeCarpeta(const Programa& p, const std::filesystem::path& folder) {
   return SerieDeArchivos(p, ImagenesDeCarpeta(folder), folder.filename().string());
 }
 
-bool EscribirAnimacion(Programa& p, const Serie& frames, const std::filesystem::path& file,
-                       const std::function<bool(std::size_t)>& seguir) {
+Serie SerieDeOrigen(Programa& p, const std::shared_ptr<OrigenGif>& gif, const std::string& name) {
+  const auto cut = std::make_shared<const GifCut>(CutGif(*gif));
   try {
-    EscribirAnimArt(file, frames.cuantos, BytesOfUtf8(p.ajustes.font.name), [&](std::size_t k) {
-      PonerFotograma(p, frames, k);
-      if (!seguir(k)) throw Cancelada();
-      return EscaparTexto(p.basAscii.ProducedText);
-    });
+    p.imagen.Asignar(p.codec.ReadBytes(gif->Todo(), name));
+  } catch (const PictureError&) {
+    // Its frames may still be read one by one.
+  }
+  return {cut->positions.size(),
+          [&codec = p.codec, gif, cut, name](std::size_t k) {
+            const std::string frame = name + ", fotograma " + NumeroDeFotograma(k + 1);
+            return codec.ReadBytes(FrameFile(*gif, *cut, k), frame);
+          },
+          {}};
+}
+
+bool EscribirAnimacion(Programa& p, const Serie& frames, const std::filesystem::path& file,
+                       const Seguir& seguir) {
+  try {
+    EscribirAnimArt(file, frames.cuantos, BytesOfUtf8(p.ajustes.font.name),
+                    [&](std::size_t k) -> std::string& {
+                      const std::string failure = PonerFotograma(p, frames, k);
+                      if (!seguir(k, failure)) throw Cancelada();
+                      return p.basAscii.ProducedText;
+                    });
   } catch (const Cancelada&) {
     return false;
   }
-  // The produced text is left as the page holds it.
-  p.basAscii.ProducedText = EscaparTexto(p.basAscii.ProducedText);
   return true;
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,13 +22,21 @@ struct Serie {
 // The chosen frames of the last GIF, from their files.
 Serie SerieDeGif(const Programa& p);
 
+// Every frame of a GIF, from its bytes; `name` stands for it in messages. The picture that the GIF itself
+// shows becomes the working picture, for the frames that cannot be read. Throws FileError.
+Serie SerieDeOrigen(Programa& p, const std::shared_ptr<OrigenGif>& gif, const std::string& name);
+
 // The pictures of a folder in alphabetical order.
 Serie SerieDeCarpeta(const Programa& p, const std::filesystem::path& folder);
 
+// Called after frame k's text is made; `failure` says why the frame could not be read, or nothing. No ends
+// the work.
+using Seguir = std::function<bool(std::size_t k, const std::string& failure)>;
+
 // Writes the page of a series, whole or not at all: each frame becomes the working picture and its grayscale
-// text the produced text. A frame that cannot be read repeats the one before. `seguir(k)` is called after
-// frame k's text is made; where it says no, nothing is written and the answer is false. Throws FileError.
+// text the produced text. A frame that cannot be read repeats the one before. False where `seguir` ended the
+// work: nothing is written then. Throws FileError.
 bool EscribirAnimacion(Programa& p, const Serie& frames, const std::filesystem::path& file,
-                       const std::function<bool(std::size_t)>& seguir);
+                       const Seguir& seguir);
 
 }  // namespace pixmosa

@@ -9,16 +9,29 @@ bool TerminaEnGif(const std::filesystem::path& file) {
   return LowerCase(file.filename().string()).ends_with("gif");
 }
 
+// Whether the GIF goes on to its end; what cannot be read is no matter here.
+bool EstaEntero(const std::filesystem::path& file) {
+  try {
+    OrigenGif gif = OrigenGif::DeArchivo(file);
+    return GifCompleto(gif);
+  } catch (const ErrorDelPrograma&) {
+    return true;
+  }
+}
+
 }  // namespace
 
-void CargarImagen(Programa& p, const std::filesystem::path& file) {
+std::string CargarImagen(Programa& p, const std::filesystem::path& file) {
   Picture loaded = p.codec.Read(file);
-  const bool frames = TerminaEnGif(file) && !p.basGif.carpeta.empty();
+  const bool gif = TerminaEnGif(file), frames = gif && !p.basGif.carpeta.empty();
   if (frames) CortarGif(p.basGif, file);
   p.imagen.Cargar(std::move(loaded));
   p.archivo = file;
   p.animArtDisponible = frames && p.basGif.AnimArtDisponible();
   p.animArt = p.animArt && p.animArtDisponible;
+  if (gif && !EstaEntero(file)) return "El GIF está incompleto: se muestra lo que hay de él.";
+  if (frames && !p.basGif.PorQueNo.empty()) return "No se puede animar: " + p.basGif.PorQueNo;
+  return {};
 }
 
 }  // namespace pixmosa

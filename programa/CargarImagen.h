@@ -2,14 +2,16 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 #include "programa/Programa.h"
 
 namespace pixmosa {
 
 // Reads the file as the working picture and its undo copy. A GIF, by the end of its name, is cut into frame
-// files first; any other picture leaves the last GIF's frames, which it has no use for. Throws PictureError
-// or FileError, and then everything is as it was.
-void CargarImagen(Programa& p, const std::filesystem::path& file);
+// files as well; any other picture leaves the last GIF's frames, which it has no use for. What is wrong with
+// a picture that could be loaded all the same is said: a Spanish sentence, or nothing. Throws PictureError,
+// and then everything is as it was.
+std::string CargarImagen(Programa& p, const std::filesystem::path& file);
 
 }  // namespace pixmosa

@@ -2,11 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstdio>
-#include <memory>
+#include <charconv>
 
-#include "platform/AtomicFile.h"
 #include "platform/CodePage.h"
 #include "platform/PrivateFolder.h"
 
@@ -16,7 +13,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr char kIntroducer = 0x21, kGraphicControl = static_cast<char>(0xF9);
-constexpr std::size_t kPiece = 256 << 10, kMostFrames = 100'000;
+constexpr std::size_t kMostFrames = 100'000, kMegabyte = 1'000'000;
+constexpr std::string_view kPrincipio = "Fotograma ";
 // A real header is a few hundred bytes, so copies of it are a small part of all; what goes far beyond the
 // GIF's own size is a file made to fill the disk.
 constexpr std::size_t kMostForHeaders = 64 << 20;
@@ -41,7 +39,8 @@ class Buscador {
   GifCut Terminar() {
     const std::size_t n = cut_.positions.size();
     if (n > 0 && cut_.HeaderLength() > kMostForHeaders / n + cut_.length / n)
-      throw FileError("El GIF tiene demasiados fotogramas: " + std::to_string(n) + ".");
+      throw FileError("El GIF tiene demasiados fotogramas: " + std::to_string(n) + ", que ocuparían " +
+                      std::to_string(cut_.HeaderLength() * n / kMegabyte) + " MB.");
     return std::move(cut_);
   }
 
@@ -56,56 +55,23 @@ class Buscador {
   bool half_ = false;  // the last piece ended within a possible marker
 };
 
-// Reads pieces of a file into one buffer.
-class Lector {
- public:
-  explicit Lector(const fs::path& file) : name_(file.string()), buffer_(kPiece, '\0') {
-    std::error_code ec;
-    if (fs::is_directory(file, ec)) Fallar(RazonDelError(EISDIR));
-    in_.reset(std::fopen(file.c_str(), "rb"));
-    if (!in_) Fallar(RazonDelError(errno));
-    std::setvbuf(in_.get(), nullptr, _IONBF, 0);  // the pieces are large
-  }
+// The number in the name of a frame file, 0 in any other name.
+std::size_t NumeroDeArchivo(const fs::path& file) {
+  const std::string name = file.filename().string();
+  std::size_t number = 0;
+  if (name.size() > kPrincipio.size())
+    std::from_chars(name.data() + kPrincipio.size(), name.data() + name.size(), number);
+  return number > 0 && ArchivoDeFotograma({}, NumeroDeFotograma(number)) == name ? number : 0;
+}
 
-  // The next bytes, at most `most` and kPiece; none at the end. The view holds until the next call.
-  std::string_view Leer(std::size_t most) {
-    const std::size_t got = std::fread(buffer_.data(), 1, std::min(most, kPiece), in_.get());
-    if (got == 0 && std::ferror(in_.get())) Fallar(RazonDelError(errno));
-    return std::string_view(buffer_).substr(0, got);
-  }
-
-  void Copiar(std::size_t begin, std::size_t length, AtomicFile& to) {
-    if (std::fseek(in_.get(), static_cast<long>(begin), SEEK_SET) != 0) Fallar(RazonDelError(errno));
-    while (length > 0) {
-      const std::string_view piece = Leer(length);
-      if (piece.empty()) Fallar("el archivo ha cambiado");
-      to.Write(piece);
-      length -= piece.size();
-    }
-  }
-
- private:
-  struct Closer {
-    void operator()(std::FILE* f) const { std::fclose(f); }
-  };
-
-  [[noreturn]] void Fallar(const std::string& why) const {
-    throw FileError("No se ha podido leer \"" + name_ + "\": " + why + ".");
-  }
-
-  std::string name_, buffer_;
-  std::unique_ptr<std::FILE, Closer> in_;
-};
-
-// Writes every frame file; `copy` hands on a range of the GIF's bytes.
-template <typename Copy>
-void Escribir(const GifCut& cut, const fs::path& folder, const Copy& copy) {
-  for (std::size_t i = 0; i < cut.positions.size(); ++i) {
-    AtomicFile frame(ArchivoDeFotograma(folder, NumeroDeFotograma(i + 1)));
-    copy(0, cut.HeaderLength(), frame);
-    copy(cut.positions[i] - 1, cut.FrameLength(i), frame);
-    frame.Commit();
-  }
+// Removes the frame files of a folder with numbers beyond `last`.
+void QuitarSobrantes(const fs::path& folder, std::size_t last) {
+  std::error_code ec;
+  std::vector<fs::path> left;
+  for (fs::directory_iterator at(folder, ec), end; !ec && at != end; at.increment(ec))
+    if (NumeroDeArchivo(at->path()) > last && at->symlink_status(ec).type() == fs::file_type::regular)
+      left.push_back(at->path());
+  for (const fs::path& file : left) fs::remove(file, ec);
 }
 
 }  // namespace
@@ -114,26 +80,20 @@ std::size_t GifCut::FrameLength(std::size_t frame) const {
   return (frame + 1 < positions.size() ? positions[frame + 1] : length) - positions[frame];
 }
 
-std::string_view GifCut::Frame(std::string_view gif, std::size_t frame) const {
-  return gif.substr(positions[frame] - 1, FrameLength(frame));
-}
-
-std::string GifCut::FrameFile(std::string_view gif, std::size_t frame) const {
-  std::string file(gif.substr(0, HeaderLength()));
-  return file += Frame(gif, frame);
-}
-
-GifCut CutGif(std::string_view gif) {
+GifCut CutGif(OrigenGif& gif) {
   Buscador search;
-  search.Seguir(gif);
+  std::size_t at = 0;
+  for (std::string_view piece; !(piece = gif.Leer(at)).empty(); at += piece.size()) search.Seguir(piece);
   return search.Terminar();
 }
 
-GifCut CutGifFile(const fs::path& file) {
-  Lector reader(file);
-  Buscador search;
-  for (std::string_view piece; !(piece = reader.Leer(kPiece)).empty();) search.Seguir(piece);
-  return search.Terminar();
+std::string FrameFile(OrigenGif& gif, const GifCut& cut, std::size_t frame) {
+  std::string file;
+  file.reserve(cut.HeaderLength() + cut.FrameLength(frame));
+  const auto append = [&](std::string_view piece) { file += piece; };
+  gif.Leer(0, cut.HeaderLength(), append);
+  gif.Leer(cut.positions[frame] - 1, cut.FrameLength(frame), append);
+  return file;
 }
 
 std::string NumeroDeFotograma(std::size_t number) {
@@ -141,41 +101,33 @@ std::string NumeroDeFotograma(std::size_t number) {
 }
 
 fs::path ArchivoDeFotograma(const fs::path& folder, const std::string& number) {
-  return folder / ("Fotograma " + number + ".bmp");
+  return folder / (std::string(kPrincipio) + number + ".bmp");
 }
 
-void EscribirFotogramas(const GifCut& cut, std::string_view gif, const fs::path& folder) {
-  Escribir(cut, folder, [&](std::size_t begin, std::size_t length, AtomicFile& to) {
-    to.Write(gif.substr(begin, length));
-  });
-}
-
-void EscribirFotogramasDeArchivo(const GifCut& cut, const fs::path& file, const fs::path& folder) {
-  Lector reader(file);
-  Escribir(cut, folder,
-           [&](std::size_t begin, std::size_t length, AtomicFile& to) { reader.Copiar(begin, length, to); });
+void EscribirFotogramas(const GifCut& cut, OrigenGif& gif, const fs::path& folder, Guardado kept) {
+  for (std::size_t i = 0; i < cut.positions.size(); ++i) {
+    AtomicFile frame(ArchivoDeFotograma(folder, NumeroDeFotograma(i + 1)), kept);
+    const auto write = [&](std::string_view piece) { frame.Write(piece); };
+    gif.Leer(0, cut.HeaderLength(), write);
+    gif.Leer(cut.positions[i] - 1, cut.FrameLength(i), write);
+    frame.Commit();
+  }
+  QuitarSobrantes(folder, cut.positions.size());
 }
 
 void CortarGif(BasGif& gif, const fs::path& file) {
-  const GifCut cut = CutGifFile(file);
-  // The new frames are written beside the former ones and take their place only when all are there.
-  const fs::path beside = gif.carpeta / "nuevos";
-  std::error_code ec;
-  fs::remove_all(beside, ec);
-  fs::create_directory(beside, ec);
-  try {
-    EscribirFotogramasDeArchivo(cut, file, beside);
-  } catch (const FileError&) {
-    fs::remove_all(beside, ec);
-    throw;
-  }
   BorrarBmp(gif.carpeta);
-  for (std::size_t i = 1; i <= cut.positions.size(); ++i) {
-    const std::string number = NumeroDeFotograma(i);
-    fs::rename(ArchivoDeFotograma(beside, number), ArchivoDeFotograma(gif.carpeta, number), ec);
+  gif.FramesList.clear();
+  gif.PorQueNo.clear();
+  try {
+    OrigenGif source = OrigenGif::DeArchivo(file);
+    GifCut cut = CutGif(source);
+    EscribirFotogramas(cut, source, gif.carpeta, Guardado::DePaso);
+    gif.FramesList = std::move(cut.positions);
+  } catch (const FileError& e) {
+    BorrarBmp(gif.carpeta);
+    gif.PorQueNo = e.what();
   }
-  fs::remove_all(beside, ec);
-  gif.FramesList = cut.positions;
   SeleccionarTodos(gif);
 }
 

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstring>
+#include <optional>
 
 #include "platform/AtomicFile.h"
 
@@ -39,30 +40,62 @@ std::array<Decimal, 257> Decimals() {
   return table;
 }
 
-// The opening tag of a colour. The pieces have constant lengths and the pointer stays in a register: a page
-// of a photograph is tens of millions of tags.
-class Etiquetas {
+// Writes cells into a page: a tag where the colour changes, and the character. The pieces have constant
+// lengths and the room for a cell is there beforehand: a page of a photograph is tens of millions of cells.
+class Celdas {
  public:
-  char* Put(char* to, Colour colour, bool first) const {
-    const std::string_view open = first ? kAbrir : kCambiar;
-    std::memcpy(to, open.data(), open.size());
-    to += open.size();
-    const ColorDeCelda c = SplitCellColour(colour);
-    to = Number(to, c.R);
-    to = Number(to, c.G);
-    to = Number(to, c.B) - 1;  // no comma behind the last one
-    std::memcpy(to, kCerrar.data(), kCerrar.size());
-    return to + kCerrar.size();
+  explicit Celdas(AtomicFile& page) : page_(page) {}
+
+  // A cell of the character `c`, or of none.
+  void Poner(Colour colour, std::optional<char> c) {
+    char* to = Sitio();
+    if (first_ || colour != previous_) to = Etiqueta(to, colour);
+    if (c) *to++ = *c;
+    to_ = to;
+  }
+
+  void FinDeFila() { to_ = Copiar(Sitio(), kFinDeFila); }
+
+  void Terminar() {
+    page_.Write({buffer_.data(), static_cast<std::size_t>(to_ - buffer_.data())});
+    to_ = buffer_.data();
   }
 
  private:
-  char* Number(char* to, int n) const {
+  // Where the next cell goes.
+  char* Sitio() {
+    if (to_ >= buffer_.data() + kBuffer) Terminar();
+    return to_;
+  }
+
+  static char* Copiar(char* to, std::string_view text) {
+    std::memcpy(to, text.data(), text.size());
+    return to + text.size();
+  }
+
+  char* Etiqueta(char* to, Colour colour) {
+    to = first_ ? Copiar(to, kAbrir) : Copiar(to, kCambiar);
+    first_ = false;
+    previous_ = colour;
+    const ColorDeCelda c = SplitCellColour(colour);
+    to = Numero(to, c.R);
+    to = Numero(to, c.G);
+    to = Numero(to, c.B) - 1;  // no comma behind the last one
+    return Copiar(to, kCerrar);
+  }
+
+  char* Numero(char* to, int n) const {
     const Decimal& d = decimals_[static_cast<std::size_t>(n) + 1];
     std::memcpy(to, d.text, sizeof d.text);
     return to + d.length;
   }
 
+  AtomicFile& page_;
   const std::array<Decimal, 257> decimals_ = Decimals();
+  std::string buffer_ = std::string(kBuffer + kLargestCell, '\0');
+  char* to_ = buffer_.data();
+  bool first_ = true;
+  Colour previous_ = 0;
 };
 
 // The sampled rows and columns, both ends included.
@@ -76,11 +109,11 @@ Limites LeerBordes(const WebSettings& s, const Picture& p) {
           p.Width() + (on(s.bordeDerecha) ? 0 : -1), on(s.bordeIzquierda) ? -1 : 0};
 }
 
-// Puts the next character of the palette; nothing where it is empty.
-char* PonerSiguiente(BasWeb& web, char* to) {
+// The next character of the palette; nothing where it is empty.
+std::optional<char> Siguiente(BasWeb& web) {
   if (++web.PosicionPaleta > static_cast<std::int32_t>(web.Paleta.size())) web.PosicionPaleta = 1;
-  if (!web.Paleta.empty()) *to++ = web.Paleta[static_cast<std::size_t>(web.PosicionPaleta - 1)];
-  return to;
+  if (web.Paleta.empty()) return std::nullopt;
+  return web.Paleta[static_cast<std::size_t>(web.PosicionPaleta - 1)];
 }
 
 }  // namespace
@@ -119,36 +152,13 @@ void EscribirWebArt(BasWeb& web, const WebSettings& settings, const Picture& pic
   page.Write(settings.exactCopy ? kCabezaExacta : kCabezaMosaico);
 
   const Limites limits = LeerBordes(settings, picture);
-  const Etiquetas tags;
-  std::string buffer(kBuffer + kLargestCell, '\0');
-  char* const begin = buffer.data();
-  char* const full = begin + kBuffer;
-  char* to = begin;
-  const auto flush = [&](bool all = false) {
-    if (to < full && !all) return;
-    page.Write({begin, static_cast<std::size_t>(to - begin)});
-    to = begin;
-  };
-  bool first = true;
-  Colour previous = 0;
+  Celdas cells(page);
   for (int y = limits.top; y <= limits.bottom; y += down) {
-    for (int x = limits.left; x <= limits.right; x += across) {
-      const Colour c = picture.ColourAt(x, y);
-      if (first || c != previous) to = tags.Put(to, c, first);
-      first = false;
-      previous = c;
-      if (settings.exactCopy) {
-        *to++ = '0';
-      } else {
-        to = PonerSiguiente(web, to);
-      }
-      flush();
-    }
-    std::memcpy(to, kFinDeFila.data(), kFinDeFila.size());
-    to += kFinDeFila.size();
-    flush();
+    for (int x = limits.left; x <= limits.right; x += across)
+      cells.Poner(picture.ColourAt(x, y), settings.exactCopy ? '0' : Siguiente(web));
+    cells.FinDeFila();
   }
-  flush(true);
+  cells.Terminar();
   page.Write(kPie);
   page.Commit();
 }

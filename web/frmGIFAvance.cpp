@@ -1,7 +1,5 @@
 #include "web/frmGIFAvance.h"
 
-#include <algorithm>
-
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -43,13 +41,12 @@ frmGIFAvance::frmGIFAvance(BasGif& gif, PictureCodec& pictures, QWidget* parent)
 
   const QIcon icon = Icono("image-x-generic");
   for (std::size_t k = 1; k <= gif_.FramesList.size(); ++k) {
-    const std::string number = NumeroDeFotograma(k);
-    auto* item = new QListWidgetItem(icon, Q("Fotograma " + number), lstwGIF_);
+    auto* item = new QListWidgetItem(icon, Q("Fotograma " + NumeroDeFotograma(k)), lstwGIF_);
     item->setData(Qt::UserRole, Q("F" + std::to_string(k)));
-    const bool chosen =
-        std::find(gif_.Seleccionados.begin(), gif_.Seleccionados.end(), number) != gif_.Seleccionados.end();
-    item->setCheckState(chosen ? Qt::Checked : Qt::Unchecked);
+    item->setCheckState(Qt::Unchecked);
   }
+  for (const std::string& number : gif_.Seleccionados)
+    if (auto* item = lstwGIF_->item(Q(number).toInt() - 1)) item->setCheckState(Qt::Checked);
   Mostrar(QStringLiteral("Fotograma 01"));
   connect(lstwGIF_, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
     if (item) Mostrar(item->text());

@@ -85,9 +85,9 @@ void AnimationPage(benchmark::State& state) {
   ascii.AsciiColumns = kColumns;
   for (auto _ : state)
     EscribirAnimArt(frames.folder.Path() / "pagina.bmp", frames.gif.Seleccionados.size(), "Lucida Console",
-                    [&](std::size_t k) {
+                    [&](std::size_t k) -> std::string& {
                       GenerateAscii(ascii, settings, frames.Read(k), kGrayscale);
-                      return EscaparTexto(ascii.ProducedText);
+                      return ascii.ProducedText;
                     });
   state.counters["frames"] = static_cast<double>(frames.gif.Seleccionados.size());
 }

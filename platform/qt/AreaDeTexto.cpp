@@ -155,6 +155,8 @@ void AreaDeTexto::PonerFuente(const Font& font) {
   const QFont f = QtFontOf(font);
   setFont(f);
   document()->setDefaultFont(f);
+  // Getting a font counts as an edit of an empty document.
+  if (document()->isEmpty()) document()->clearUndoRedoStacks();
 }
 
 void AreaDeTexto::PonerColores(QColor background, QColor text) {

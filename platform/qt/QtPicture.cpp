@@ -15,7 +15,7 @@ QImage ImageOf(const Picture& picture) {
   return {reinterpret_cast<const uchar*>(picture.Pixels()),
           picture.Width(),
           picture.Height(),
-          picture.Width() * 4,
+          qsizetype{4} * picture.Width(),
           QImage::Format_RGB32,
           [](void* block) { delete static_cast<Block*>(block); },
           keep};

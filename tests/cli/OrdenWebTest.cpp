@@ -61,7 +61,21 @@ TEST_F(OrdenWebTest, AnimationsOfAGifAndAFolder) {
   std::filesystem::create_directory(folder.File("serie"));
   std::filesystem::copy(picture, folder.File("serie/b.jpg"));
   EscribirArchivo(folder.File("serie/a.BMP"), "rota");
-  EXPECT_NE(Page({"anim", folder.File("serie"), "--columnas=2"}).find("var max_pics=2;"), std::string::npos);
+  // A picture that cannot be read repeats the one before, and is named; where none can, nothing is written.
+  const std::vector<std::string> series = {"anim", folder.File("serie"), "--columnas=2", "-o", page};
+  const std::string named = "pixmosa-cli: No se ha podido leer la imagen \"" + folder.File("serie/a.BMP") +
+                            "\": no es una imagen de un formato conocido.\n";
+  test::Resultado r = Cli(series);
+  EXPECT_EQ(r.status, 0);
+  EXPECT_EQ(r.err, named);
+  const std::string before = LeerArchivo(page);
+  EXPECT_NE(before.find("var max_pics=2;"), std::string::npos);
+  std::filesystem::remove(folder.File("serie/b.jpg"));
+  r = Cli(series);
+  EXPECT_EQ(r.status, 1);
+  EXPECT_EQ(r.err, named + "pixmosa-cli: No se ha podido leer ningún fotograma de \"" + folder.File("serie") +
+                       "\".\n");
+  EXPECT_EQ(LeerArchivo(page), before);
 }
 
 TEST_F(OrdenWebTest, NamesWhatIsWrong) {

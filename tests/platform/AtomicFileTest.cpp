@@ -1,10 +1,40 @@
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <functional>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "platform/AtomicFile.h"
 
 using namespace pixmosa;
 namespace fs = std::filesystem;
+
+namespace {
+
+std::function<void()> flushing;  // what the test looks at when bytes are sent to the disk
+
+// The status of a child that does `work`.
+int StatusOf(const std::function<void()>& work) {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    work();
+    ::_exit(0);
+  }
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  return status;
+}
+
+}  // namespace
+
+// Stands before the system's.
+extern "C" int fdatasync(int) {
+  if (flushing) flushing();
+  return 0;
+}
 
 class AtomicFileTest : public testing::Test {
  protected:
@@ -38,6 +68,89 @@ TEST_F(AtomicFileTest, KeepsLinksAndPermissions) {
   EXPECT_TRUE(fs::is_symlink(link));
   EXPECT_EQ(LeerArchivo(file), "y");
   EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(AtomicFileTest, IsOnTheDiskBeforeItTakesItsPlace) {
+  const fs::path file = dir / "a";
+  EscribirArchivo(file, "antes");
+  std::string seen;
+  flushing = [&] {
+    std::uintmax_t hidden = 0;
+    for (const auto& entry : fs::directory_iterator(dir))
+      if (entry.path() != file) hidden = entry.file_size();
+    seen += LeerArchivo(file) + std::to_string(hidden);
+  };
+  EscribirArchivo(file, "después");
+  AtomicFile passing(file, Guardado::DePaso);
+  passing.Write("x");
+  passing.Commit();
+  flushing = nullptr;
+  EXPECT_EQ(seen, "antes8");
+}
+
+TEST_F(AtomicFileTest, ALinkToNothingMakesWhatItPointsTo) {
+  fs::create_directory(dir / "sub");
+  fs::create_symlink("sub/enlace2", dir / "enlace");
+  fs::create_symlink("../meta", dir / "sub" / "enlace2");
+  EscribirArchivo(dir / "enlace", "x");
+  EXPECT_TRUE(fs::is_symlink(dir / "enlace") && fs::is_symlink(dir / "sub" / "enlace2"));
+  EXPECT_EQ(LeerArchivo(dir / "meta"), "x");
+  fs::create_symlink("vuelta", dir / "vuelta");
+  EXPECT_THROW(EscribirArchivo(dir / "vuelta", "x"), FileError);
+}
+
+TEST_F(AtomicFileTest, ASignalLeavesTheEarlierFileAndNothingElse) {
+  const fs::path file = dir / "a";
+  EscribirArchivo(file, "antes");
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    const int status = StatusOf([&] {
+      QuitarTemporalesAlTerminar();
+      EscribirArchivo(file, "antes");  // an earlier place is free again
+      AtomicFile one(file), other(dir / "b");
+      one.Write("a medias");
+      ::raise(signal);
+    });
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal);
+    EXPECT_EQ(LeerArchivo(file), "antes");
+    EXPECT_EQ(Entries(), 1U);
+  }
+  EXPECT_EQ(StatusOf([] {
+              ::signal(SIGHUP, SIG_IGN);  // as nohup does
+              QuitarTemporalesAlTerminar();
+              ::raise(SIGHUP);
+            }),
+            0);
+}
+
+TEST_F(AtomicFileTest, TheLimitOfAFilesSizeIsSaid) {
+  const fs::path file = dir / "a";
+  const int status = StatusOf([&] {
+    QuitarTemporalesAlTerminar();
+    const rlimit limit{4096, 4096};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+    try {
+      EscribirArchivo(file, std::string(1 << 20, 'x'));
+    } catch (const FileError& e) {
+      if (e.what() == "No se ha podido escribir \"" + file.string() + "\": el archivo es demasiado grande.")
+        ::_exit(7);
+    }
+  });
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 7);
+  EXPECT_EQ(Entries(), 0U);
+}
+
+TEST_F(AtomicFileTest, EveryReasonIsSpanish) {
+  for (int error = 1; error < 140; ++error) {
+    const std::string reason = RazonDelError(error);
+    EXPECT_EQ(reason.find(std::strerror(error)), std::string::npos) << reason;
+    EXPECT_TRUE(reason == "error del sistema " + std::to_string(error) || !std::isdigit(reason.back()));
+  }
+  EXPECT_EQ(RazonDelError(EMFILE), "hay demasiados archivos abiertos");
+  EXPECT_EQ(RazonDelError(ECHRNG), "error del sistema " + std::to_string(ECHRNG));
+  for (const int usual :
+       {EACCES, EPERM,  ENOENT, EISDIR, ENOTDIR, ENOSPC,  EDQUOT, EROFS,  ENAMETOOLONG, EFBIG,  EIO,
+        ELOOP,  ENOMEM, EMFILE, ENFILE, EBUSY,   ETXTBSY, ENXIO,  EINVAL, EPIPE,        ESTALE, EAGAIN})
+    EXPECT_EQ(RazonDelError(usual).find("sistema"), std::string::npos) << usual;
 }
 
 TEST_F(AtomicFileTest, SaysWhatIsWrong) {

@@ -75,13 +75,23 @@ TEST_F(ProgramaTest, LoadingIsWholeOrNothing) {
   p.animArt = true;
 
   EXPECT_THROW(load("no-existe.png"), PictureError);
-  EXPECT_THROW(load("mala.gif"), FileError) << "the picture is there, its file cannot be cut";
   EXPECT_EQ(p.imagen.picMain.ColourAt(0, 0), Rgb(7, 7, 7));
   EXPECT_TRUE(p.animArt && p.animArtDisponible);
 
   load("a.png");
   EXPECT_FALSE(p.animArt || p.animArtDisponible);
   EXPECT_EQ(p.basGif.FramesList.size(), 3U) << "the last GIF's frames stay";
+
+  codec.files["c.gif"] = codec.files["b.GIF"];
+  EscribirArchivo(folder.File("c.gif"), test::Gif({0, 1}).substr(0, 60));
+  EXPECT_EQ(CargarImagen(p, folder.File("c.gif")), "El GIF está incompleto: se muestra lo que hay de él.");
+  // A long start before the frames: their files together would be far larger than the GIF.
+  std::string thick = test::GifHeader() + std::string(3'000'000, '\0');
+  for (int i = 0; i < 40; ++i) thick += test::GifFrame(1);
+  EscribirArchivo(folder.File("mala.gif"), thick + ";");
+  EXPECT_NE(CargarImagen(p, folder.File("mala.gif")), "");
+  EXPECT_EQ(p.imagen.picMain.ColourAt(0, 0), Rgb(9, 9, 9)) << "the picture loads all the same";
+  EXPECT_FALSE(p.animArtDisponible);
 }
 
 TEST_F(ProgramaTest, WhatPlayRuns) {
@@ -112,17 +122,20 @@ TEST_F(ProgramaTest, AnimationGoesThroughTheWorkingPicture) {
   const std::string page = folder.File("p.html");
   const Serie frames = SerieDeCarpeta(p, folder.Path());
   std::vector<std::string> texts;
-  EXPECT_TRUE(EscribirAnimacion(p, frames, page, [&](std::size_t) {
+  int unreadable = 0;
+  EXPECT_TRUE(EscribirAnimacion(p, frames, page, [&](std::size_t, const std::string& failure) {
+    unreadable += failure.empty() ? 0 : 1;
     texts.push_back(p.basAscii.ProducedText);
     return true;
   }));
   EXPECT_EQ(texts, (std::vector<std::string>{"< ", "< ", " <"}))
       << "an unreadable frame repeats the one before";
+  EXPECT_EQ(unreadable, 1);
   EXPECT_EQ(p.basAscii.ProducedText, " &lt;");
   EXPECT_EQ(p.imagen.picMain.ColourAt(0, 0), kWhite) << "the last frame";
   const std::string written = LeerArchivo(page);
   EXPECT_NE(written.find("Size = 1 > \r\n &lt;\r\n  </font></pre>\r\n </div>\r\n</body>"), std::string::npos);
 
-  EXPECT_FALSE(EscribirAnimacion(p, frames, page, [](std::size_t k) { return k == 0; }));
+  EXPECT_FALSE(EscribirAnimacion(p, frames, page, [](std::size_t k, const std::string&) { return k == 0; }));
   EXPECT_EQ(LeerArchivo(page), written) << "a cancelled page leaves the former one";
 }

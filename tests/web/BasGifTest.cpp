@@ -1,4 +1,8 @@
+#include <fstream>
+#include <functional>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <thread>
 
 #include "platform/AtomicFile.h"
 #include "tests/support/Gif.h"
@@ -42,40 +46,96 @@ TEST_F(BasGifTest, FramesAreCutAtTheMarkers) {
 }
 
 TEST_F(BasGifTest, EveryOccurrenceCounts) {
-  const std::string gif2 = "AB\x21\xF9\x21\xF9\x21\x21\xF9Z";
+  OrigenGif gif2("AB\x21\xF9\x21\xF9\x21\x21\xF9Z");
   const GifCut cut = CutGif(gif2);
   EXPECT_EQ(cut.positions, (std::vector<std::size_t>{3, 5, 8}));
-  EXPECT_EQ(cut.FrameFile(gif2, 0), "AB\x21\xF9");
-  EXPECT_EQ(cut.FrameFile(gif2, 1), "AB\x21\xF9\x21");
-  EXPECT_EQ(cut.FrameFile(gif2, 2), "AB\x21\xF9");
-  EXPECT_EQ(CutGif("GIF").HeaderLength(), 2U) << "no frame: all but the last byte";
-  EXPECT_EQ(CutGif("").HeaderLength(), 0U);
-  EXPECT_EQ(CutGif("\x21").positions.size(), 0U);
-  EXPECT_EQ(CutGif("\x21\xF9").FrameFile("\x21\xF9", 0), "\x21");
+  EXPECT_EQ(FrameFile(gif2, cut, 0), "AB\x21\xF9");
+  EXPECT_EQ(FrameFile(gif2, cut, 1), "AB\x21\xF9\x21");
+  EXPECT_EQ(FrameFile(gif2, cut, 2), "AB\x21\xF9");
+  const auto cutOf = [](const char* bytes) {
+    OrigenGif source{std::string(bytes)};
+    return CutGif(source);
+  };
+  EXPECT_EQ(cutOf("GIF").HeaderLength(), 2U) << "no frame: all but the last byte";
+  EXPECT_EQ(cutOf("").HeaderLength(), 0U);
+  EXPECT_EQ(cutOf("\x21").positions.size(), 0U);
+  EXPECT_EQ(cutOf("\x21\xF9").FrameLength(0), 1U);
 }
 
-TEST_F(BasGifTest, AFileIsCutAsItsBytesAreWhereverItsPiecesEnd) {
-  // A piece is 256 KiB: a marker that straddles its end, one on either side, and a first half alone.
-  constexpr std::size_t kPiece = 256 << 10;
+TEST_F(BasGifTest, AFileAndAPipeAreCutAsTheirBytesAreWhereverThePiecesEnd) {
+  // A marker that straddles the end of a piece, one on either side, and a first half alone.
+  constexpr std::size_t kPiece = OrigenGif::kPiece;
+  const std::string pipe = folder.File("tubo");
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
   for (const std::size_t before : {kPiece - 3, kPiece - 2, kPiece - 1, kPiece}) {
-    const std::string bytes = std::string(before, 'x') +
-                              "\x21\xF9"
-                              "ab\x21\xF9" +
-                              std::string(kPiece, 'y') + "\x21";
-    EscribirArchivo(folder.File("g.gif"), bytes);
-    const GifCut cut = CutGifFile(folder.File("g.gif"));
-    EXPECT_EQ(cut.positions, (std::vector<std::size_t>{before + 1, before + 5}));
-    EXPECT_EQ(cut.length, bytes.size());
-    EscribirFotogramasDeArchivo(cut, folder.File("g.gif"), scratch.Path());
-    EXPECT_EQ(LeerArchivo(scratch.File("Fotograma 01.bmp")), std::string(before, 'x') +
-                                                                 "\x21\xF9"
-                                                                 "ab");
-    EXPECT_EQ(LeerArchivo(scratch.File("Fotograma 02.bmp")),
-              std::string(before, 'x') + "\x21\xF9" + std::string(kPiece, 'y'));
-    EscribirArchivo(folder.File("g.gif"), bytes.substr(0, before));
-    EXPECT_THROW(EscribirFotogramasDeArchivo(cut, folder.File("g.gif"), scratch.Path()), FileError)
-        << "the file shrank after it was cut";
+    const std::string header(before, 'x'), file = folder.File("g.gif"),
+                                           bytes = header +
+                                                   "\x21\xF9"
+                                                   "ab\x21\xF9" +
+                                                   std::string(kPiece, 'y') + "\x21";
+    EscribirArchivo(file, bytes);
+    std::thread writer([&] { std::ofstream(pipe, std::ios::binary) << bytes; });
+    for (const std::string& name : {pipe, file}) {
+      OrigenGif source = OrigenGif::DeArchivo(name);
+      const GifCut cut = CutGif(source);
+      EXPECT_EQ(cut.positions, (std::vector<std::size_t>{before + 1, before + 5}));
+      EXPECT_EQ(cut.length, bytes.size());
+      EscribirFotogramas(cut, source, scratch.Path());
+      EXPECT_EQ(LeerArchivo(scratch.File("Fotograma 01.bmp")), header +
+                                                                   "\x21\xF9"
+                                                                   "ab");
+      EXPECT_EQ(LeerArchivo(scratch.File("Fotograma 02.bmp")),
+                header + "\x21\xF9" + std::string(kPiece, 'y'));
+      if (name == pipe) continue;
+      fs::resize_file(file, before);
+      EXPECT_THROW(EscribirFotogramas(cut, source, scratch.Path()), FileError) << "the file shrank meanwhile";
+    }
+    writer.join();
   }
+}
+
+TEST_F(BasGifTest, FormerFramesGoWhenTheNewOnesAreThere) {
+  const std::vector<std::string> others = {"Fotograma 007.bmp",
+                                           "Fotograma 00.bmp",
+                                           "Fotograma 5.bmp",
+                                           "Fotograma 08.gif",
+                                           "fotograma 09.bmp",
+                                           "Fotograma .bmp",
+                                           "Fotograma 99999999999999999999999.bmp",
+                                           "foto.bmp"};
+  for (const std::string& name : others) EscribirArchivo(scratch.File(name), "x");
+  fs::create_directory(scratch.File("Fotograma 06.bmp"));
+  for (const char* name : {"Fotograma 01.bmp", "Fotograma 03.bmp", "Fotograma 40.bmp", "Fotograma 100.bmp"})
+    EscribirArchivo(scratch.File(name), "x");
+  OrigenGif source(Gif({0, 1}));
+  const GifCut cut = CutGif(source);
+  GifCut wrong = cut;
+  wrong.length += 1000;
+  EXPECT_THROW(EscribirFotogramas(wrong, source, scratch.Path()), FileError);
+  EXPECT_TRUE(fs::exists(scratch.File("Fotograma 40.bmp"))) << "the new ones are not complete";
+  EscribirFotogramas(cut, source, scratch.Path());
+  std::vector<std::string> left = others;
+  left.insert(left.end(), {"Fotograma 01.bmp", "Fotograma 02.bmp", "Fotograma 06.bmp"});
+  std::sort(left.begin(), left.end());
+  EXPECT_EQ(Files(), left);
+}
+
+TEST_F(BasGifTest, ACutOffGifIsTold) {
+  const std::string whole = Gif({0, 1}),
+                    local = std::string("\x2C\0\0\0\0\1\0\1\0\x81", 10) + std::string(12, '\x3B');
+  const auto complete = [](const std::string& bytes) {
+    OrigenGif source(bytes);
+    return GifCompleto(source);
+  };
+  EXPECT_TRUE(complete(whole));
+  EXPECT_TRUE(complete(whole + "more"));
+  EXPECT_TRUE(complete(GifHeader() + std::string(1, '\0') + ";"));
+  EXPECT_TRUE(complete(GifHeader() + local + std::string("\2\2xx\0;", 6)))
+      << "an image with colours of its own";
+  EXPECT_TRUE(complete(std::string("GIF87a\1\0\1\0\x70\0\0;", 14))) << "no colour table";
+  for (std::size_t n = 0; n < whole.size(); ++n) EXPECT_FALSE(complete(whole.substr(0, n))) << n;
+  EXPECT_FALSE(complete("GIF88a" + whole.substr(6)));
+  EXPECT_FALSE(complete(GifHeader() + "x" + whole.substr(25))) << "no block begins so";
 }
 
 TEST_F(BasGifTest, StillGifsAndSecondGifs) {
@@ -90,16 +150,28 @@ TEST_F(BasGifTest, StillGifsAndSecondGifs) {
   EXPECT_TRUE(gif.FramesList.empty());
 }
 
-TEST_F(BasGifTest, AFailureLeavesTheLastFrames) {
-  Load(Gif({0, 1}));
-  EXPECT_THROW(CortarGif(gif, folder.File("nada.gif")), FileError);
-  EXPECT_THROW(CortarGif(gif, folder.Path()), FileError);
-  // A large header before thousands of frames would fill the disk with its copies.
+TEST_F(BasGifTest, AGifThatCannotBeCutSaysWhy) {
+  // A large first image without its block before tens of frames would fill the disk with its copies.
   std::string bomb(5'000'000, 'x');
   for (int i = 0; i < 50'000; ++i) bomb += "\x21\xF9";
-  EXPECT_THROW(Load(bomb), FileError);
-  EXPECT_EQ(Files().size(), 2U);
-  EXPECT_EQ(gif.FramesList.size(), 2U);
+  struct Row {
+    std::function<void()> load;
+    std::string why;
+  };
+  for (const Row& r : {
+           Row{[&] { Load(bomb); }, "El GIF tiene demasiados fotogramas: 50000, que ocuparían 250000 MB."},
+           Row{[&] { CortarGif(gif, folder.File("nada.gif")); },
+               "No se ha podido leer \"" + folder.File("nada.gif") + "\": no existe."},
+           Row{[&] { CortarGif(gif, folder.Path()); },
+               "No se ha podido leer \"" + folder.Path().string() + "\": es una carpeta."},
+       }) {
+    Load(Gif({0, 1}));
+    EXPECT_EQ(gif.PorQueNo, "");
+    EXPECT_TRUE(gif.AnimArtDisponible());
+    r.load();
+    EXPECT_EQ(gif.PorQueNo, r.why);
+    EXPECT_TRUE(Files().empty() && gif.FramesList.empty() && gif.Seleccionados.empty());
+  }
 }
 
 TEST_F(BasGifTest, PicturesOfAFolderInAlphabeticalOrder) {

@@ -41,11 +41,36 @@ TEST(PrivateFolder, TwoProgramsDoNotShareOne) {
   EXPECT_TRUE(fs::exists(first.Path() / "a.bmp"));
 }
 
+TEST(PrivateFolder, WhatAnEndedProgramLeftIsCleared) {
+  const test::TestFolder temp;
+  const std::vector<std::string> own = {"KTW", "KTW-a1B2c3"}, others = {"KTW-largos1", "KTWa1B2c3x", "otra"};
+  for (const std::string& name : own) {
+    fs::create_directory(temp.Path() / name);
+    fs::permissions(temp.Path() / name, fs::perms::owner_all);
+    EscribirArchivo(temp.Path() / name / "Fotograma 01.bmp", "x");
+    EscribirArchivo(temp.Path() / name / ".Fotograma 02.bmp.0a1b2c3d.tmp", "x");
+  }
+  for (const std::string& name : others) {
+    fs::create_directory(temp.Path() / name);
+    fs::permissions(temp.Path() / name, fs::perms::owner_all);
+    EscribirArchivo(temp.Path() / name / "a.bmp", "x");
+  }
+  const PrivateFolder first(temp.Path(), "KTW");
+  EXPECT_EQ(first.Path(), temp.Path() / "KTW");
+  EXPECT_TRUE(fs::is_empty(first.Path()));
+  EXPECT_FALSE(fs::exists(temp.Path() / own[1]));
+  for (const std::string& name : others) EXPECT_TRUE(fs::exists(temp.Path() / name / "a.bmp")) << name;
+  const PrivateFolder second(temp.Path(), "KTW");
+  EscribirArchivo(second.Path() / "a.bmp", "x");
+  const PrivateFolder third(temp.Path(), "KTW");
+  EXPECT_TRUE(fs::exists(second.Path() / "a.bmp")) << "it is in use";
+}
+
 TEST(PrivateFolder, OneThatIsBeingRemovedIsNotTakenOver) {
   const test::TestFolder temp;
   std::atomic<int> missing = 0;
   const auto come = [&] {
-    for (int i = 0; i < 10000; ++i) {
+    for (int i = 0; i < 3000; ++i) {
       const PrivateFolder folder(temp.Path(), "KTW");
       if (!fs::exists(folder.Path())) ++missing;
     }

@@ -4,9 +4,10 @@
 #include <iostream>
 #include <vector>
 
+#include <QGuiApplication>
+
 #include "platform/AtomicFile.h"
 #include "platform/qt/QtTextSurface.h"
-#include "tests/support/GuiApplication.h"
 #include "tools/paleta/Clasificar.h"
 
 namespace {
@@ -53,7 +54,8 @@ int main(int argc, char** argv) {
     std::cerr << "usage: paleta FONT...\n";
     return 2;
   }
-  test::NeedGuiApplication();
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication app(argc, argv);
   QtTextSurface surface;
   std::vector<Font> fonts;
   for (int i = 1; i < argc; ++i) fonts.push_back({argv[i], kPoints});

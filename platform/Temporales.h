@@ -1,0 +1,26 @@
+// Temporary files that must not outlive a program which is asked to end.
+#pragma once
+
+#include <filesystem>
+
+namespace pixmosa {
+
+// While it lives, its file is removed when the program is ended by a signal. A file whose path is longer than
+// the system allows, or one of very many at a time, is let go.
+class Temporal {
+ public:
+  explicit Temporal(const std::filesystem::path& file);
+  ~Temporal();
+  Temporal(const Temporal&) = delete;
+  Temporal& operator=(const Temporal&) = delete;
+
+ private:
+  int place_ = -1;
+};
+
+// For the start of a program, once: SIGINT, SIGTERM and SIGHUP remove every file that a Temporal stands for
+// before they end the program as always; one that the program was started to ignore stays ignored. A file
+// that grows beyond the limit set for the program makes writing fail (EFBIG) instead of ending it.
+void QuitarTemporalesAlTerminar();
+
+}  // namespace pixmosa
