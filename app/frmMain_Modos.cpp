@@ -14,6 +14,7 @@
 #include "app/frmMain_Imagen.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "figlet/frmFiglet.h"
+#include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Named.h"
 
 namespace pixmosa {
@@ -51,13 +52,15 @@ void frmMain::ElegirModo(const QString& mode) {
 
 void frmMain::CrearLetreros(QVBoxLayout* area) {
   figlet_ = new frmFiglet(programa_.basFigLet, programa_.carpetasDeFuentes, programa_.plataforma.dialogos,
-                          *txtAscii_, PicAlgoritmos_);
+                          PicAlgoritmos_);
   figlet_->hide();
   area->addWidget(figlet_);
   const auto count = [this](int fonts) {
     panelFiglet_->setText(QStringLiteral("Fuentes FigLet encontradas (%1)").arg(fonts));
   };
   connect(figlet_, &frmFiglet::ListaCambiada, this, count);
+  connect(figlet_, &frmFiglet::LetreroCambiado, txtAscii_, &AreaDeTexto::PonerTexto);
+  connect(figlet_, &frmFiglet::AlineacionCambiada, txtAscii_, &AreaDeTexto::Alinear);
   count(figlet_->Cuantas());
 }
 

@@ -5,6 +5,7 @@ foreach(folder conversion effects figlet editor stats)
   set(level_${folder} 1)
 endforeach()
 set(level_web 2)
+set(level_programa 2)
 foreach(folder app cli platform/qt platform/jpeg platform/wmf platform/zip)
   set(level_${folder} 3)
 endforeach()
@@ -24,7 +25,8 @@ endfunction()
 
 file(GLOB_RECURSE files RELATIVE ${ROOT} ${ROOT}/platform/*.h ${ROOT}/platform/*.cpp ${ROOT}/conversion/*.h
      ${ROOT}/conversion/*.cpp ${ROOT}/effects/*.h ${ROOT}/effects/*.cpp ${ROOT}/figlet/*.h ${ROOT}/figlet/*.cpp
-     ${ROOT}/editor/*.h ${ROOT}/editor/*.cpp ${ROOT}/stats/*.h ${ROOT}/stats/*.cpp ${ROOT}/web/*.h ${ROOT}/web/*.cpp)
+     ${ROOT}/editor/*.h ${ROOT}/editor/*.cpp ${ROOT}/stats/*.h ${ROOT}/stats/*.cpp ${ROOT}/web/*.h ${ROOT}/web/*.cpp
+     ${ROOT}/programa/*.h ${ROOT}/programa/*.cpp)
 set(faults 0)
 list(LENGTH files count)
 if(count LESS 20)
