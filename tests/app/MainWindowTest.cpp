@@ -299,7 +299,7 @@ void MainWindowTest::EditorSendsItsDrawingBack() {
   QCOMPARE(m.Text(), "hola\r\n\r\nx");
   PintarCaracter(m.program.basEditor, 1, 4, 'y');
   QVERIFY2(!m.window.close(), "the editor's unsent changes are asked about first");
-  QVERIFY(m.dialogs.log.back().starts_with("Ask|Editor Ascii|"));
+  QVERIFY(m.dialogs.log.back().starts_with("AskToSave|Editor Ascii|"));
   QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
   m.Trigger("mnuEstadisticas");
 }

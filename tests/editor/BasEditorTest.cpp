@@ -169,13 +169,3 @@ TEST(EditorTransformations, CaseOfTheUnaccentedLetters) {
   LowerToUpper(e);
   EXPECT_EQ(e.Grid.At({3, 75}), 'q');
 }
-
-TEST(EditorText, DropsTrailingBlanksAndRows) {
-  BasEditor e;
-  EXPECT_EQ(DrawingText(e), "");
-  PaintText(e,
-            "  a \r\nb\r\n\r\nc\x1F"
-            "d");
-  PintarCaracter(e, 0, 3, 'z');
-  EXPECT_EQ(DrawingText(e), "  a\r\n b\r\n\r\n c d");
-}

@@ -2,9 +2,11 @@
 #include <QAction>
 #include <QLabel>
 #include <QListWidget>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
+#include "editor/TextoDelEditor.h"
 #include "editor/frmEditor.h"
 #include "editor/frmEditor_Superficie.h"
 #include "platform/AtomicFile.h"
@@ -24,10 +26,11 @@ struct Editor {
   BasEditor state;
   test::RecordingDialogs dialogs;
   test::RecordingShell shell;
+  test::TestFolder folder;
   frmEditor window{state, Font{}, dialogs, shell, nullptr};
   QWidget& surface = Find<Superficie>(window, "picDraw");
 
-  explicit Editor(std::string_view text = {}) { window.Abrir(text); }
+  explicit Editor(const std::string& text = {}) { window.Abrir(text); }
 
   void Trigger(const char* action) { Find<QAction>(window, action).trigger(); }
 
@@ -55,9 +58,9 @@ class FrmEditorTest : public QObject {
   void BoxesSnapToTheLattice();
   void FillTakesTheReleasedCell();
   void MenusTransformAndUndo();
-  void InertEntriesChangeNothing();
   void SendsCopiesAndSaves();
   void AsksBeforeLosingChanges();
+  void SaysOnceWhatDoesNotFit();
   void SurfaceShowsInk();
 };
 
@@ -120,6 +123,8 @@ void FrmEditorTest::MenusTransformAndUndo() {
   e.Trigger("mnuMayMin");
   QCOMPARE(Rows(e.state.Grid, 1, 1, 2), (Strings{"ab"}));
   const Characters before = e.state.Grid;
+  for (const char* inert : {"mnureemplazar", "mnuFlipCaracterH", "mnuFlipCaracterV"}) e.Trigger(inert);
+  QCOMPARE(e.state.Grid, before);
   e.Trigger("mnuFlipHorizontal");
   QCOMPARE(e.state.Grid.At({1, 2}), '\n');
   e.Trigger("mnuFlipVertical");
@@ -130,27 +135,18 @@ void FrmEditorTest::MenusTransformAndUndo() {
   QCOMPARE(e.state.Grid.At({1, 2}), '\n');
 }
 
-void FrmEditorTest::InertEntriesChangeNothing() {
-  Editor e("(/b");
-  for (const char* name : {"mnureemplazar", "mnuFlipCaracterH", "mnuFlipCaracterV"}) {
-    const Characters before = e.state.Grid;
-    e.Trigger(name);
-    QCOMPARE(e.state.Grid, before);
-  }
-}
-
 void FrmEditorTest::SendsCopiesAndSaves() {
-  Editor e("ab\x1F \r\nc  \r\n\r\n");
+  Editor e("ab\x1F \r\nc  ");
   QSignalSpy sent(&e.window, &frmEditor::Enviado);
-  const std::string text = "ab\r\n c";
   e.Trigger("mnuEnviar");
-  QCOMPARE(sent.at(0).at(0).value<std::string>(), text);
+  QCOMPARE(sent.takeFirst().at(0).value<std::string>(), "ab\x1F \r\nc  ");
+  e.Drag({{36, 6}});
+  const std::string text = "ab\x1F #\r\nc  ";
   e.Trigger("mnuCopiar");
   QCOMPARE(e.shell.clipboard, text);
-  test::TestFolder folder;
-  e.dialogs.paths = {folder.File("d.txt"), "/dev/full"};
+  e.dialogs.paths = {e.folder.File("d.txt"), "/dev/full"};
   e.Trigger("mnuGuardarDibujo");
-  QCOMPARE(LeerArchivo(folder.File("d.txt")), text + "\r\n");
+  QCOMPARE(LeerArchivo(e.folder.File("d.txt")), text + "\r\n");
   e.Trigger("mnuGuardarDibujo");
   QCOMPARE(e.dialogs.log.back(),
            "Fail|Error al guardar|No se ha podido escribir \"/dev/full\": no queda espacio en el disco.");
@@ -158,18 +154,51 @@ void FrmEditorTest::SendsCopiesAndSaves() {
 
 void FrmEditorTest::AsksBeforeLosingChanges() {
   Editor e("ab");
-  QVERIFY(e.window.close());
+  QVERIFY(e.window.Abrir("cd") && e.window.close());
   QVERIFY2(e.dialogs.log.empty(), "nothing changed");
-  e.window.show();
-  e.Drag({{100, 100}});
-  e.dialogs.answers = {false, true};
-  QVERIFY(!e.window.close());
-  QCOMPARE(e.dialogs.log.size(), 1U);
-  QVERIFY(e.window.close());
-  e.window.show();
-  e.Trigger("mnuEnviar");
-  QVERIFY(e.window.close());
-  QCOMPARE(e.dialogs.log.size(), 2U);
+  const auto lose = [&](bool reopen) { return reopen ? e.window.Abrir("nuevo") : e.window.close(); };
+  for (const bool reopen : {false, true}) {
+    e.window.Abrir("ab");
+    e.Drag({{100, 100}});
+    const std::string drawn = DrawingText(e.state);
+    e.dialogs.log.clear();
+    QVERIFY(!lose(reopen));  // to cancel is what nobody answers
+    QCOMPARE(e.dialogs.log,
+             (Strings{"AskToSave|Editor Ascii|El dibujo tiene cambios que no se han guardado ni enviado a "
+                      "la ventana principal.\r\n¿Desea guardarlo en un archivo?"}));
+    e.dialogs.respuestas = {Respuesta::Guardar, Respuesta::Guardar};
+    QVERIFY2(!lose(reopen), "no file was chosen");
+    QCOMPARE(DrawingText(e.state), drawn);
+    QVERIFY(e.window.isVisible());
+    e.dialogs.paths = {e.folder.File("g.txt")};
+    QVERIFY(lose(reopen));
+    QCOMPARE(LeerArchivo(e.folder.File("g.txt")), drawn + "\r\n");
+    e.window.Abrir("ab");
+    e.Drag({{100, 100}});
+    e.dialogs.respuestas = {Respuesta::Descartar};
+    QVERIFY(lose(reopen));
+    QCOMPARE(DrawingText(e.state), reopen ? "nuevo" : drawn);
+    e.window.Abrir("ab");
+    e.Drag({{100, 100}});
+    e.Trigger("mnuEnviar");
+    QVERIFY(lose(reopen));
+  }
+}
+
+void FrmEditorTest::SaysOnceWhatDoesNotFit() {
+  Editor e("ab\r\n" + std::string(320, 'x'));
+  auto& warning = Find<QLabel>(e.window, "lblNoCabe");
+  QVERIFY(warning.isVisible());
+  QVERIFY(warning.text().startsWith("El texto tiene 320 columnas y 2 líneas, y aquí caben 99 y 74."));
+  e.Trigger("mnuCLS");
+  QVERIFY(!warning.isVisible());
+  e.Trigger("mnuDeshacer");
+  QVERIFY(warning.isVisible());
+  e.window.Abrir("ab");
+  QVERIFY(!warning.isVisible());
+  const QSize screen = e.window.screen()->availableSize();  // 800 x 800 here
+  QVERIFY(e.window.frameSize().width() <= screen.width() && e.window.frameSize().height() <= screen.height());
+  QVERIFY(e.window.minimumSizeHint().width() <= 600 && e.window.minimumSizeHint().height() <= 500);
 }
 
 void FrmEditorTest::SurfaceShowsInk() {
