@@ -52,11 +52,8 @@ class FrmEditorTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void OpensTheText();
   void FreeDrawingFollowsThePointer();
-  void EraserLeavesTheGrid();
-  void BoxesSnapToTheLattice();
-  void FillTakesTheReleasedCell();
+  void ToolsFollowTheirGestures();
   void MenusTransformAndUndo();
   void SendsCopiesAndSaves();
   void AsksBeforeLosingChanges();
@@ -64,18 +61,10 @@ class FrmEditorTest : public QObject {
   void SurfaceShowsInk();
 };
 
-void FrmEditorTest::OpensTheText() {
-  Editor e("ab\r\ncd");
-  QCOMPARE(Rows(e.state.Grid, 1, 2, 3), (Strings{"ab ", "\ncd"}));
-  QCOMPARE(e.window.windowTitle(), "Editor Ascii");
-  auto& list = Find<QListWidget>(e.window, "lstCaracteres");
-  QCOMPARE(list.count(), 96);
-  QVERIFY(!Find<QAction>(e.window, "mnuRehacer").isEnabled());
-}
-
 void FrmEditorTest::FreeDrawingFollowsThePointer() {
   Editor e;
   auto& list = Find<QListWidget>(e.window, "lstCaracteres");
+  QCOMPARE(list.count(), 96);
   list.setCurrentRow('*' - 32);
   e.Drag({{4, 6}, {12, 6}, {20, 18}, {-30, 6}, {5000, 6}, {30, 895}});
   QCOMPARE(Rows(e.state.Grid, 1, 2, 4), (Strings{"**  ", "  * "}));
@@ -90,34 +79,27 @@ void FrmEditorTest::FreeDrawingFollowsThePointer() {
   QCOMPARE(Find<QLabel>(e.window, "posicion").text(), "");
 }
 
-void FrmEditorTest::EraserLeavesTheGrid() {
-  Editor e("abc");
-  e.Trigger("Borrar");
-  e.Drag({{4, 6}, {12, 6}});
-  QCOMPARE(Rows(e.state.Screen, 1, 1, 3), (Strings{"  c"}));
-  QCOMPARE(Rows(e.state.Grid, 1, 1, 3), (Strings{"abc"}));
-}
-
-void FrmEditorTest::BoxesSnapToTheLattice() {
-  Editor e;
-  e.Trigger("Caja");
-  e.Drag({{9, 13}, {20, 20}, {38, 45}});  // corners (8, 12) and (40, 48)
-  QCOMPARE(Rows(e.state.Grid, 1, 5, 6), (Strings{"      ", " +--+ ", " |  | ", " +--+ ", "      "}));
-  e.Trigger("CajaR");
-  e.Drag({{40, 48}, {8, 12}});
-  QCOMPARE(Rows(e.state.Grid, 3, 3, 6), (Strings{" |##| "}));
-}
-
-void FrmEditorTest::FillTakesTheReleasedCell() {
-  Editor e("aaa b");
-  e.Trigger("Rellenar");
-  QTest::mousePress(&e.surface, Qt::LeftButton, {}, {400, 400});
-  QTest::mouseRelease(&e.surface, Qt::LeftButton, {}, {12, 6});
-  QCOMPARE(Rows(e.state.Grid, 1, 1, 5), (Strings{"### b"}));
+void FrmEditorTest::ToolsFollowTheirGestures() {
+  struct Row {
+    const char* tool;
+    std::initializer_list<QPoint> gesture;
+    Strings grid;  // rows 1..4 of a drawing of "aaa b"
+  };
+  for (const Row& r : {Row{"Borrar", {{4, 6}, {12, 6}}, {"aaa b ", "      ", "      ", "      "}},
+                       {"Caja", {{9, 13}, {20, 20}, {38, 45}}, {"aaa b ", " +--+ ", " |  | ", " +--+ "}},
+                       {"CajaR", {{40, 48}, {8, 12}}, {"aaa b ", " +--+ ", " |##| ", " +--+ "}},
+                       {"Rellenar", {{400, 400}, {12, 6}}, {"### b ", "      ", "      ", "      "}}}) {
+    Editor e("aaa b");
+    e.Trigger(r.tool);
+    e.Drag(r.gesture);
+    QCOMPARE(Rows(e.state.Grid, 1, 4, 6), r.grid);
+    QCOMPARE(Rows(e.state.Screen, 1, 1, 2)[0] == "  ", std::string(r.tool) == "Borrar");
+  }
 }
 
 void FrmEditorTest::MenusTransformAndUndo() {
   Editor e("aB");
+  QVERIFY(!Find<QAction>(e.window, "mnuRehacer").isEnabled());
   e.Trigger("mnuMinMay");
   QCOMPARE(Rows(e.state.Grid, 1, 1, 2), (Strings{"AB"}));
   e.Trigger("mnuMayMin");
@@ -153,35 +135,33 @@ void FrmEditorTest::SendsCopiesAndSaves() {
 }
 
 void FrmEditorTest::AsksBeforeLosingChanges() {
-  Editor e("ab");
-  QVERIFY(e.window.Abrir("cd") && e.window.close());
-  QVERIFY2(e.dialogs.log.empty(), "nothing changed");
-  const auto lose = [&](bool reopen) { return reopen ? e.window.Abrir("nuevo") : e.window.close(); };
   for (const bool reopen : {false, true}) {
-    e.window.Abrir("ab");
-    e.Drag({{100, 100}});
-    const std::string drawn = DrawingText(e.state);
-    e.dialogs.log.clear();
-    QVERIFY(!lose(reopen));  // to cancel is what nobody answers
-    QCOMPARE(e.dialogs.log,
-             (Strings{"AskToSave|Editor Ascii|El dibujo tiene cambios que no se han guardado ni enviado a "
-                      "la ventana principal.\r\n¿Desea guardarlo en un archivo?"}));
-    e.dialogs.respuestas = {Respuesta::Guardar, Respuesta::Guardar};
-    QVERIFY2(!lose(reopen), "no file was chosen");
+    Editor e("ab");
+    const auto lose = [&] { return reopen ? e.window.Abrir("cd") : e.window.close(); };
+    QVERIFY(lose() && e.dialogs.log.empty());  // nothing was changed
+    const auto draw = [&] {
+      e.window.Abrir("ab");
+      e.Drag({{100, 100}});
+      return DrawingText(e.state);
+    };
+    const std::string drawn = draw();
+    QVERIFY(!lose());  // an empty script cancels
+    QCOMPARE(e.dialogs.log.size(), 1U);
+    QVERIFY(e.dialogs.log[0].starts_with(
+        "AskToSave|Editor Ascii|El dibujo tiene cambios que no se han guardado ni"));
+    e.dialogs.respuestas = {Respuesta::Guardar, Respuesta::Guardar, Respuesta::Descartar};
+    QVERIFY2(!lose(), "no file was chosen");
     QCOMPARE(DrawingText(e.state), drawn);
     QVERIFY(e.window.isVisible());
     e.dialogs.paths = {e.folder.File("g.txt")};
-    QVERIFY(lose(reopen));
+    QVERIFY(lose());
     QCOMPARE(LeerArchivo(e.folder.File("g.txt")), drawn + "\r\n");
-    e.window.Abrir("ab");
-    e.Drag({{100, 100}});
-    e.dialogs.respuestas = {Respuesta::Descartar};
-    QVERIFY(lose(reopen));
-    QCOMPARE(DrawingText(e.state), reopen ? "nuevo" : drawn);
-    e.window.Abrir("ab");
-    e.Drag({{100, 100}});
+    draw();
+    QVERIFY(lose());
+    QCOMPARE(DrawingText(e.state), reopen ? "cd" : drawn);
+    draw();
     e.Trigger("mnuEnviar");
-    QVERIFY(lose(reopen));
+    QVERIFY(lose());
   }
 }
 
