@@ -1,5 +1,6 @@
 // The drawing as a document: opened, sent, saved, and not lost without a question.
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 
@@ -61,6 +62,7 @@ bool frmEditor::PuedePerderse() {
   if (DrawingText(editor_) == saved_) return true;
   raise();
   activateWindow();
+  QApplication::setActiveWindow(this);  // at once: the question opens over it
   switch (dialogs_.AskToSave(
       "El dibujo tiene cambios que no se han guardado ni enviado a la ventana principal.\r\n"
       "¿Desea guardarlo en un archivo?",

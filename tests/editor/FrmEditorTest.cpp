@@ -2,14 +2,18 @@
 #include <QAction>
 #include <QLabel>
 #include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include "editor/TextoDelEditor.h"
 #include "editor/frmEditor.h"
 #include "editor/frmEditor_Superficie.h"
 #include "platform/AtomicFile.h"
+#include "platform/qt/QtDialogs.h"
 #include "tests/support/DrawingRows.h"
 #include "tests/support/Find.h"
 #include "tests/support/RecordingDialogs.h"
@@ -57,6 +61,7 @@ class FrmEditorTest : public QObject {
   void MenusTransformAndUndo();
   void SendsCopiesAndSaves();
   void AsksBeforeLosingChanges();
+  void TheQuestionStandsOverTheEditor();
   void SaysOnceWhatDoesNotFit();
   void SurfaceShowsInk();
 };
@@ -162,6 +167,29 @@ void FrmEditorTest::AsksBeforeLosingChanges() {
     draw();
     e.Trigger("mnuEnviar");
     QVERIFY(lose());
+  }
+}
+
+void FrmEditorTest::TheQuestionStandsOverTheEditor() {
+  QWidget other;
+  QtDialogs dialogs;
+  dialogs.SetOwner(&other);
+  Editor e;
+  for (const auto& [press, answer] : {std::pair{"", Respuesta::Cancelar},
+                                      {"Guardar", Respuesta::Guardar},
+                                      {"Descartar", Respuesta::Descartar},
+                                      {"Cancelar", Respuesta::Cancelar}}) {
+    QString seen;
+    QTimer::singleShot(0, [&, button = QString(press)] {
+      auto& box = *qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      seen = box.parentWidget()->objectName() + " " + box.defaultButton()->text();
+      for (QAbstractButton* b : box.buttons())
+        if (b->text() == button) b->click();
+      box.close();
+    });
+    QApplication::setActiveWindow(&e.window);
+    QCOMPARE(dialogs.AskToSave("texto", "título"), answer);
+    QCOMPARE(seen, "frmEditor Guardar");
   }
 }
 
