@@ -75,7 +75,8 @@ class frmMain final : public QMainWindow {
 
   // --- frmMain_Archivo.cpp: pictures in, text out ---
   void CargarImagen();
-  void Guardar();
+  void GuardarTexto();
+  bool Guardar();  // false where nothing was saved
   void CopiarTexto();
   void GrabarIni();
 
@@ -85,8 +86,7 @@ class frmMain final : public QMainWindow {
   void Caducar(int method);  // the text is made again once the waiting events are handled
   void ShowPreview();
   void MostrarImagen();
-  void MostrarTexto();  // the produced text; the part in view stays in view
-  void PonerLetrero(const std::string& banner);
+  void MostrarTexto();        // the produced text; the part in view stays in view
   void ActualizarAcciones();  // what has nothing to work on cannot be chosen
   void AvisarSiHaSalidoEnBlanco(int method);
   void MostrarColores();
@@ -100,6 +100,7 @@ class frmMain final : public QMainWindow {
 
   // --- frmMain_Modos.cpp ---
   void ElegirModo(Modo mode);
+  void PonerLetrero(const std::string& banner);
   void MostrarLetreros(bool shown);  // the banner panel in front of the options, or not
 
   // --- frmMain_Web.cpp ---
@@ -119,6 +120,7 @@ class frmMain final : public QMainWindow {
 
   // --- frmMain_Ventanas.cpp ---
   void Salir();
+  bool PuedePerderseElTexto();  // asks where it was edited by hand
   void MapaDeCaracteres();
   void MostrarImagenCompleta();
   void AcercaDe();
@@ -152,6 +154,7 @@ class frmMain final : public QMainWindow {
   bool cancelada_ = false;      // the user wants it no longer
   bool cerrarDespues_ = false;  // and closed the window
   QElapsedTimer desdeElTexto_;
+  Qt::Alignment alineacion_ = Qt::AlignLeft;  // of banners; pictures' texts lie at the left
   int caducadoPor_ = 0;
   UltimoValor regeneracion_;  // a dragged slider costs one text however many values it sent
   MenuDeImagen* imagen_ = nullptr;

@@ -35,13 +35,22 @@ bool frmMain::AbrirImagen(const std::filesystem::path& file) {
   return true;
 }
 
-void frmMain::Guardar() {
-  if (txtAscii_->EstaVacia()) return;
+void frmMain::GuardarTexto() {
+  Guardar();
+}
+
+bool frmMain::Guardar() {
+  if (txtAscii_->EstaVacia()) return false;
   const std::string file =
       desktop_.dialogos.SaveFile("Guardar el AsciiArt...", "*.txt", "txt", NombreDeImagen(p_));
-  if (file.empty()) return;
-  Intentar(
-      desktop_.dialogos, [&] { EscribirArchivo(file, TextoGuardado(p_.ajustes.font, txtAscii_->Texto())); },
+  if (file.empty()) return false;
+  return Intentar(
+      desktop_.dialogos,
+      [&] {
+        EscribirArchivo(file, TextoGuardado(p_.ajustes.font, txtAscii_->Texto()));
+        txtAscii_->DarPorGuardada();
+        NombrarArchivo("Texto guardado", file);
+      },
       "Error al guardar");
 }
 

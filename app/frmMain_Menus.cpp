@@ -13,7 +13,7 @@ const std::vector<frmMain::Menu>& frmMain::Menus() {
          &frmMain::CargarImagen},
         {{"mnuGuardar", "&Guardar el AsciiArt...", "document-save", "Ctrl+S",
           "Guarda el texto en un archivo"},
-         &frmMain::Guardar},
+         &frmMain::GuardarTexto},
         {{"mnuGrabarIni", "Grabar la con&figuración", "document-properties", nullptr,
           "Escribe las opciones y la fuente en KTV.ini"},
          &frmMain::GrabarIni},

@@ -9,6 +9,7 @@
 #include "app/frmMain.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "figlet/frmFiglet.h"
+#include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Intentar.h"
 #include "platform/qt/Named.h"
 
@@ -49,14 +50,26 @@ void frmMain::ElegirModo(Modo mode) {
 }
 
 void frmMain::CrearLetreros(QVBoxLayout* area) {
-  figlet_ = new frmFiglet(p_.basFigLet, p_.carpetasDeFuentes, desktop_.dialogos, *txtAscii_, PicAlgoritmos_);
+  figlet_ = new frmFiglet(p_.basFigLet, p_.carpetasDeFuentes, desktop_.dialogos, PicAlgoritmos_);
   figlet_->hide();
   area->addWidget(figlet_);
   const auto count = [this](int fonts) {
     panelFiglet_->setText(QStringLiteral("Fuentes FigLet encontradas (%1)").arg(fonts));
   };
   connect(figlet_, &frmFiglet::ListaCambiada, this, count);
+  connect(figlet_, &frmFiglet::LetreroCambiado, this,
+          Con(desktop_.dialogos, [this](const std::string& banner) { PonerLetrero(banner); }));
+  connect(figlet_, &frmFiglet::AlineacionCambiada, this, [this](Qt::Alignment alignment) {
+    alineacion_ = alignment;
+    txtAscii_->Alinear(alignment);
+  });
   count(figlet_->Cuantas());
+}
+
+void frmMain::PonerLetrero(const std::string& banner) {
+  p_.basAscii.ProducedText = banner;
+  txtAscii_->PonerTexto(banner);
+  txtAscii_->Alinear(alineacion_);
 }
 
 void frmMain::MostrarLetreros(bool shown) {

@@ -7,6 +7,7 @@
 #include "app/frmSistema.h"
 #include "editor/frmEditor.h"
 #include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/Intentar.h"
 #include "stats/frmEstadisticas.h"
 
 namespace pixmosa {
@@ -35,12 +36,15 @@ void frmMain::AcercaDe() {
 }
 
 void frmMain::AbrirEditor() {
-  // A window closed by the user is gone; one that is open gets the text painted over its drawing.
+  // A window closed by the user is gone; one that is open asks before it takes another text.
   if (!editor_ || !editor_->isVisible()) {
     delete editor_;
     editor_ = new frmEditor(p_.basEditor, p_.ajustes.font, desktop_.dialogos, desktop_.entorno, this);
-    connect(editor_, &frmEditor::Enviado, this,
-            [this](const std::string& text) { txtAscii_->PonerTexto(text); });
+    connect(editor_, &frmEditor::Enviado, this, Con(desktop_.dialogos, [this](const std::string& text) {
+              txtAscii_->RecibirTexto(text);
+              Decir("El dibujo del editor ha sustituido al texto.", "Deshacer",
+                    [this] { txtAscii_->Deshacer(); });
+            }));
   }
   editor_->Abrir(txtAscii_->Texto());
 }
@@ -52,7 +56,21 @@ void frmMain::closeEvent(QCloseEvent* event) {
     return;
   }
   // The editor may hold changes that only it knows of; it asks.
-  event->setAccepted(!editor_ || !editor_->isVisible() || editor_->close());
+  const bool editorClosed = !editor_ || !editor_->isVisible() || editor_->close();
+  event->setAccepted(editorClosed && PuedePerderseElTexto());
+}
+
+bool frmMain::PuedePerderseElTexto() {
+  if (!txtAscii_->SinGuardar()) return true;
+  switch (desktop_.dialogos.AskToSave("El texto editado a mano no se ha guardado.", "Pixmosa")) {
+    case Respuesta::Guardar:
+      return Guardar();
+    case Respuesta::Descartar:
+      return true;
+    case Respuesta::Cancelar:
+      break;
+  }
+  return false;
 }
 
 void frmMain::MostrarEstadisticas() {

@@ -1,11 +1,11 @@
 #include <filesystem>
 
 #include "cli/Ordenes.h"
-#include "figlet/Agregar.h"
 #include "figlet/Catalogo.h"
 #include "platform/CodePage.h"
 #include "platform/ProgramFolder.h"
-#include "platform/zip/ZipFont.h"
+#include "platform/zip/Descomprimir.h"
+#include "programa/AgregarFuentes.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -36,21 +36,13 @@ std::string Lista() {
 }
 
 int Agregar(Consola& consola, const std::vector<std::string>& operands) {
+  const auto advance = [&](std::size_t done, std::size_t of) { consola.Progreso("Fuente", done, of); };
   int status = 0;
-  const std::vector<fs::path> files = FontFiles({operands.begin(), operands.end()});
-  for (std::size_t i = 0; i < files.size(); ++i) {
-    consola.Progreso("Fuente", i, files.size());
-    try {
-      const std::string file = files[i].string();
-      const auto font = SinComprimir(consola.LeerBytes(file));
-      if (!font) throw ErrorDeTrabajo("No se ha añadido \"" + file + "\": el archivo zip está dañado.");
-      GuardarFuente(FontFolders(), files[i].stem().string() + ".flf", ReescribirFuente(*font, file));
-    } catch (const std::runtime_error& e) {
-      consola.Avisar(e.what());
-      status = 1;
-    }
+  for (const FuenteAgregada& f :
+       AgregarFuentes(FontFolders(), {operands.begin(), operands.end()}, DescomprimirZip, advance)) {
+    if (f.hayQueDecirlo) consola.Avisar(f.frase);
+    if (f.suceso == FuenteAgregada::kRechazada) status = 1;
   }
-  consola.Progreso("Fuente", files.size(), files.size());
   return status;
 }
 

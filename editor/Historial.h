@@ -24,12 +24,15 @@ class Historial {
  private:
   struct Dibujo {
     Characters grid, screen;
+    std::array<bool, kRows> rest;
+    std::shared_ptr<const TextoAbierto> opened;
     bool operator==(const Dibujo&) const = default;
   };
+  static Dibujo De(const BasEditor& editor);
   static void Mover(std::vector<Dibujo>& from, std::vector<Dibujo>& to, BasEditor& editor);
 
   static constexpr std::size_t kMost = 300;  // about 15 KB each
-  Dibujo before_;
+  Dibujo before_{};
   std::vector<Dibujo> undo_, redo_;
 };
 

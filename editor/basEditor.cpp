@@ -1,6 +1,7 @@
 #include "editor/basEditor.h"
 
 #include <algorithm>
+#include <string>
 #include <utility>
 
 #include "platform/Rounding.h"
@@ -54,6 +55,7 @@ void PintarCaracter(BasEditor& editor, int column, int row, char ch) {
   if (!IsValidCell(column, row)) return;
   Show(editor, {column, row}, ch);
   editor.Grid.At({column, row}) = ch;
+  if (column == kLastColumn) editor.Resto[static_cast<std::size_t>(row)] = false;
 }
 
 void EraseCell(BasEditor& editor, Cell c) {
@@ -76,8 +78,10 @@ void PaintText(BasEditor& editor, std::string_view text) {
 void Clear(BasEditor& editor) {
   editor.Screen = Characters();
   editor.AllChanged = true;
-  for (int row = 0; row < kPaintableRows; ++row)
+  for (int row = 0; row < kPaintableRows; ++row) {
     for (int column = 0; column < kLastColumn; ++column) editor.Grid.At({column, row}) = ' ';
+    editor.Resto[static_cast<std::size_t>(row)] = editor.Grid.At({kLastColumn, row}) != ' ';
+  }
 }
 
 void DrawBox(BasEditor& editor, Point a, Point b, bool filled) {
@@ -148,24 +152,6 @@ void ReplaceEverywhere(BasEditor& editor, char find, char replacement) {
   for (int column = 0; column < kColumns; ++column)
     for (int row = 0; row < kRows; ++row)
       if (editor.Grid.At({column, row}) == find) PintarCaracter(editor, column, row, replacement);
-}
-
-std::string DrawingText(const BasEditor& editor) {
-  std::string text;
-  std::size_t used = 0;  // up to the end of the last row that holds something
-  for (int row = 1; row < kRows; ++row) {
-    if (row > 1) text += "\r\n";
-    std::string line;
-    for (int column = 1; column < kColumns; ++column) {
-      const char ch = editor.Grid.At({column, row});
-      line += static_cast<unsigned char>(ch) < 32 ? ' ' : ch;
-    }
-    line.erase(line.find_last_not_of(' ') + 1);
-    text += line;
-    if (!line.empty()) used = text.size();
-  }
-  text.resize(used);
-  return text;
 }
 
 }  // namespace pixmosa

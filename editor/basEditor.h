@@ -2,8 +2,8 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -36,9 +36,13 @@ class Characters {
   std::array<char, static_cast<std::size_t>(kColumns* kRows)> codes_;
 };
 
+struct TextoAbierto;
+
 // The state of the editor. `Grid` is the drawing; `Screen` is what is seen, which the eraser changes alone.
 struct BasEditor {
   Characters Grid, Screen;
+  std::array<bool, kRows> Resto{};              // rows whose last column holds what Clear left there, unseen
+  std::shared_ptr<const TextoAbierto> Abierto;  // what was opened; none for a new drawing
   char CurrentChar = '#';
   std::vector<Cell> Changed;  // cells whose screen changed since somebody last cleared this list
   bool AllChanged = false;    // the whole screen did
@@ -90,9 +94,5 @@ void LowerToUpper(BasEditor& editor);
 
 // Repaints every cell that holds `find`.
 void ReplaceEverywhere(BasEditor& editor, char find, char replacement);
-
-// Rows 1..75 of columns 1..100: control codes as blanks, trailing blanks and trailing empty rows dropped, CR
-// LF between rows.
-std::string DrawingText(const BasEditor& editor);
 
 }  // namespace pixmosa

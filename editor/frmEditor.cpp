@@ -3,18 +3,19 @@
 #include <functional>
 
 #include <QActionGroup>
-#include <QCloseEvent>
 #include <QDockWidget>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QStatusBar>
+#include <QVBoxLayout>
 
+#include "editor/TextoDelEditor.h"
 #include "editor/frmEditor_Superficie.h"
-#include "platform/AtomicFile.h"
 #include "platform/qt/Menus.h"
 #include "platform/qt/Named.h"
+#include "platform/qt/Pantalla.h"
 #include "platform/qt/QtFont.h"
 #include "platform/qt/QtText.h"
 
@@ -44,7 +45,7 @@ struct Entrada : EntradaDeMenu {
 };
 
 constexpr Entrada kCLS = {{"mnuCLS", "&Borrar pantalla", "edit-clear", nullptr, "Borra el dibujo entero"},
-                          Clear};
+                          BorrarTodo};
 
 constexpr Entrada kEdicion[] = {
     {{"mnureemplazar", "Reemplazar caracteres"}, nullptr},
@@ -65,12 +66,7 @@ frmEditor::frmEditor(BasEditor& editor, const Font& font, Dialogs& dialogs, Shel
     : QMainWindow(parent), editor_(editor), dialogs_(dialogs), shell_(shell), font_{font.name, kFontPoints} {
   setObjectName("frmEditor");
   setWindowTitle(QStringLiteral("Editor Ascii"));
-  picDraw_ = named<Superficie>("picDraw", editor_, history_, font_);
-  auto* scroll = named<QScrollArea>("desplazamiento");
-  scroll->setWidget(picDraw_);
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setBackgroundRole(QPalette::Dark);
-  setCentralWidget(scroll);
+  setCentralWidget(CrearCentro());
   auto* bar = named<QStatusBar>("SBPanel");
   setStatusBar(bar);
   bar->addWidget(position_ = named<QLabel>("posicion"));
@@ -80,19 +76,31 @@ frmEditor::frmEditor(BasEditor& editor, const Font& font, Dialogs& dialogs, Shel
   connect(picDraw_, &Superficie::CeldaSenalada, this,
           [this](int column, int row) { position_->setText(QString("(%1,%2)").arg(column).arg(row)); });
   connect(picDraw_, &Superficie::Cambiado, this, &frmEditor::Actualizar);
-  resize(1040, 720);
-  Clear(editor_);
+  resize(EnPantalla(*this, {1040, 720}));
+  BorrarTodo(editor_);
   picDraw_->Refrescar();
-  sent_ = editor_.Grid;
   Actualizar();
 }
 
-void frmEditor::Abrir(std::string_view text) {
-  picDraw_->Hacer([&] { PaintText(editor_, text); });
-  sent_ = editor_.Grid;
-  show();
-  raise();
-  activateWindow();
+QWidget* frmEditor::CrearCentro() {
+  picDraw_ = named<Superficie>("picDraw", editor_, history_, font_);
+  auto* scroll = named<QScrollArea>("desplazamiento");
+  scroll->setWidget(picDraw_);
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setBackgroundRole(QPalette::Dark);
+  lblNoCabe_ = named<QLabel>("lblNoCabe");
+  lblNoCabe_->setWordWrap(true);
+  lblNoCabe_->setMargin(6);
+  lblNoCabe_->setBackgroundRole(QPalette::ToolTipBase);
+  lblNoCabe_->setForegroundRole(QPalette::ToolTipText);
+  lblNoCabe_->setAutoFillBackground(true);
+  auto* centre = new QWidget;
+  auto* layout = new QVBoxLayout(centre);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(lblNoCabe_);
+  layout->addWidget(scroll, 1);
+  return centre;
 }
 
 void frmEditor::CrearMenus() {
@@ -181,36 +189,6 @@ void frmEditor::CrearCaracteres() {
   dock->setWidget(list);
   addDockWidget(Qt::RightDockWidgetArea, dock);
   resizeDocks({dock}, {200}, Qt::Horizontal);
-}
-
-void frmEditor::Actualizar() {
-  findChild<QAction*>("mnuDeshacer")->setEnabled(history_.PuedeDeshacer());
-  findChild<QAction*>("mnuRehacer")->setEnabled(history_.PuedeRehacer());
-}
-
-void frmEditor::Enviar() {
-  sent_ = editor_.Grid;
-  emit Enviado(DrawingText(editor_));
-}
-
-void frmEditor::Guardar() {
-  const std::string file = dialogs_.SaveFile("Guardar el dibujo...", "*.txt", "txt");
-  if (file.empty()) return;
-  try {
-    EscribirArchivo(file, DrawingText(editor_) + "\r\n");
-    sent_ = editor_.Grid;
-  } catch (const FileError& e) {
-    dialogs_.Fail(e.what(), "Error al guardar");
-  }
-}
-
-void frmEditor::closeEvent(QCloseEvent* event) {
-  const bool close =
-      editor_.Grid == sent_ || dialogs_.Ask(
-                                   "El dibujo tiene cambios que no se han enviado a la ventana principal.\r\n"
-                                   "¿Desea cerrar el editor y perderlos?",
-                                   "Editor Ascii");
-  event->setAccepted(close);
 }
 
 }  // namespace pixmosa

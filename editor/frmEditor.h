@@ -1,6 +1,7 @@
 // The editor window: a grid of characters drawn on with tools.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include <QMainWindow>
@@ -23,30 +24,35 @@ class frmEditor final : public QMainWindow {
  public:
   frmEditor(BasEditor& editor, const Font& font, Dialogs& dialogs, Shell& shell, QWidget* parent);
 
-  // Paints a text (8-bit code page) over the drawing; what stands there afterwards counts as saved.
-  void Abrir(std::string_view text);
+  // Shows the window with a new drawing from a text (8-bit code page), which counts as saved. Asks first
+  // where an open window's drawing would be lost; false, with that drawing as it was, where the user keeps
+  // it.
+  bool Abrir(std::string_view text);
 
  signals:
-  void Enviado(const std::string& text);  // the drawing as text, for the main window
+  void Enviado(const std::string& text);  // the drawing as DrawingText gives it, for the main window
 
  protected:
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  QWidget* CrearCentro();
   void CrearMenus();
   void CrearHerramientas();
   void CrearCaracteres();
   void Actualizar();
   void Enviar();
-  void Guardar();
+  bool Guardar();
+  bool PuedePerderse();  // asks where there are changes
 
   BasEditor& editor_;
   Dialogs& dialogs_;
   Shell& shell_;
   Font font_;
   Historial history_;
-  Characters sent_;  // the grid as it was last opened, sent or saved
+  std::string saved_;  // the drawing's text as it was last opened, sent or saved
   Superficie* picDraw_;
+  QLabel* lblNoCabe_;
   QLabel* position_;
 };
 

@@ -20,6 +20,7 @@ struct BasFigLet {
       Glyphs;                  // rows of each code, from the first; rows never loaded are missing
   std::int32_t TableRows = 0;  // rows that each code has in the table; set by a header
   std::int32_t NextCode = 32, NextRow = 1, LineNumber = 1;
+  std::string Banner;  // as the panel shows it; not the reader's
 };
 
 // A header that cannot be parsed is reported through this; the load goes on.

@@ -1,9 +1,12 @@
 #include "figlet/frmFiglet.h"
 
+#include <algorithm>
 #include <map>
 #include <tuple>
 
 #include <QAction>
+#include <QActionGroup>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QListWidget>
 #include <QMenu>
@@ -12,21 +15,20 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "figlet/Agregar.h"
 #include "figlet/frmFigAbout.h"
-#include "platform/AtomicFile.h"
 #include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Menus.h"
 #include "platform/qt/Named.h"
 #include "platform/qt/QtText.h"
-#include "platform/zip/ZipFont.h"
+#include "platform/zip/Descomprimir.h"
+#include "programa/AgregarFuentes.h"
 
 namespace pixmosa {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::uintmax_t kLargestFont = 64 << 20;
+constexpr char kAgregar[] = "Añadir fuentes FIGlet";
 
 struct Alineacion {
   const char* clave;
@@ -38,18 +40,21 @@ constexpr Alineacion kAlineaciones[] = {{"Izquierda", "format-justify-left", Qt:
                                         {"Centrado", "format-justify-center", Qt::AlignHCenter},
                                         {"Derecha", "format-justify-right", Qt::AlignRight}};
 
-QAction* Boton(QToolBar* bar, const char* name, const char* icon, const char* text) {
-  QAction* action = bar->addAction(Icono(icon), QString::fromUtf8(text));
+// One of several buttons of which one is always down.
+QAction* Boton(QToolBar* bar, QActionGroup* group, const char* name, const char* icon) {
+  QAction* action = bar->addAction(Icono(icon), QString::fromUtf8(name));
   action->setObjectName(QString::fromUtf8(name));
-  action->setToolTip(QString::fromUtf8(text));
+  action->setToolTip(QString::fromUtf8(name));
+  action->setCheckable(true);
+  group->addAction(action);
+  action->setChecked(group->actions().size() == 1);
   return action;
 }
 
 }  // namespace
 
-frmFiglet::frmFiglet(BasFigLet& font, std::vector<fs::path> folders, Dialogs& dialogs, AreaDeTexto& target,
-                     QWidget* parent)
-    : QWidget(parent), font_(font), folders_(std::move(folders)), dialogs_(dialogs), target_(target) {
+frmFiglet::frmFiglet(BasFigLet& font, std::vector<fs::path> folders, Dialogs& dialogs, QWidget* parent)
+    : QWidget(parent), font_(font), folders_(std::move(folders)), dialogs_(dialogs) {
   setObjectName("frmFiglet");
   CrearControles();
   LlenarListas();
@@ -76,22 +81,30 @@ void frmFiglet::CrearControles() {
   layout->addWidget(tvwFigFonts_, 1);
 }
 
-QLayout* frmFiglet::CrearBarras() {
-  auto* views = named<QToolBar>("Toolbar3");
-  QAction* flat = Boton(views, "Lista simple", "view-list", "Lista simple");
-  QAction* tree = Boton(views, "Lista agrupada por categorías", "view-tree", "Lista agrupada por categorías");
-  const auto show = [this](bool list) {
-    lsvFuentesFig_->setVisible(list);
-    tvwFigFonts_->setVisible(!list);
+QToolBar* frmFiglet::CrearVistas() {
+  auto* bar = named<QToolBar>("Toolbar3");
+  auto* group = new QActionGroup(bar);
+  const auto view = [&](const char* name, const char* icon, bool list) {
+    connect(Boton(bar, group, name, icon), &QAction::triggered, this, [this, list] {
+      lsvFuentesFig_->setVisible(list);
+      tvwFigFonts_->setVisible(!list);
+    });
   };
-  connect(flat, &QAction::triggered, this, [show] { show(true); });
-  connect(tree, &QAction::triggered, this, [show] { show(false); });
+  view("Lista simple", "view-list", true);
+  view("Lista agrupada por categorías", "view-tree", false);
+  return bar;
+}
 
-  auto* align = named<QToolBar>("TBFIGAlinea");
-  for (const Alineacion& a : kAlineaciones) {
-    QAction* action = Boton(align, a.clave, a.icono, a.clave);
-    connect(action, &QAction::triggered, this, [this, value = a.valor] { Alinear(value); });
-  }
+QToolBar* frmFiglet::CrearAlineacion() {
+  auto* bar = named<QToolBar>("TBFIGAlinea");
+  auto* group = new QActionGroup(bar);
+  for (const Alineacion& a : kAlineaciones)
+    connect(Boton(bar, group, a.clave, a.icono), &QAction::triggered, this,
+            [this, value = a.valor] { Alinear(value); });
+  return bar;
+}
+
+QLayout* frmFiglet::CrearBarras() {
   auto* info = named<QToolButton>("cmdInfoFIG");
   info->setIcon(Icono("help-about"));
   info->setToolTip(QStringLiteral("Información sobre la fuente seleccionada"));
@@ -111,8 +124,8 @@ QLayout* frmFiglet::CrearBarras() {
   add->setMenu(menu);
 
   auto* row = new QHBoxLayout;
-  row->addWidget(views);
-  row->addWidget(align);
+  row->addWidget(CrearVistas());
+  row->addWidget(CrearAlineacion());
   row->addStretch(1);
   row->addWidget(info);
   row->addWidget(add);
@@ -168,45 +181,50 @@ void frmFiglet::PrimeraVez() {
 }
 
 void frmFiglet::Cargar(const std::string& name) {
-  target_.PonerTexto("");
+  Mostrar("");
   LoadFont(font_, ArchivoDeFuente(folders_, name), [this](const std::string& text) { dialogs_.Fail(text); });
   Dibujar();
 }
 
 void frmFiglet::Dibujar() {
-  target_.PonerTexto(RenderBanner(font_, txtFigText_->Texto()));
+  Mostrar(RenderBanner(font_, txtFigText_->Texto()));
+}
+
+void frmFiglet::Mostrar(std::string banner) {
+  font_.Banner = std::move(banner);
+  emit LetreroCambiado(font_.Banner);
 }
 
 void frmFiglet::Alinear(Qt::Alignment alignment) {
   txtFigText_->Alinear(alignment);
-  target_.Alinear(alignment);
+  emit AlineacionCambiada(alignment);
 }
 
 void frmFiglet::PedirFuentes() {
   const std::vector<std::string> chosen =
-      dialogs_.OpenFiles("Añadir fuentes FIGlet", "Fuentes FIGlet (*.flf;*.zip)|*.flf;*.zip");
-  if (!chosen.empty()) AgregarFuentes({chosen.begin(), chosen.end()});
+      dialogs_.OpenFiles(kAgregar, "Fuentes FIGlet (*.flf;*.tlf;*.zip)|*.flf;*.tlf;*.zip");
+  if (!chosen.empty()) Agregar({chosen.begin(), chosen.end()});
 }
 
 void frmFiglet::PedirCarpeta() {
-  const std::string folder = dialogs_.ChooseFolder("Añadir fuentes FIGlet");
-  if (!folder.empty()) AgregarFuentes({folder});
+  const std::string folder = dialogs_.ChooseFolder(kAgregar);
+  if (!folder.empty()) Agregar({folder});
 }
 
-void frmFiglet::AgregarFuentes(const std::vector<fs::path>& files) {
-  std::string refused;
-  for (const fs::path& file : FontFiles(files)) {
-    try {
-      const auto font = SinComprimir(LeerArchivo(file, kLargestFont));
-      if (!font)
-        throw FuenteRechazada("No se ha añadido \"" + file.string() + "\": el archivo zip está dañado.");
-      GuardarFuente(folders_, file.stem().string() + ".flf", ReescribirFuente(*font, file.string()));
-    } catch (const std::runtime_error& e) {
-      refused += (refused.empty() ? "" : "\r\n") + std::string(e.what());
-    }
-  }
+void frmFiglet::Agregar(const std::vector<fs::path>& chosen) {
+  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  const std::vector<FuenteAgregada> fonts = AgregarFuentes(folders_, chosen, DescomprimirZip);
+  QGuiApplication::restoreOverrideCursor();
   LlenarListas();
-  if (!refused.empty()) dialogs_.Fail(refused, "Añadir fuentes FIGlet");
+  const std::string summary = ResumenDeFuentes(fonts);
+  const bool refused = std::any_of(fonts.begin(), fonts.end(), [](const FuenteAgregada& f) {
+    return f.suceso == FuenteAgregada::kRechazada;
+  });
+  if (refused) {
+    dialogs_.Fail(summary, kAgregar);
+  } else if (!summary.empty()) {
+    dialogs_.Inform(summary, kAgregar);
+  }
 }
 
 }  // namespace pixmosa

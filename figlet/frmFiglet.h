@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <vector>
 
 #include <QWidget>
@@ -12,9 +13,9 @@
 #include "platform/Dialogs.h"
 
 class QListWidget;
+class QToolBar;
 class QTreeWidget;
 class QTreeWidgetItem;
-class QVBoxLayout;
 
 namespace pixmosa {
 
@@ -24,10 +25,8 @@ class frmFiglet final : public QWidget {
   Q_OBJECT
 
  public:
-  // `folders`: the program's font folder, then the user's own. The banner goes into `target`, the text area
-  // of the produced text.
-  frmFiglet(BasFigLet& font, std::vector<std::filesystem::path> folders, Dialogs& dialogs,
-            AreaDeTexto& target, QWidget* parent);
+  // `folders`: the program's font folder, then the user's own.
+  frmFiglet(BasFigLet& font, std::vector<std::filesystem::path> folders, Dialogs& dialogs, QWidget* parent);
 
   // The first time in a run: loads the first font of the list and shows the banner.
   void PrimeraVez();
@@ -35,19 +34,26 @@ class frmFiglet final : public QWidget {
   // Number of fonts in the flat list.
   int Cuantas() const;
 
-  // Rewrites standard fonts (or all of a folder) and lists them at once; says what was refused.
-  void AgregarFuentes(const std::vector<std::filesystem::path>& files);
+  // Adds the fonts of files, folders and zips and lists them at once; says what is not as it was chosen.
+  void Agregar(const std::vector<std::filesystem::path>& chosen);
 
  signals:
+  // The state's banner, which is to be the produced text; empty while a font is being loaded.
+  void LetreroCambiado(const std::string& banner);
+  // How each line of the produced text has to lie within the visible width.
+  void AlineacionCambiada(Qt::Alignment alignment);
   void ListaCambiada(int fonts);
 
  private:
   void CrearControles();
+  QToolBar* CrearVistas();
+  QToolBar* CrearAlineacion();
   QLayout* CrearBarras();
   void Conectar();
   void LlenarListas();
   void Cargar(const std::string& name);
   void Dibujar();
+  void Mostrar(std::string banner);
   void Alinear(Qt::Alignment alignment);
   void PedirFuentes();
   void PedirCarpeta();
@@ -55,7 +61,6 @@ class frmFiglet final : public QWidget {
   BasFigLet& font_;
   std::vector<std::filesystem::path> folders_;
   Dialogs& dialogs_;
-  AreaDeTexto& target_;
   AreaDeTexto* txtFigText_;
   QListWidget* lsvFuentesFig_;
   QTreeWidget* tvwFigFonts_;

@@ -15,6 +15,9 @@ struct FontChoice {
   int pixelHeight;  // its sign does not count
 };
 
+// What becomes of work that is not saved: it is saved, dropped, or kept and nothing else happens.
+enum class Respuesta { Guardar, Descartar, Cancelar };
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
@@ -34,6 +37,9 @@ class Dialogs {
 
   // Yes and No with the information icon; true on Yes only.
   virtual bool Ask(const std::string& text, const std::string& title = {}) = 0;
+  // "Guardar", "Descartar" and "Cancelar", over the window in use; the first is the default, and to close the
+  // question is the last.
+  virtual Respuesta AskToSave(const std::string& text, const std::string& title) = 0;
   // Information icon and OK.
   virtual void Inform(const std::string& text, const std::string& title = {}) = 0;
   // Critical icon and OK; `detail` says more below the text.

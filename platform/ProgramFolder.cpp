@@ -1,7 +1,9 @@
 #include "platform/ProgramFolder.h"
 
 #include <cstdlib>
+#include <pwd.h>
 #include <system_error>
+#include <unistd.h>
 
 namespace pixmosa {
 
@@ -15,13 +17,29 @@ std::filesystem::path ProgramFolder() {
   return fs::is_directory(share, ec) ? share : folder;
 }
 
+namespace {
+
+// The user's own folder; empty where the system knows of none.
+std::filesystem::path Home() {
+  if (const char* home = std::getenv("HOME"); home && *home == '/') return home;
+  const passwd* user = ::getpwuid(::geteuid());
+  return user && user->pw_dir && *user->pw_dir == '/' ? user->pw_dir : "";
+}
+
+// Where the user's data lies. A relative path would mean another folder at every start.
+std::filesystem::path DataHome() {
+  if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data == '/') return data;
+  const std::filesystem::path home = Home();
+  return home.empty() ? home : home / ".local" / "share";
+}
+
+}  // namespace
+
 std::vector<std::filesystem::path> FontFolders() {
-  const char* data = std::getenv("XDG_DATA_HOME");
-  const char* home = std::getenv("HOME");
-  const std::filesystem::path share = data && *data
-                                          ? std::filesystem::path(data)
-                                          : std::filesystem::path(home ? home : "") / ".local" / "share";
-  return {ProgramFolder() / "Fonts", share / "pixmosa" / "Fonts"};
+  std::vector<std::filesystem::path> folders{ProgramFolder() / "Fonts"};
+  if (const std::filesystem::path data = DataHome(); !data.empty())
+    folders.push_back(data / "pixmosa" / "Fonts");
+  return folders;
 }
 
 }  // namespace pixmosa

@@ -11,6 +11,8 @@ namespace pixmosa {
 std::filesystem::path ProgramFolder();
 
 // The folders of FIGlet fonts: "Fonts" of the program's folder, then the user's own, which may not exist yet.
+// XDG_DATA_HOME and HOME say where that is, where they are absolute; otherwise the system's list of users. A
+// user without a home has none.
 std::vector<std::filesystem::path> FontFolders();
 
 }  // namespace pixmosa

@@ -32,10 +32,6 @@ void GenerarDe(Programa& p, const LeerReducida& read, int method) {
   ConvertResized(p.basAscii, p.ajustes, resized, method);
 }
 
-void GenerarLetrero(Programa& p, std::string_view text) {
-  p.basAscii.ProducedText = RenderBanner(p.basFigLet, text);
-}
-
 void CargarPaleta3x2(Programa& p) {
   p.basAscii.Palette3x2 = LoadPalette3x2(p.carpeta);
 }

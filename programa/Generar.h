@@ -1,4 +1,4 @@
-// Making the produced text: from the working picture, from a file, from a banner.
+// Making the produced text from the working picture or from a file.
 #pragma once
 
 #include <functional>
@@ -25,9 +25,6 @@ bool Generar(Programa& p, int method);
 // PictureCodec::ReadStretched does.
 using LeerReducida = std::function<Picture(const std::function<Extent(Extent)>& size)>;
 void GenerarDe(Programa& p, const LeerReducida& read, int method);
-
-// The produced text is the banner of a typed text in the loaded font.
-void GenerarLetrero(Programa& p, std::string_view text);
 
 // The pattern file, which ships with the program. Throws Palette3x2Error.
 void CargarPaleta3x2(Programa& p);

@@ -12,7 +12,7 @@ import re
 import sys
 
 FIRST_QT_LEVEL = 3
-SYSTEM = re.compile(r'[a-z_]+|(unistd|fcntl|signal|sys/[a-z]+)\.h')  # the standard library and the system's own calls
+SYSTEM = re.compile(r'[a-z_]+|(pwd|unistd|fcntl|signal|sys/[a-z]+)\.h')  # the standard library and the system's own calls
 SKIPPED = re.compile(r'\.|build')
 
 

@@ -1,5 +1,6 @@
 #include "platform/qt/QtDialogs.h"
 
+#include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -39,20 +40,25 @@ QString QtFilterOf(const std::string& filter) {
   return filters.join(";;");
 }
 
+QWidget* QtDialogs::Encima() const {
+  QWidget* active = QApplication::activeWindow();
+  return active && active->isVisible() ? active : owner_.data();
+}
+
 std::string QtDialogs::OpenFile(const std::string& title, const std::string& filter) {
-  return QFileDialog::getOpenFileName(owner_, Q(title), {}, QtFilterOf(filter)).toStdString();
+  return QFileDialog::getOpenFileName(Encima(), Q(title), {}, QtFilterOf(filter)).toStdString();
 }
 
 std::vector<std::string> QtDialogs::OpenFiles(const std::string& title, const std::string& filter) {
   std::vector<std::string> files;
-  for (const QString& file : QFileDialog::getOpenFileNames(owner_, Q(title), {}, QtFilterOf(filter)))
+  for (const QString& file : QFileDialog::getOpenFileNames(Encima(), Q(title), {}, QtFilterOf(filter)))
     files.push_back(file.toStdString());
   return files;
 }
 
 std::string QtDialogs::SaveFile(const std::string& title, const std::string& filter,
                                 const std::string& defaultExtension, const std::string& proposal) {
-  QFileDialog dialog(owner_, Q(title), {}, QtFilterOf(filter));
+  QFileDialog dialog(Encima(), Q(title), {}, QtFilterOf(filter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(Q(defaultExtension));
   if (!proposal.empty()) dialog.selectFile(Q(proposal));
@@ -60,12 +66,12 @@ std::string QtDialogs::SaveFile(const std::string& title, const std::string& fil
 }
 
 std::string QtDialogs::ChooseFolder(const std::string& title) {
-  return QFileDialog::getExistingDirectory(owner_, Q(title)).toStdString();
+  return QFileDialog::getExistingDirectory(Encima(), Q(title)).toStdString();
 }
 
 Colour QtDialogs::ChooseColour(Colour current) {
   const ColourParts c = SplitColour(current);
-  const QColor chosen = QColorDialog::getColor(QColor(c.red, c.green, c.blue), owner_);
+  const QColor chosen = QColorDialog::getColor(QColor(c.red, c.green, c.blue), Encima());
   return chosen.isValid() ? Rgb(chosen.red(), chosen.green(), chosen.blue()) : kNoColour;
 }
 
@@ -73,7 +79,7 @@ std::optional<FontChoice> QtDialogs::ChooseFont(const Font& current) {
   QFont start(FamilyFor(current.name));
   start.setPixelSize(PixelHeight(current));
   bool accepted = false;
-  const QFont chosen = QFontDialog::getFont(&accepted, start, owner_);
+  const QFont chosen = QFontDialog::getFont(&accepted, start, Encima());
   if (!accepted) return std::nullopt;
   // Dialogs speak in points of 1/72 inch at 96 dots, which are pixels x 0.75.
   const int pixels = chosen.pixelSize() > 0 ? chosen.pixelSize() : RoundHalfEven(chosen.pointSizeF() / 0.75);
@@ -83,7 +89,7 @@ std::optional<FontChoice> QtDialogs::ChooseFont(const Font& current) {
 }
 
 bool QtDialogs::Ask(const std::string& text, const std::string& title) {
-  QMessageBox box(QMessageBox::Information, Q(title), Q(text), QMessageBox::Yes | QMessageBox::No, owner_);
+  QMessageBox box(QMessageBox::Information, Q(title), Q(text), QMessageBox::Yes | QMessageBox::No, Encima());
   box.setTextFormat(Qt::PlainText);
   box.button(QMessageBox::Yes)->setText(QStringLiteral("&Sí"));
   box.button(QMessageBox::No)->setText(QStringLiteral("&No"));
@@ -91,12 +97,27 @@ bool QtDialogs::Ask(const std::string& text, const std::string& title) {
   return box.exec() == QMessageBox::Yes;
 }
 
+Respuesta QtDialogs::AskToSave(const std::string& text, const std::string& title) {
+  QMessageBox box(QMessageBox::Question, Q(title), Q(text),
+                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, Encima());
+  box.setTextFormat(Qt::PlainText);
+  box.button(QMessageBox::Save)->setText(QStringLiteral("Guardar"));
+  box.button(QMessageBox::Discard)->setText(QStringLiteral("Descartar"));
+  box.button(QMessageBox::Cancel)->setText(QStringLiteral("Cancelar"));
+  box.setDefaultButton(QMessageBox::Save);
+  box.setEscapeButton(QMessageBox::Cancel);
+  const int answer = box.exec();
+  return answer == QMessageBox::Save      ? Respuesta::Guardar
+         : answer == QMessageBox::Discard ? Respuesta::Descartar
+                                          : Respuesta::Cancelar;
+}
+
 void QtDialogs::Inform(const std::string& text, const std::string& title) {
-  Show(owner_, QMessageBox::Information, text, title);
+  Show(Encima(), QMessageBox::Information, text, title);
 }
 
 void QtDialogs::Fail(const std::string& text, const std::string& title, const std::string& detail) {
-  Show(owner_, QMessageBox::Critical, text, title, detail);
+  Show(Encima(), QMessageBox::Critical, text, title, detail);
 }
 
 }  // namespace pixmosa

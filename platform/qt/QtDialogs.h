@@ -10,7 +10,7 @@ namespace pixmosa {
 
 class QtDialogs final : public Dialogs {
  public:
-  // Dialogs open on `owner` from now on.
+  // Dialogs open on the window in use, or on `owner` where none of the program's is.
   void SetOwner(QWidget* owner) { owner_ = owner; }
 
   std::string OpenFile(const std::string& title, const std::string& filter) override;
@@ -21,10 +21,14 @@ class QtDialogs final : public Dialogs {
   Colour ChooseColour(Colour current) override;
   std::optional<FontChoice> ChooseFont(const Font& current) override;
   bool Ask(const std::string& text, const std::string& title) override;
+  Respuesta AskToSave(const std::string& text, const std::string& title) override;
   void Inform(const std::string& text, const std::string& title) override;
   void Fail(const std::string& text, const std::string& title, const std::string& detail) override;
 
  private:
+  // The window in use: a question about the editor's drawing stands over the editor.
+  QWidget* Encima() const;
+
   QPointer<QWidget> owner_;
 };
 

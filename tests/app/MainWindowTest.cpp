@@ -225,6 +225,15 @@ void MainWindowTest::ReplacedHandEditsComeBack() {
   QVERIFY(LabelText(m.window, "lblEnlace").startsWith("El texto editado a mano se ha sustituido."));
   QTest::keyClick(&m.Area(), Qt::Key_Z, Qt::ControlModifier);
   QCOMPARE(m.Text(), edited);
+
+  m.dialogs.respuestas = {Respuesta::Cancelar, Respuesta::Guardar, Respuesta::Guardar};
+  m.dialogs.paths = {"", m.folder.File("a.txt")};
+  m.dialogs.log.clear();
+  QVERIFY(!m.window.close());
+  QCOMPARE(m.dialogs.log, Log{"AskToSave|Pixmosa|El texto editado a mano no se ha guardado."});
+  QVERIFY2(!m.window.close(), "no file was named");
+  QVERIFY(m.window.close());
+  QVERIFY(LeerArchivo(m.folder.File("a.txt")).find("hola") != std::string::npos);
 }
 
 void MainWindowTest::WideTextAlwaysScrolls() {
@@ -364,7 +373,7 @@ void MainWindowTest::EditorSendsItsDrawingBack() {
   QCOMPARE(m.Text(), "hola\r\n\r\nx");
   PintarCaracter(m.program.basEditor, 1, 4, 'y');
   QVERIFY2(!m.window.close(), "the editor's unsent changes are asked about first");
-  QVERIFY(m.dialogs.log.back().starts_with("Ask|Editor Ascii|"));
+  QVERIFY(m.dialogs.log.back().starts_with("AskToSave|Editor Ascii|"));
   QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
   m.Trigger("mnuEstadisticas");
 }

@@ -1,6 +1,7 @@
 // The six modes and the options panel, driven in the real window.
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -12,6 +13,7 @@
 #include "app/Muestra.h"
 #include "programa/Modos.h"
 #include "tests/support/DrawnPicture.h"
+#include "tests/support/FigletFont.h"
 #include "tests/support/MainWindow.h"
 
 using namespace pixmosa;
@@ -24,7 +26,7 @@ const std::string kStale = "a mano";
 
 // A window with a picture that every method converts differently: half black, half white, a gray band.
 struct Loaded : test::MainWindow {
-  Loaded() {
+  explicit Loaded(const std::filesystem::path& fontFolder = {}) : test::MainWindow(fontFolder) {
     Picture p = Picture::Filled(400, 400, kWhite);
     std::uint32_t* to = p.Writable();
     for (int i = 0; i < 400 * 130; ++i) to[i] = 0xFF808080U;
@@ -78,6 +80,8 @@ class ModesTest : public QObject {
   void FillReachesTheOutlines();
   void BlackAndWhiteButtonChangesThePictureAtOnce();
   void GeneratingKeepsThePlaceAndTheAnimationNeedsNoPreview();
+  void BannersAreTheProducedText();
+  void EmptyOutlinesOfferBlackAndWhite();
   void SettingsAreWritten();
 };
 
@@ -280,6 +284,44 @@ void ModesTest::GeneratingKeepsThePlaceAndTheAnimationNeedsNoPreview() {
   Find<QCheckBox>(m.window, "chkAnimArt").setChecked(false);
   m.Regenerate();
   QVERIFY(m.window.findChild<QWidget*>("frmPreview"));
+}
+
+void ModesTest::BannersAreTheProducedText() {
+  test::TestFolder fonts;
+  std::filesystem::create_directory(fonts.Path() / "Fonts");
+  EscribirArchivo(fonts.File("Fonts/alfa.flf"), test::OwnFont());
+  Loaded m(fonts.Path() / "Fonts");
+  m.Trigger("Play");
+  QCOMPARE(Find<QLabel>(m.window, "Figlet").text(), "Fuentes FigLet encontradas (1)");
+  m.Choose(kModoTexto);
+  const std::string banner = "P1i1x1m1o1s1a1\r\nP2i2x2m2o2s2a2\r\n\r\n\r\n";
+  QCOMPARE(m.Text(), banner);
+  m.Trigger("mnuClipboard");
+  QCOMPARE(m.shell.clipboard, banner);
+  m.Trigger("VistaPrevia");
+  QCOMPARE(Find<AreaDeTexto>(Find<QDialog>(m.window, "frmPreview"), "txtAscii").Texto(), banner);
+
+  const auto side = [&] { return m.Area().document()->defaultTextOption().alignment(); };
+  Find<QAction>(Find<QWidget>(m.window, "frmFiglet"), "Centrado").trigger();
+  QVERIFY(side().testFlag(Qt::AlignHCenter));
+  m.Choose(kModoGrises);
+  m.Trigger("Play");
+  QVERIFY2(side().testFlag(Qt::AlignLeft), "a picture's text shows from the left");
+  m.Choose(kModoTexto);
+  QTest::keyClicks(&Find<AreaDeTexto>(m.window, "txtFigText"), "P");
+  QVERIFY2(side().testFlag(Qt::AlignHCenter), "the next banner lies as the button says");
+}
+
+void ModesTest::EmptyOutlinesOfferBlackAndWhite() {
+  test::MainWindow m;
+  m.Load(test::Grays({{200, 200, 200, 200}, {200, 9, 9, 200}, {200, 200, 200, 200}, {200, 200, 200, 200}}));
+  m.Trigger(kModos[kModoBordes]);
+  m.Trigger("Play");
+  auto& link = Find<QLabel>(m.window, "lblEnlace");
+  QVERIFY(link.text().startsWith("El dibujo ha salido en blanco"));
+  emit link.linkActivated("#");
+  QCOMPARE(test::Levels(m.program.imagen.picMain)[1], (std::vector<int>{255, 0, 0, 255}));
+  QVERIFY(m.Text().find_first_not_of(" \r\n") != std::string::npos);
 }
 
 void ModesTest::SettingsAreWritten() {

@@ -2,12 +2,18 @@
 #include <QAction>
 #include <QLabel>
 #include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
+#include "editor/TextoDelEditor.h"
 #include "editor/frmEditor.h"
 #include "editor/frmEditor_Superficie.h"
 #include "platform/AtomicFile.h"
+#include "platform/qt/QtDialogs.h"
 #include "tests/support/DrawingRows.h"
 #include "tests/support/Find.h"
 #include "tests/support/RecordingDialogs.h"
@@ -24,10 +30,11 @@ struct Editor {
   BasEditor state;
   test::RecordingDialogs dialogs;
   test::RecordingShell shell;
+  test::TestFolder folder;
   frmEditor window{state, Font{}, dialogs, shell, nullptr};
   QWidget& surface = Find<Superficie>(window, "picDraw");
 
-  explicit Editor(std::string_view text = {}) { window.Abrir(text); }
+  explicit Editor(const std::string& text = {}) { window.Abrir(text); }
 
   void Trigger(const char* action) { Find<QAction>(window, action).trigger(); }
 
@@ -49,30 +56,20 @@ class FrmEditorTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void OpensTheText();
   void FreeDrawingFollowsThePointer();
-  void EraserLeavesTheGrid();
-  void BoxesSnapToTheLattice();
-  void FillTakesTheReleasedCell();
+  void ToolsFollowTheirGestures();
   void MenusTransformAndUndo();
-  void InertEntriesChangeNothing();
   void SendsCopiesAndSaves();
   void AsksBeforeLosingChanges();
+  void TheQuestionStandsOverTheEditor();
+  void SaysOnceWhatDoesNotFit();
   void SurfaceShowsInk();
 };
-
-void FrmEditorTest::OpensTheText() {
-  Editor e("ab\r\ncd");
-  QCOMPARE(Rows(e.state.Grid, 1, 2, 3), (Strings{"ab ", "\ncd"}));
-  QCOMPARE(e.window.windowTitle(), "Editor Ascii");
-  auto& list = Find<QListWidget>(e.window, "lstCaracteres");
-  QCOMPARE(list.count(), 96);
-  QVERIFY(!Find<QAction>(e.window, "mnuRehacer").isEnabled());
-}
 
 void FrmEditorTest::FreeDrawingFollowsThePointer() {
   Editor e;
   auto& list = Find<QListWidget>(e.window, "lstCaracteres");
+  QCOMPARE(list.count(), 96);
   list.setCurrentRow('*' - 32);
   e.Drag({{4, 6}, {12, 6}, {20, 18}, {-30, 6}, {5000, 6}, {30, 895}});
   QCOMPARE(Rows(e.state.Grid, 1, 2, 4), (Strings{"**  ", "  * "}));
@@ -87,39 +84,34 @@ void FrmEditorTest::FreeDrawingFollowsThePointer() {
   QCOMPARE(Find<QLabel>(e.window, "posicion").text(), "");
 }
 
-void FrmEditorTest::EraserLeavesTheGrid() {
-  Editor e("abc");
-  e.Trigger("Borrar");
-  e.Drag({{4, 6}, {12, 6}});
-  QCOMPARE(Rows(e.state.Screen, 1, 1, 3), (Strings{"  c"}));
-  QCOMPARE(Rows(e.state.Grid, 1, 1, 3), (Strings{"abc"}));
-}
-
-void FrmEditorTest::BoxesSnapToTheLattice() {
-  Editor e;
-  e.Trigger("Caja");
-  e.Drag({{9, 13}, {20, 20}, {38, 45}});  // corners (8, 12) and (40, 48)
-  QCOMPARE(Rows(e.state.Grid, 1, 5, 6), (Strings{"      ", " +--+ ", " |  | ", " +--+ ", "      "}));
-  e.Trigger("CajaR");
-  e.Drag({{40, 48}, {8, 12}});
-  QCOMPARE(Rows(e.state.Grid, 3, 3, 6), (Strings{" |##| "}));
-}
-
-void FrmEditorTest::FillTakesTheReleasedCell() {
-  Editor e("aaa b");
-  e.Trigger("Rellenar");
-  QTest::mousePress(&e.surface, Qt::LeftButton, {}, {400, 400});
-  QTest::mouseRelease(&e.surface, Qt::LeftButton, {}, {12, 6});
-  QCOMPARE(Rows(e.state.Grid, 1, 1, 5), (Strings{"### b"}));
+void FrmEditorTest::ToolsFollowTheirGestures() {
+  struct Row {
+    const char* tool;
+    std::initializer_list<QPoint> gesture;
+    Strings grid;  // rows 1..4 of a drawing of "aaa b"
+  };
+  for (const Row& r : {Row{"Borrar", {{4, 6}, {12, 6}}, {"aaa b ", "      ", "      ", "      "}},
+                       {"Caja", {{9, 13}, {20, 20}, {38, 45}}, {"aaa b ", " +--+ ", " |  | ", " +--+ "}},
+                       {"CajaR", {{40, 48}, {8, 12}}, {"aaa b ", " +--+ ", " |##| ", " +--+ "}},
+                       {"Rellenar", {{400, 400}, {12, 6}}, {"### b ", "      ", "      ", "      "}}}) {
+    Editor e("aaa b");
+    e.Trigger(r.tool);
+    e.Drag(r.gesture);
+    QCOMPARE(Rows(e.state.Grid, 1, 4, 6), r.grid);
+    QCOMPARE(Rows(e.state.Screen, 1, 1, 2)[0] == "  ", std::string(r.tool) == "Borrar");
+  }
 }
 
 void FrmEditorTest::MenusTransformAndUndo() {
   Editor e("aB");
+  QVERIFY(!Find<QAction>(e.window, "mnuRehacer").isEnabled());
   e.Trigger("mnuMinMay");
   QCOMPARE(Rows(e.state.Grid, 1, 1, 2), (Strings{"AB"}));
   e.Trigger("mnuMayMin");
   QCOMPARE(Rows(e.state.Grid, 1, 1, 2), (Strings{"ab"}));
   const Characters before = e.state.Grid;
+  for (const char* inert : {"mnureemplazar", "mnuFlipCaracterH", "mnuFlipCaracterV"}) e.Trigger(inert);
+  QCOMPARE(e.state.Grid, before);
   e.Trigger("mnuFlipHorizontal");
   QCOMPARE(e.state.Grid.At({1, 2}), '\n');
   e.Trigger("mnuFlipVertical");
@@ -130,46 +122,91 @@ void FrmEditorTest::MenusTransformAndUndo() {
   QCOMPARE(e.state.Grid.At({1, 2}), '\n');
 }
 
-void FrmEditorTest::InertEntriesChangeNothing() {
-  Editor e("(/b");
-  for (const char* name : {"mnureemplazar", "mnuFlipCaracterH", "mnuFlipCaracterV"}) {
-    const Characters before = e.state.Grid;
-    e.Trigger(name);
-    QCOMPARE(e.state.Grid, before);
-  }
-}
-
 void FrmEditorTest::SendsCopiesAndSaves() {
-  Editor e("ab\x1F \r\nc  \r\n\r\n");
+  Editor e("ab\x1F \r\nc  ");
   QSignalSpy sent(&e.window, &frmEditor::Enviado);
-  const std::string text = "ab\r\n c";
   e.Trigger("mnuEnviar");
-  QCOMPARE(sent.at(0).at(0).value<std::string>(), text);
+  QCOMPARE(sent.takeFirst().at(0).value<std::string>(), "ab\x1F \r\nc  ");
+  e.Drag({{36, 6}});
+  const std::string text = "ab\x1F #\r\nc  ";
   e.Trigger("mnuCopiar");
   QCOMPARE(e.shell.clipboard, text);
-  test::TestFolder folder;
-  e.dialogs.paths = {folder.File("d.txt"), "/dev/full"};
+  e.dialogs.paths = {e.folder.File("d.txt"), "/dev/full"};
   e.Trigger("mnuGuardarDibujo");
-  QCOMPARE(LeerArchivo(folder.File("d.txt")), text + "\r\n");
+  QCOMPARE(LeerArchivo(e.folder.File("d.txt")), text + "\r\n");
   e.Trigger("mnuGuardarDibujo");
   QCOMPARE(e.dialogs.log.back(),
            "Fail|Error al guardar|No se ha podido escribir \"/dev/full\": no queda espacio en el disco.");
 }
 
 void FrmEditorTest::AsksBeforeLosingChanges() {
-  Editor e("ab");
-  QVERIFY(e.window.close());
-  QVERIFY2(e.dialogs.log.empty(), "nothing changed");
-  e.window.show();
-  e.Drag({{100, 100}});
-  e.dialogs.answers = {false, true};
-  QVERIFY(!e.window.close());
-  QCOMPARE(e.dialogs.log.size(), 1U);
-  QVERIFY(e.window.close());
-  e.window.show();
-  e.Trigger("mnuEnviar");
-  QVERIFY(e.window.close());
-  QCOMPARE(e.dialogs.log.size(), 2U);
+  for (const bool reopen : {false, true}) {
+    Editor e("ab");
+    const auto lose = [&] { return reopen ? e.window.Abrir("cd") : e.window.close(); };
+    QVERIFY(lose() && e.dialogs.log.empty());  // nothing was changed
+    const auto draw = [&] {
+      e.window.Abrir("ab");
+      e.Drag({{100, 100}});
+      return DrawingText(e.state);
+    };
+    const std::string drawn = draw();
+    QVERIFY(!lose());  // an empty script cancels
+    QCOMPARE(e.dialogs.log.size(), 1U);
+    QVERIFY(e.dialogs.log[0].starts_with(
+        "AskToSave|Editor Ascii|El dibujo tiene cambios que no se han guardado ni"));
+    e.dialogs.respuestas = {Respuesta::Guardar, Respuesta::Guardar, Respuesta::Descartar};
+    QVERIFY2(!lose(), "no file was chosen");
+    QCOMPARE(DrawingText(e.state), drawn);
+    QVERIFY(e.window.isVisible());
+    e.dialogs.paths = {e.folder.File("g.txt")};
+    QVERIFY(lose());
+    QCOMPARE(LeerArchivo(e.folder.File("g.txt")), drawn + "\r\n");
+    draw();
+    QVERIFY(lose());
+    QCOMPARE(DrawingText(e.state), reopen ? "cd" : drawn);
+    draw();
+    e.Trigger("mnuEnviar");
+    QVERIFY(lose());
+  }
+}
+
+void FrmEditorTest::TheQuestionStandsOverTheEditor() {
+  QWidget other;
+  QtDialogs dialogs;
+  dialogs.SetOwner(&other);
+  Editor e;
+  for (const auto& [press, answer] : {std::pair{"", Respuesta::Cancelar},
+                                      {"Guardar", Respuesta::Guardar},
+                                      {"Descartar", Respuesta::Descartar},
+                                      {"Cancelar", Respuesta::Cancelar}}) {
+    QString seen;
+    QTimer::singleShot(0, [&, button = QString(press)] {
+      auto& box = *qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      seen = box.parentWidget()->objectName() + " " + box.defaultButton()->text();
+      for (QAbstractButton* b : box.buttons())
+        if (b->text() == button) b->click();
+      box.close();
+    });
+    QApplication::setActiveWindow(&e.window);
+    QCOMPARE(dialogs.AskToSave("texto", "título"), answer);
+    QCOMPARE(seen, "frmEditor Guardar");
+  }
+}
+
+void FrmEditorTest::SaysOnceWhatDoesNotFit() {
+  Editor e("ab\r\n" + std::string(320, 'x'));
+  auto& warning = Find<QLabel>(e.window, "lblNoCabe");
+  QVERIFY(warning.isVisible());
+  QVERIFY(warning.text().startsWith("El texto tiene 320 columnas y 2 líneas, y aquí caben 99 y 74."));
+  e.Trigger("mnuCLS");
+  QVERIFY(!warning.isVisible());
+  e.Trigger("mnuDeshacer");
+  QVERIFY(warning.isVisible());
+  e.window.Abrir("ab");
+  QVERIFY(!warning.isVisible());
+  const QSize screen = e.window.screen()->availableSize();  // 800 x 800 here
+  QVERIFY(e.window.frameSize().width() <= screen.width() && e.window.frameSize().height() <= screen.height());
+  QVERIFY(e.window.minimumSizeHint().width() <= 600 && e.window.minimumSizeHint().height() <= 500);
 }
 
 void FrmEditorTest::SurfaceShowsInk() {

@@ -28,6 +28,33 @@ TEST(Catalogo, LinesMakeNodes) {
   EXPECT_EQ(Keys("[A\r\n[A|B\r\n[]\r\n"), "0: ");
 }
 
+TEST(Catalogo, LargeOnesStayWithinBounds) {
+  std::string many = "[A]\r\n[A|B]\r\n", shared = "[A]\r\n[A|" + std::string(1 << 20, 'b') + "]\r\n";
+  for (int i = 0; i < 50'000; ++i) many += std::to_string(i) + "\r\n";
+  for (int i = 0; i < 500; ++i) shared += std::to_string(i) + "\r\n";
+  std::vector<NodoDeFuentes> nodes;
+  FillFontTree(nodes, many);
+  EXPECT_EQ(nodes.size(), 50'002U);
+  nodes.clear();
+  FillFontTree(nodes, shared);
+  EXPECT_LE(nodes.size(), 70U) << "each font's key holds the long name";
+}
+
+TEST(Catalogo, AddedFontsStandInTheirOwnCategory) {
+  const std::string own =
+      "[A\xF1"
+      "adidas]\r\n[A\xF1"
+      "adidas|Propias]\r\n";
+  EXPECT_EQ(ConFuente("", "ñu"), own + "\xF1u\r\n");
+  EXPECT_EQ(ConFuente("[A]\r\n[A|B]\r\nc", "c"), "[A]\r\n[A|B]\r\nc\r\n" + own + "c\r\n");
+  EXPECT_EQ(ConFuente(own + "b\r\n[C]\r\na\r\n", "a"), own + "a\r\nb\r\n[C]\r\na\r\n");
+  EXPECT_EQ(ConFuente(own + "b", "b"), own + "b\r\n") << "listed once";
+  EXPECT_EQ(ConFuente(own, "x"), own + "x\r\n");
+  EXPECT_EQ(ConFuente("x" + own.substr(own.find("[A", 1)), "x"),
+            "x" + own.substr(own.find("[A", 1)) + own + "x\r\n")
+      << "not a line of its own";
+}
+
 TEST(Catalogo, FontsOfSeveralFolders) {
   const test::TestFolder a, b;
   for (const std::string& file :

@@ -1,10 +1,7 @@
-// Any bytes as a font, a catalogue and a standard font: the table and the banner stay in proportion to the
-// input.
+// Any bytes as a font of the reader's own form: the table and the banner stay in proportion to the input.
 #include <cstdint>
 #include <cstdlib>
 
-#include "figlet/Agregar.h"
-#include "figlet/Catalogo.h"
 #include "figlet/basFigLet.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -15,16 +12,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   for (const auto& glyph : font.Glyphs) rows += glyph.size();
   if (rows > size + 1) std::abort();
   pixmosa::RenderBanner(font, bytes.substr(0, 64));
-
-  std::vector<pixmosa::NodoDeFuentes> nodes;
-  pixmosa::FillFontTree(nodes, bytes.substr(0, 4096));
-
-  try {
-    const std::string own = pixmosa::ReescribirFuente(bytes, "f");
-    pixmosa::BasFigLet again;
-    pixmosa::LoadFontBytes(again, own, [](const std::string&) { std::abort(); });
-    if (again.NextCode != 256) std::abort();
-  } catch (const pixmosa::FuenteRechazada&) {
-  }
   return 0;
 }

@@ -20,14 +20,18 @@ TEST(Statistics, RowsInTheirOrder) {
             (std::vector<std::string>{"Caracteres|Caracteres|8", "Lineas|Lineas|2", "Columnas|Columnas|2",
                                       "asc10|\n (Cod. 10)|1", "asc13|\r (Cod. 13)|1", "asc32|  (Cod. 32)|2",
                                       "asc65|A (Cod. 65)|1", "asc97|a (Cod. 97)|2", "asc98|b (Cod. 98)|1"}));
-}
-
-TEST(Statistics, EmptyTextAndOddOnes) {
   EXPECT_EQ(Lines(""),
             (std::vector<std::string>{"Caracteres|Caracteres|0", "Lineas|Lineas|0", "Columnas|Columnas|"}));
-  EXPECT_EQ(Lines("\r\n")[1], "Lineas|Lineas|2") << "the empty piece after it counts";
-  EXPECT_EQ(Lines("\r\n")[2], "Columnas|Columnas|0");
-  EXPECT_EQ(Lines("a\nb\rc")[1], "Lineas|Lineas|1") << "only CR LF separates";
-  EXPECT_EQ(Lines(std::string_view("\0\0", 2)).size(), 3U) << "code 0 has no row";
-  EXPECT_EQ(Lines(std::string(1'000'003, '\xFF')).back(), "asc255|\xFF (Cod. 255)|1000003");
+  struct Row {
+    std::string text, lines, columns, last;
+  };
+  for (const Row& r : {Row{"\r\n", "2", "0", "asc13|\r (Cod. 13)|1"},  // the empty piece after it counts
+                       {"a\nb\rc", "1", "5", "asc99|c (Cod. 99)|1"},   // only CR LF separates
+                       {std::string(2, '\0'), "1", "2", "Columnas|Columnas|2"},
+                       {"\n\r\n", "2", "1", "asc13|\r (Cod. 13)|1"},
+                       {std::string(1'000'003, '\xFF'), "1", "1000003", "asc255|\xFF (Cod. 255)|1000003"}}) {
+    const auto rows = Lines(r.text);
+    EXPECT_EQ(rows[1] + rows[2], "Lineas|Lineas|" + r.lines + "Columnas|Columnas|" + r.columns);
+    EXPECT_EQ(rows.back(), r.last);
+  }
 }

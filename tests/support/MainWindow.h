@@ -21,6 +21,7 @@
 namespace pixmosa::test {
 
 struct MainWindow {
+  std::filesystem::path fonts;
   TestFolder folder;
   TestFolder scratch;
   QtTextSurface surface;
@@ -31,7 +32,8 @@ struct MainWindow {
   Programa program{surface, pictures, ProgramFolder()};
   frmMain window{Ready(program), {dialogs, shell, registry}};
 
-  MainWindow() {
+  // `fontFolder`: of FIGlet fonts; an empty one by default.
+  explicit MainWindow(std::filesystem::path fontFolder = {}) : fonts(std::move(fontFolder)) {
     window.show();
     [[maybe_unused]] const bool shown = QTest::qWaitForWindowExposed(&window);
   }
@@ -56,7 +58,7 @@ struct MainWindow {
   Programa& Ready(Programa& p) {
     CargarPaleta3x2(p);
     p.basGif.carpeta = scratch.Path();
-    p.carpetasDeFuentes = {folder.Path() / "Fonts", folder.Path() / "Propias"};
+    p.carpetasDeFuentes = {fonts.empty() ? folder.Path() / "Fonts" : fonts, folder.Path() / "Propias"};
     return p;
   }
 

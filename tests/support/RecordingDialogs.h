@@ -20,6 +20,7 @@ class RecordingDialogs final : public Dialogs {
   std::deque<Colour> colours;
   std::deque<FontChoice> fonts;
   std::deque<bool> answers;
+  std::deque<Respuesta> respuestas;  // to AskToSave
 
   std::string OpenFile(const std::string& title, const std::string& filter) override {
     log.push_back("OpenFile|" + title + "|" + filter);
@@ -31,8 +32,8 @@ class RecordingDialogs final : public Dialogs {
     paths.clear();
     return all;
   }
-  std::string SaveFile(const std::string& title, const std::string& filter,
-                       const std::string& extension, const std::string& proposal) override {
+  std::string SaveFile(const std::string& title, const std::string& filter, const std::string& extension,
+                       const std::string& proposal) override {
     log.push_back("SaveFile|" + title + "|" + filter + "|" + extension);
     proposals.push_back(proposal);
     return Take(paths, {});
@@ -53,6 +54,10 @@ class RecordingDialogs final : public Dialogs {
   bool Ask(const std::string& text, const std::string& title) override {
     log.push_back("Ask|" + title + "|" + text);
     return Take(answers, false);
+  }
+  Respuesta AskToSave(const std::string& text, const std::string& title) override {
+    log.push_back("AskToSave|" + title + "|" + text);
+    return Take(respuestas, Respuesta::Cancelar);
   }
   void Inform(const std::string& text, const std::string& title) override {
     log.push_back("Inform|" + title + "|" + text);
