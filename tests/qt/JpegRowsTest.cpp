@@ -9,6 +9,7 @@
 #include "platform/Random.h"
 #include "platform/Stretch.h"
 #include "platform/jpeg/JpegRows.h"
+#include "platform/jpeg/Segmentos.h"
 #include "platform/qt/QtPicture.h"
 #include "tests/support/GuiApplication.h"
 
@@ -92,10 +93,10 @@ TEST(JpegRows, SamePixelsAsDecodingTheWhole) {
 TEST(JpegRows, LeavesOthersToTheGeneralReader) {
   const auto one = [](Extent) { return Extent{1, 1}; };
   const std::string bytes = Compress(64, 64, {2, 2, false, false});
-  EXPECT_TRUE(JpegReachesItsEnd(bytes));
+  EXPECT_TRUE(JpegLlegaAlFinal(bytes));
   EXPECT_FALSE(ReadJpegStretched("GIF89a", one));
   EXPECT_FALSE(ReadJpegStretched(bytes.substr(0, 20), one));
-  EXPECT_FALSE(JpegReachesItsEnd(bytes.substr(0, bytes.size() - 2)));
+  EXPECT_FALSE(JpegLlegaAlFinal(bytes.substr(0, bytes.size() - 2)));
   EXPECT_FALSE(ReadJpegStretched(bytes.substr(0, bytes.size() / 2), one));
   EXPECT_FALSE(ReadJpegStretched(bytes, [](Extent) { return Extent{}; }));
   // The same photograph with an EXIF block that turns it.
