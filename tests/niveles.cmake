@@ -5,7 +5,7 @@ foreach(folder conversion effects figlet editor stats)
   set(level_${folder} 1)
 endforeach()
 set(level_web 2)
-foreach(folder app cli platform/qt platform/jpeg platform/wmf platform/zip)
+foreach(folder app cli platform/qt platform/jpeg platform/wmf platform/zip platform/png platform/decodificador)
   set(level_${folder} 3)
 endforeach()
 

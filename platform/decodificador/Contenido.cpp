@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "platform/jpeg/Segmentos.h"
+#include "platform/png/Png.h"
 
 namespace pixmosa {
 namespace {
@@ -17,34 +18,17 @@ std::uint32_t Little(std::string_view b, std::size_t at, std::size_t n) {
   return v;
 }
 
-std::uint32_t Big(std::string_view b, std::size_t at) {
-  const std::uint32_t v = Little(b, at, 4);
-  return v << 24 | (v & 0xFF00) << 8 | (v >> 8 & 0xFF00) | v >> 24;
-}
-
 // A side of a picture: at most 2^31 - 1, without its sign.
 int Side(std::uint32_t v) {
   const std::int64_t side = std::abs(std::int64_t{static_cast<std::int32_t>(v)});
   return static_cast<int>(std::min<std::int64_t>(side, INT32_MAX));
 }
 
-constexpr std::string_view kPng = "\x89PNG\r\n\x1A\n";
-
 // The picture at `at` of an icon: a PNG file, or a bitmap whose height counts its mask too.
 Extent InnerSize(std::string_view bytes, std::size_t at) {
   if (at >= bytes.size()) return {};
-  if (bytes.substr(at).starts_with(kPng)) return {Side(Big(bytes, at + 16)), Side(Big(bytes, at + 20))};
+  if (EsPng(bytes.substr(at))) return TamanoDePng(bytes.substr(at));
   return {Side(Little(bytes, at + 4, 4)), Side(Little(bytes, at + 8, 4)) / 2};
-}
-
-bool PngCutShort(std::string_view bytes) {
-  // Chunks of 4 bytes of length, 4 of name, the content, 4 of check, up to the last, IEND.
-  std::uint64_t at = kPng.size();
-  while (at + 12 <= bytes.size()) {
-    if (bytes.substr(at + 4, 4) == "IEND") return false;
-    at += std::uint64_t{12} + Big(bytes, at);
-  }
-  return true;
 }
 
 bool BmpCutShort(std::string_view bytes) {
@@ -92,7 +76,7 @@ std::optional<Extent> TamanoDeIcono(std::string_view bytes) {
 
 bool Cortada(std::string_view bytes) {
   if (EsJpeg(bytes)) return !JpegLlegaAlFinal(bytes);
-  if (bytes.starts_with(kPng)) return PngCutShort(bytes);
+  if (EsPng(bytes)) return !PngLlegaAlFinal(bytes);
   return bytes.starts_with("BM") && BmpCutShort(bytes);
 }
 

@@ -39,6 +39,7 @@ constexpr const char* kPermitidas[] = {"access",
                                        "dup",
                                        "exit",
                                        "exit_group",
+                                       "fadvise64",
                                        "faccessat",
                                        "faccessat2",
                                        "fcntl",
@@ -150,6 +151,7 @@ bool Limitar() {
     const rlimit l{most, most};
     return ::setrlimit(what, &l) == 0;
   };
+  ::signal(SIGXFSZ, SIG_IGN);  // a write that is refused need not end the process
   // The soft limit of processor time ends with its own signal, which tells the client why.
   const rlimit time{kSegundos, kSegundos + 1};
   return ::setrlimit(RLIMIT_CPU, &time) == 0 && limit(RLIMIT_AS, kMemoria) && limit(RLIMIT_FSIZE, 0) &&

@@ -16,6 +16,7 @@
 #include "platform/decodificador/Cliente.h"
 #include "platform/decodificador/Contenido.h"
 #include "platform/jpeg/JpegRows.h"
+#include "platform/png/Png.h"
 #include "platform/qt/QtPicture.h"
 
 namespace pixmosa {
@@ -24,7 +25,7 @@ namespace {
 constexpr std::int64_t kMasPixeles = 400'000'000;
 
 // The readers that may run inside the program.
-constexpr const char* kDeCasa[] = {"png", "jpeg", "jpg", "gif", "bmp", "pbm", "pgm", "ppm", "xbm", "xpm"};
+constexpr const char* kDeCasa[] = {"jpeg", "jpg", "gif", "bmp", "pbm", "pgm", "ppm", "xbm", "xpm"};
 
 [[noreturn]] void Fail(const std::string& name, const std::string& why) {
   throw PictureError("No se ha podido leer la imagen \"" + name + "\": " + why + ".");
@@ -82,15 +83,26 @@ bool LacksMemory(Extent size) {
   return !room;
 }
 
+[[noreturn]] void FailRead(const std::string& name, Extent size) {
+  if (LacksMemory(size)) FailMemory(name);
+  Fail(name, "el archivo está dañado o incompleto");
+}
+
+Picture LeerPngEnCasa(std::string_view bytes, const std::string& name) {
+  const Extent size = TamanoDePng(bytes);
+  CheckSize(name, size);
+  if (Cortada(bytes)) Fail(name, "el archivo está incompleto");
+  Picture picture = LeerPng(bytes);
+  if (picture.IsEmpty()) FailRead(name, size);
+  return picture;
+}
+
 Picture LeerEnCasa(Lector& lector, std::string_view bytes, const std::string& name) {
   const Extent size = Of(lector.reader.size());
   CheckSize(name, size);
   if (Cortada(bytes)) Fail(name, "el archivo está incompleto");
   QImage image;
-  if (!lector.reader.read(&image)) {
-    if (LacksMemory(size)) FailMemory(name);
-    Fail(name, "el archivo está dañado o incompleto");
-  }
+  if (!lector.reader.read(&image)) FailRead(name, size);
   if (image.isNull()) Fail(name, "la imagen está vacía");
   CheckSize(name, Of(image.size()));
   return PictureOf(std::move(image));
@@ -142,6 +154,7 @@ Picture QtPictureCodec::ReadBytes(std::string_view bytes, const std::string& nam
   if (bytes.size() > kMasBytesDeImagen) Fail(name, "el archivo es demasiado grande");
   try {
     if (EsMetafile(bytes)) return LeerAparte(bytes, name);
+    if (EsPng(bytes)) return LeerPngEnCasa(bytes, name);
     Lector lector(bytes);
     if (lector.reader.format().isEmpty()) Fail(name, "no es una imagen de un formato conocido");
     if (!lector.EsDeCasa()) return LeerAparte(bytes, name);
@@ -182,6 +195,7 @@ Picture QtPictureCodec::ReadStretched(const std::filesystem::path& file,
 
 Extent QtPictureCodec::Size(std::string_view bytes) {
   if (bytes.empty() || EsMetafile(bytes)) return {};
+  if (EsPng(bytes)) return TamanoDePng(bytes);
   if (const std::optional<Extent> icon = TamanoDeIcono(bytes)) return *icon;
   Lector lector(bytes);
   if (!lector.EsDeCasa() || !lector.reader.size().isValid()) return {};

@@ -1,11 +1,13 @@
 // The writing half of the codec.
 #include <algorithm>
 #include <array>
+#include <new>
 
 #include <QBuffer>
 #include <QImageReader>
 #include <QImageWriter>
 
+#include "platform/png/Png.h"
 #include "platform/qt/QtPicture.h"
 #include "platform/qt/QtPictureCodec.h"
 
@@ -13,7 +15,6 @@ namespace pixmosa {
 namespace {
 
 constexpr int kJpegQuality = 95;
-constexpr int kPngCompression = 11;  // of 100: the quickest that still packs
 constexpr int kLargestJpegSide = 65500;
 
 // What a user would save a picture as; the writers of the machine know some of them.
@@ -34,14 +35,18 @@ std::string QtPictureCodec::Encode(const Picture& picture, const std::string& fo
   const bool jpeg = kind == "jpg" || kind == "jpeg";
   if (jpeg && std::max(picture.Width(), picture.Height()) > kLargestJpegSide)
     Fail(format, "admite " + std::to_string(kLargestJpegSide) + " píxeles de lado como mucho");
+  const std::string memory = "no hay memoria suficiente o es demasiado grande para él";
+  try {
+    if (kind == "png") return EscribirPng(picture);
+  } catch (const std::bad_alloc&) {
+    Fail(format, memory);
+  }
   QByteArray data;
   QBuffer buffer(&data);
   buffer.open(QIODevice::WriteOnly);
   QImageWriter writer(&buffer, kind);
   if (jpeg) writer.setQuality(kJpegQuality);
-  if (kind == "png") writer.setCompression(kPngCompression);
-  if (!writer.write(ImageOf(picture)))
-    Fail(format, "no hay memoria suficiente o es demasiado grande para él");
+  if (!writer.write(ImageOf(picture))) Fail(format, memory);
   return data.toStdString();
 }
 
