@@ -74,6 +74,12 @@ std::optional<Extent> TamanoDeIcono(std::string_view bytes) {
   return entries > 0 ? std::optional(largest) : std::nullopt;
 }
 
+Extent TamanoDeGif(std::string_view bytes) {
+  if (!bytes.starts_with("GIF8")) return {};
+  const Extent size = {static_cast<int>(Little(bytes, 6, 2)), static_cast<int>(Little(bytes, 8, 2))};
+  return size.width > 0 && size.height > 0 ? size : Extent{};
+}
+
 bool Cortada(std::string_view bytes) {
   if (EsJpeg(bytes)) return !JpegLlegaAlFinal(bytes);
   if (EsPng(bytes)) return !PngLlegaAlFinal(bytes);

@@ -196,6 +196,7 @@ Picture QtPictureCodec::ReadStretched(const std::filesystem::path& file,
 Extent QtPictureCodec::Size(std::string_view bytes) {
   if (bytes.empty() || EsMetafile(bytes)) return {};
   if (EsPng(bytes)) return TamanoDePng(bytes);
+  if (const Extent screen = TamanoDeGif(bytes); screen != Extent{}) return screen;
   if (const std::optional<Extent> icon = TamanoDeIcono(bytes)) return *icon;
   Lector lector(bytes);
   if (!lector.EsDeCasa() || !lector.reader.size().isValid()) return {};
