@@ -61,7 +61,8 @@ std::optional<Extent> TamanoDeIcono(std::string_view bytes) {
   if (Little(bytes, 0, 2) != 0 || (Little(bytes, 2, 2) != 1 && Little(bytes, 2, 2) != 2)) return std::nullopt;
   Extent largest;
   const auto area = [](Extent e) { return std::int64_t{e.width} * e.height; };
-  const std::size_t entries = std::min<std::size_t>(Little(bytes, 4, 2), (bytes.size() - 4) / 16);
+  // Without room for a count the count reads as 0.
+  const std::size_t entries = std::min<std::size_t>(Little(bytes, 4, 2), (bytes.size() - 6) / 16);
   for (std::size_t i = 0; i < entries; ++i) {
     const std::size_t entry = 6 + 16 * i;
     const auto listed = [&](std::size_t at) {
