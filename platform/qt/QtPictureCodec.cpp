@@ -121,7 +121,8 @@ QtPictureCodec::QtPictureCodec(std::function<void()> mientras, std::filesystem::
 
 Picture QtPictureCodec::LeerAparte(std::string_view bytes, const std::string& name) {
   if (bytes.size() > kMasBytesAparte) Fail(name, "el archivo es demasiado grande para una imagen de su tipo");
-  if (const std::optional<Extent> icon = TamanoDeIcono(bytes)) CheckSize(name, *icon);
+  if (const std::optional<Extent> icon = TamanoDeIcono(bytes); icon && Pixels(*icon) > kMasPixelesAparte)
+    FailSize(name, *icon);
   Decodificada d =
       Decodificar(decodificador_.empty() ? ProgramaDecodificador() : decodificador_, bytes, mientras_);
   switch (d.razon) {
