@@ -15,7 +15,8 @@ bool EsMetafile(std::string_view bytes);
 // whichever says more; nothing for other kinds.
 std::optional<Extent> TamanoDeIcono(std::string_view bytes);
 
-// The screen of a GIF file, which every frame is cut to; empty for other kinds and for a screen without a size.
+// The screen of a GIF file, which every frame is cut to; empty for other kinds and for a screen without a
+// size.
 Extent TamanoDeGif(std::string_view bytes);
 
 // A JPEG, PNG or BMP file that ends before its picture does.

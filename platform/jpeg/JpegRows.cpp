@@ -79,7 +79,9 @@ class Reader {
 }  // namespace
 
 std::optional<Picture> ReadJpegStretched(std::string_view bytes, const std::function<Extent(Extent)>& size) {
-  if (!EsJpeg(bytes) || JpegQuizaGirado(bytes) || !JpegLlegaAlFinal(bytes)) return std::nullopt;
+  if (!EsJpeg(bytes) || JpegQuizaGirado(bytes) || !JpegLlegaAlFinal(bytes) ||
+      JpegPasadas(bytes) > kMasPasadas)
+    return std::nullopt;
   Reader reader(bytes);
   if (!reader.ReadHeader()) return std::nullopt;
   const Extent source = reader.Size(), wanted = size(source);

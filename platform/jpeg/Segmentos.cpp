@@ -66,6 +66,12 @@ bool JpegLlegaAlFinal(std::string_view bytes) {
   return end;
 }
 
+int JpegPasadas(std::string_view bytes) {
+  int scans = 0;
+  Walk(bytes, [&](unsigned marker, std::string_view) { return (scans += marker == kScan) <= kMasPasadas; });
+  return scans;
+}
+
 bool JpegQuizaGirado(std::string_view bytes) {
   bool turned = false;
   Walk(bytes, [&](unsigned marker, std::string_view content) {

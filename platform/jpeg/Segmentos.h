@@ -12,6 +12,11 @@ bool EsJpeg(std::string_view bytes);
 // a segment (a thumbnail's) does not count.
 bool JpegLlegaAlFinal(std::string_view bytes);
 
+// A decoder goes over the whole picture once a scan: a small file of many takes minutes. Common progressive
+// ones have ten.
+constexpr int kMasPasadas = 100;
+int JpegPasadas(std::string_view bytes);
+
 // A photograph whose EXIF data may turn it; true also where only something like that is seen.
 bool JpegQuizaGirado(std::string_view bytes);
 

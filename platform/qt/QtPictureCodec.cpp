@@ -16,6 +16,7 @@
 #include "platform/decodificador/Cliente.h"
 #include "platform/decodificador/Contenido.h"
 #include "platform/jpeg/JpegRows.h"
+#include "platform/jpeg/Segmentos.h"
 #include "platform/png/Png.h"
 #include "platform/qt/QtPicture.h"
 
@@ -158,7 +159,8 @@ Picture QtPictureCodec::ReadBytes(std::string_view bytes, const std::string& nam
     if (EsPng(bytes)) return LeerPngEnCasa(bytes, name);
     Lector lector(bytes);
     if (lector.reader.format().isEmpty()) Fail(name, "no es una imagen de un formato conocido");
-    if (!lector.EsDeCasa()) return LeerAparte(bytes, name);
+    if (!lector.EsDeCasa() || (EsJpeg(bytes) && JpegPasadas(bytes) > kMasPasadas))
+      return LeerAparte(bytes, name);
     Picture picture = LeerEnCasa(lector, bytes, name);
     if (aviso && GifCortado(bytes)) *aviso = "La imagen \"" + name + "\" está incompleta.";
     return picture;

@@ -130,3 +130,15 @@ TEST(Segmentos, StrayBytesArePassedOverAndCutFilesAreNot) {
     EXPECT_TRUE(JpegLlegaAlFinal(bytes.substr(0, second) + comment + bytes.substr(second)));
   }
 }
+
+TEST(Segmentos, FilesOfVeryManyScansAreLeftToTheProcess) {
+  const std::string bytes = Compress(64, 64, {2, 2, false, true});
+  const int scans = JpegPasadas(bytes);
+  EXPECT_EQ(scans, 10) << "the common progression of a colour picture";
+  const std::size_t last = bytes.rfind("\xFF\xDA");
+  std::string many = bytes.substr(0, last);
+  for (int i = 0; i < kMasPasadas; ++i) many += bytes.substr(last, bytes.size() - 2 - last);
+  many += "\xFF\xD9";
+  EXPECT_GT(JpegPasadas(many), kMasPasadas);
+  EXPECT_FALSE(ReadJpegStretched(many, [](Extent) { return Extent{1, 1}; }));
+}

@@ -145,7 +145,8 @@ TEST_F(QtPictureCodecTest, VectorPicturesReachNoFileButFonts) {
 TEST_F(QtPictureCodecTest, SaysWhatIsWrong) {
   const std::string head = "No se ha podido leer la imagen \"x\": ";
   const std::string wide =
-      Hex("89504e470d0a1a0a0000000d494844520000b3b00000b3b0080000000000000000000000000000000000");  // 46000 x 46000
+      Hex("89504e470d0a1a0a0000000d494844520000b3b00000b3b0080000000000000000000000000000000000");  // 46000 x
+                                                                                                    // 46000
   testing::internal::CaptureStderr();
   for (const auto& [bytes, reason] : std::vector<std::pair<std::string, std::string>>{
            {"", "el archivo está vacío"},
