@@ -52,7 +52,8 @@ int main(int argc, char** argv) {
     QApplication::installTranslator(&spanish);
 
   QtTextSurface surface;
-  QtPictureCodec pictures;
+  // While another process decodes, the window goes on showing itself; it takes no orders meanwhile.
+  QtPictureCodec pictures([] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); });
   QtShell shell;
   QtRegistry registry;
   Programa program{surface, pictures, ProgramFolder(), FontFolders()};

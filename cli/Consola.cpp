@@ -22,11 +22,7 @@ namespace {
 constexpr int kColumnasSinTerminal = 80;
 
 std::string LeerEntrada() {
-  std::string bytes;
-  char chunk[65536];
-  while (const std::size_t n = std::fread(chunk, 1, sizeof chunk, stdin)) bytes.append(chunk, n);
-  if (std::ferror(stdin)) throw ErrorDeTrabajo("No se ha podido leer la entrada estándar.");
-  return bytes;
+  return LeerFlujo(stdin, "-", kMasBytesDeImagen);
 }
 
 }  // namespace
@@ -66,13 +62,22 @@ Programa Consola::NuevoPrograma() {
 }
 
 Picture Consola::LeerImagen(const std::string& operand) {
-  return operand == "-" ? Imagenes().ReadBytes(LeerEntrada(), "-") : Imagenes().Read(operand);
+  std::string warning;
+  Picture picture = operand == "-" ? Imagenes().ReadBytes(LeerEntrada(), "-", &warning)
+                                   : Imagenes().Read(operand, &warning);
+  if (!warning.empty()) Avisar(warning);
+  return picture;
 }
 
 Picture Consola::LeerImagenReducida(const std::string& operand, const std::function<Extent(Extent)>& size) {
-  if (operand != "-") return Imagenes().ReadStretched(operand, size);
-  const Picture whole = LeerImagen(operand);
-  return Stretch(whole, size(whole.Size()));
+  if (operand == "-") {
+    const Picture whole = LeerImagen(operand);
+    return Stretch(whole, size(whole.Size()));
+  }
+  std::string warning;
+  Picture picture = Imagenes().ReadStretched(operand, size, &warning);
+  if (!warning.empty()) Avisar(warning);
+  return picture;
 }
 
 std::string Consola::LeerBytes(const std::string& operand) {

@@ -26,7 +26,8 @@ class Consola {
   // A fresh state over those and the shipped files.
   Programa NuevoPrograma();
 
-  // The picture of an operand; "-" is standard input. Throws PictureError or ErrorDeTrabajo.
+  // The picture of an operand; "-" is standard input. One that is not whole is said on standard error. Throws
+  // PictureError or FileError.
   Picture LeerImagen(const std::string& operand);
 
   // Stretch(LeerImagen(operand), size(its size)), quicker where the format allows.

@@ -102,6 +102,23 @@ constexpr Razon kRazones[] = {
     {ENOLCK, "no se ha podido bloquear el archivo"},
 };
 
+[[noreturn]] void FailToRead(const std::string& name, const std::string& why) {
+  throw FileError("No se ha podido leer \"" + name + "\": " + why + ".");
+}
+
+void ReadInto(std::string& bytes, std::FILE* in, const std::string& name, std::uintmax_t most) {
+  for (;;) {
+    const std::size_t have = bytes.size();
+    bytes.resize(std::max<std::size_t>(bytes.capacity(), have + kChunk));
+    const std::size_t got = std::fread(bytes.data() + have, 1, bytes.size() - have, in);
+    bytes.resize(have + got);
+    if (bytes.size() > most) FailToRead(name, "el archivo es demasiado grande");
+    if (got > 0) continue;
+    if (std::ferror(in)) FailToRead(name, RazonDelError(errno));
+    return;
+  }
+}
+
 }  // namespace
 
 std::string RazonDelError(int error) {
@@ -165,25 +182,20 @@ void EscribirArchivo(const fs::path& file, std::string_view bytes) {
 }
 
 std::string LeerArchivo(const fs::path& file, std::uintmax_t most) {
-  const auto fail = [&](const std::string& why) {
-    throw FileError("No se ha podido leer \"" + file.string() + "\": " + why + ".");
-  };
   std::error_code ec;
-  if (fs::is_directory(file, ec)) fail(RazonDelError(EISDIR));
+  if (fs::is_directory(file, ec)) FailToRead(file.string(), RazonDelError(EISDIR));
   const Stream in(std::fopen(file.c_str(), "rb"));
-  if (!in) fail(RazonDelError(errno));
+  if (!in) FailToRead(file.string(), RazonDelError(errno));
   std::string bytes;
   if (const std::uintmax_t size = fs::file_size(file, ec); !ec && size <= most) bytes.reserve(size + kChunk);
-  for (;;) {
-    const std::size_t have = bytes.size();
-    bytes.resize(std::max<std::size_t>(bytes.capacity(), have + kChunk));
-    const std::size_t got = std::fread(bytes.data() + have, 1, bytes.size() - have, in.get());
-    bytes.resize(have + got);
-    if (bytes.size() > most) fail("el archivo es demasiado grande");
-    if (got > 0) continue;
-    if (std::ferror(in.get())) fail(RazonDelError(errno));
-    return bytes;
-  }
+  ReadInto(bytes, in.get(), file.string(), most);
+  return bytes;
+}
+
+std::string LeerFlujo(std::FILE* stream, const std::string& name, std::uintmax_t most) {
+  std::string bytes;
+  ReadInto(bytes, stream, name, most);
+  return bytes;
 }
 
 }  // namespace pixmosa

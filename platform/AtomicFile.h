@@ -53,6 +53,10 @@ void EscribirArchivo(const std::filesystem::path& file, std::string_view bytes);
 // The whole file. Throws FileError, also for a folder or for more than `most` bytes.
 std::string LeerArchivo(const std::filesystem::path& file, std::uintmax_t most = std::uintmax_t{1} << 31);
 
+// The rest of a stream, such as standard input; `name` stands for it in messages. Throws the same.
+std::string LeerFlujo(std::FILE* stream, const std::string& name,
+                      std::uintmax_t most = std::uintmax_t{1} << 31);
+
 // A short Spanish reason for an errno value, such as "permiso denegado"; "error del sistema N" for a rare
 // one.
 std::string RazonDelError(int error);

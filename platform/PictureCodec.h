@@ -1,9 +1,12 @@
 // Picture files in and out. The kind of a file is told by its content, not by its name.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "platform/Errores.h"
 #include "platform/Picture.h"
@@ -16,23 +19,37 @@ class PictureError : public ErrorDelPrograma {
   using ErrorDelPrograma::ErrorDelPrograma;
 };
 
+// A picture file may have this many bytes; who reads one from a stream bounds it the same way.
+constexpr std::uintmax_t kMasBytesDeImagen = std::uintmax_t{1} << 30;
+
+// A reader never gives an empty picture. `aviso`, where there is one, gets a Spanish sentence if the picture
+// can be shown but is not whole; otherwise it becomes empty.
 class PictureCodec {
  public:
   virtual ~PictureCodec() = default;
 
   // The picture in a file, upright, transparent pixels on white. Throws PictureError.
-  virtual Picture Read(const std::filesystem::path& file) = 0;
+  virtual Picture Read(const std::filesystem::path& file, std::string* aviso = nullptr) = 0;
 
   // The same from the bytes of a file; `name` stands for it in messages.
-  virtual Picture ReadBytes(const std::string& bytes, const std::string& name) = 0;
+  virtual Picture ReadBytes(std::string_view bytes, const std::string& name,
+                            std::string* aviso = nullptr) = 0;
 
   // Stretch(Read(file), size(the picture's size)), pixel for pixel, without keeping the whole picture where
   // the format allows. Throws PictureError.
-  virtual Picture ReadStretched(const std::filesystem::path& file,
-                                const std::function<Extent(Extent)>& size) = 0;
+  virtual Picture ReadStretched(const std::filesystem::path& file, const std::function<Extent(Extent)>& size,
+                                std::string* aviso = nullptr) = 0;
 
-  // The bytes of a file in `format` ("png", "bmp", "jpg"). Throws PictureError.
+  // The size that a file's first bytes declare, upright, without decoding anything; empty where only decoding
+  // tells it, and for what is no picture.
+  virtual Extent Size(std::string_view bytes) = 0;
+
+  // The bytes of a file in `format`, one of Formatos() in any case. Throws PictureError.
   virtual std::string Encode(const Picture& picture, const std::string& format) = 0;
+
+  // The endings, in lower case and without a dot, of the files that can be written ("png" first), and read.
+  virtual std::vector<std::string> Formatos() = 0;
+  virtual std::vector<std::string> FormatosLegibles() = 0;
 };
 
 }  // namespace pixmosa

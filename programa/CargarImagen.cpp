@@ -22,7 +22,8 @@ bool EstaEntero(const std::filesystem::path& file) {
 }  // namespace
 
 std::string CargarImagen(Programa& p, const std::filesystem::path& file) {
-  Picture loaded = p.codec.Read(file);
+  std::string warning;
+  Picture loaded = p.codec.Read(file, &warning);
   const bool gif = TerminaEnGif(file), frames = gif && !p.basGif.carpeta.empty();
   if (frames) CortarGif(p.basGif, file);
   p.imagen.Cargar(std::move(loaded));
@@ -31,7 +32,7 @@ std::string CargarImagen(Programa& p, const std::filesystem::path& file) {
   p.animArt = p.animArt && p.animArtDisponible;
   if (gif && !EstaEntero(file)) return "El GIF está incompleto: se muestra lo que hay de él.";
   if (frames && !p.basGif.PorQueNo.empty()) return "No se puede animar: " + p.basGif.PorQueNo;
-  return {};
+  return warning;
 }
 
 }  // namespace pixmosa

@@ -6,53 +6,10 @@
 #include <vector>
 
 #include "platform/Stretch.h"
+#include "platform/jpeg/Segmentos.h"
 
 namespace pixmosa {
 namespace {
-
-constexpr unsigned char kStartOfScan = 0xDA, kExif = 0xE1;
-
-unsigned At(std::string_view b, std::size_t i) {
-  return static_cast<unsigned char>(b[i]);
-}
-
-// Walks the segments before the first scan; stops at it or where `visit(marker, content)` returns false.
-// The position of the first scan's data, or npos.
-template <typename Visit>
-std::size_t WalkSegments(std::string_view bytes, Visit visit) {
-  std::size_t at = 2;
-  while (at + 4 <= bytes.size()) {
-    if (At(bytes, at) != 0xFF) return std::string_view::npos;
-    const unsigned marker = At(bytes, at + 1);
-    if (marker == 0xFF) {
-      ++at;
-      continue;
-    }
-    const std::size_t length = At(bytes, at + 2) << 8 | At(bytes, at + 3);
-    if (length < 2 || at + 2 + length > bytes.size()) return std::string_view::npos;
-    if (!visit(marker, bytes.substr(at + 4, length - 2))) return std::string_view::npos;
-    at += 2 + length;
-    if (marker == kStartOfScan) return at;
-  }
-  return std::string_view::npos;
-}
-
-// A photograph whose EXIF data may turn it. Only its presence is looked at: the general reader turns it.
-bool MayBeTurned(std::string_view bytes) {
-  bool turned = false;
-  WalkSegments(bytes, [&](unsigned marker, std::string_view content) {
-    if (marker != kExif || content.substr(0, 4) != "Exif") return true;
-    // The orientation entry (tag 0x0112, type 3, count 1) with a value other than 1, in either byte order.
-    for (std::size_t i = 6; i + 12 <= content.size(); ++i) {
-      const std::string_view e = content.substr(i, 12);
-      const bool little = e.substr(0, 8) == std::string_view("\x12\x01\x03\x00\x01\x00\x00\x00", 8);
-      const bool big = e.substr(0, 8) == std::string_view("\x01\x12\x00\x03\x00\x00\x00\x01", 8);
-      if ((little && At(e, 8) != 1) || (big && At(e, 9) != 1)) turned = true;
-    }
-    return true;
-  });
-  return turned;
-}
 
 struct ErrorManager {
   jpeg_error_mgr base;
@@ -121,17 +78,10 @@ class Reader {
 
 }  // namespace
 
-bool IsJpeg(std::string_view bytes) {
-  return bytes.substr(0, 3) == "\xFF\xD8\xFF";
-}
-
-bool JpegReachesItsEnd(std::string_view bytes) {
-  const std::size_t scan = WalkSegments(bytes, [](unsigned, std::string_view) { return true; });
-  return scan != std::string_view::npos && bytes.find("\xFF\xD9", scan) != std::string_view::npos;
-}
-
 std::optional<Picture> ReadJpegStretched(std::string_view bytes, const std::function<Extent(Extent)>& size) {
-  if (!IsJpeg(bytes) || MayBeTurned(bytes) || !JpegReachesItsEnd(bytes)) return std::nullopt;
+  if (!EsJpeg(bytes) || JpegQuizaGirado(bytes) || !JpegLlegaAlFinal(bytes) ||
+      JpegPasadas(bytes) > kMasPasadas)
+    return std::nullopt;
   Reader reader(bytes);
   if (!reader.ReadHeader()) return std::nullopt;
   const Extent source = reader.Size(), wanted = size(source);

@@ -9,11 +9,6 @@
 
 namespace pixmosa {
 
-bool IsJpeg(std::string_view bytes);
-
-// True where the picture data reaches its end mark, that is, the file was not cut short.
-bool JpegReachesItsEnd(std::string_view bytes);
-
 // Stretch(the picture, size(its size)) of an upright gray or colour (YCbCr) JPEG, the same pixels as decoding
 // it whole. Nothing for any other kind, a damaged one, or one that `size` answers with an empty extent; the
 // general reader then takes it or says what is wrong.

@@ -1,7 +1,7 @@
 #include "platform/qt/QtPicture.h"
 
-#include <cstring>
 #include <memory>
+#include <new>
 #include <utility>
 
 #include <QPainter>
@@ -25,12 +25,15 @@ Picture PictureOf(QImage image) {
   if (image.isNull()) return {};
   if (image.hasAlphaChannel()) {
     QImage onWhite(image.size(), QImage::Format_RGB32);
+    if (onWhite.isNull()) throw std::bad_alloc();
     onWhite.fill(Qt::white);
     QPainter(&onWhite).drawImage(0, 0, image);
     image = std::move(onWhite);
   } else {
     image.convertTo(QImage::Format_RGB32);
   }
+  // An image that the memory does not hold turns null by itself.
+  if (image.isNull()) throw std::bad_alloc();
   const int w = image.width(), h = image.height();
   auto held = std::make_shared<QImage>(std::move(image));
   auto* pixels = reinterpret_cast<std::uint32_t*>(held->bits());

@@ -11,7 +11,8 @@ namespace pixmosa {
 // picture.
 QImage ImageOf(const Picture& picture);
 
-// Takes over an image's pixels: transparent ones lie on white, the fourth byte is opaque.
+// Takes over an image's pixels: transparent ones lie on white, the fourth byte is opaque. An empty picture
+// for a null image. Throws std::bad_alloc.
 Picture PictureOf(QImage image);
 
 }  // namespace pixmosa

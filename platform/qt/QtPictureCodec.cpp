@@ -1,137 +1,211 @@
 #include "platform/qt/QtPictureCodec.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <new>
 #include <optional>
 #include <unistd.h>
 
 #include <QBuffer>
 #include <QImageReader>
-#include <QImageWriter>
+#include <QLoggingCategory>
 
 #include "platform/AtomicFile.h"
 #include "platform/Stretch.h"
+#include "platform/decodificador/Cliente.h"
+#include "platform/decodificador/Contenido.h"
 #include "platform/jpeg/JpegRows.h"
+#include "platform/jpeg/Segmentos.h"
+#include "platform/png/Png.h"
 #include "platform/qt/QtPicture.h"
-#include "platform/qt/QtText.h"
 
 namespace pixmosa {
 namespace {
 
-constexpr std::uintmax_t kLargestFile = std::uintmax_t{1} << 31;
-constexpr int kJpegQuality = 95;
+constexpr std::int64_t kMasPixeles = 400'000'000;
+
+// The readers that may run inside the program.
+constexpr const char* kDeCasa[] = {"jpeg", "jpg", "gif", "bmp", "pbm", "pgm", "ppm", "xbm", "xpm"};
 
 [[noreturn]] void Fail(const std::string& name, const std::string& why) {
   throw PictureError("No se ha podido leer la imagen \"" + name + "\": " + why + ".");
 }
 
-// A picture may take a quarter of the machine's memory: the picture, its undo copy and a running effect fit.
-bool FitsMemory(QSize size) {
-  const auto memory =
-      static_cast<std::uint64_t>(sysconf(_SC_PHYS_PAGES)) * static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
-  const std::uint64_t pixels = static_cast<std::uint64_t>(std::max(0, size.width())) *
-                               static_cast<std::uint64_t>(std::max(0, size.height()));
-  return pixels <= std::min<std::uint64_t>(memory / 4 / 4, 500'000'000);
+[[noreturn]] void FailMemory(const std::string& name) {
+  Fail(name, "no hay memoria suficiente para ella");
 }
 
-void CheckSize(const std::string& name, QSize size) {
-  if (FitsMemory(size)) return;
-  Fail(name, "sus " + std::to_string(size.width()) + " x " + std::to_string(size.height()) +
+[[noreturn]] void FailSize(const std::string& name, Extent size) {
+  Fail(name, "sus " + std::to_string(size.width) + " x " + std::to_string(size.height) +
                  " píxeles no caben en la memoria");
 }
 
-// A file of several pictures (an icon) gives its largest one.
-void GoToLargest(QImageReader& reader) {
-  int best = 0;
-  qint64 area = -1;
-  for (int i = 0; i < reader.imageCount() && reader.jumpToImage(i); ++i) {
-    const QSize s = reader.size();
-    const qint64 a = static_cast<qint64>(s.width()) * s.height();
-    if (a > area) {
-      area = a;
-      best = i;
-    }
-  }
-  reader.jumpToImage(best);
+std::int64_t Pixels(Extent size) {
+  return std::int64_t{std::max(0, size.width)} * std::max(0, size.height);
 }
 
-// The general readers show what they have of a file that was cut short; a user wants to know instead.
-bool CutShort(const std::string& bytes) {
-  if (IsJpeg(bytes)) return !JpegReachesItsEnd(bytes);
-  if (bytes.starts_with("BM") && bytes.size() >= 54) {
-    const auto word = [&](std::size_t at, int n) {
-      std::uint32_t v = 0;
-      for (int i = n - 1; i >= 0; --i)
-        v = v << 8 | static_cast<unsigned char>(bytes[at + static_cast<std::size_t>(i)]);
-      return v;
-    };
-    const bool uncompressed = word(14, 4) >= 40 && (word(30, 4) == 0 || word(30, 4) == 3);
-    const std::int64_t width = static_cast<std::int32_t>(word(18, 4));
-    const std::int64_t height = std::abs(static_cast<std::int64_t>(static_cast<std::int32_t>(word(22, 4))));
-    const std::int64_t row = (width * word(28, 2) + 31) / 32 * 4;
-    // The header declares at most 2^31 rows of 2^36 bytes; both lie far inside 64 bits after this check.
-    if (uncompressed && width > 0 && width <= 1'000'000 && height <= 1'000'000)
-      return static_cast<std::int64_t>(word(10, 4)) + row * height > static_cast<std::int64_t>(bytes.size());
+Extent Of(QSize size) {
+  return {size.width(), size.height()};
+}
+
+// A picture may take a quarter of the machine's memory: the picture, its undo copy and a running effect fit.
+bool FitsMemory(Extent size) {
+  const std::int64_t memory = std::int64_t{sysconf(_SC_PHYS_PAGES)} * sysconf(_SC_PAGESIZE);
+  return Pixels(size) <= std::min(memory / 4 / 4, kMasPixeles);
+}
+
+void CheckSize(const std::string& name, Extent size) {
+  if (!FitsMemory(size)) FailSize(name, size);
+}
+
+// A reader over bytes that somebody else keeps.
+struct Lector {
+  explicit Lector(std::string_view bytes)
+      : data(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()))) {
+    buffer.open(QIODevice::ReadOnly);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
   }
-  return false;
+  bool EsDeCasa() {
+    const QByteArray format = reader.format();
+    return std::any_of(std::begin(kDeCasa), std::end(kDeCasa), [&](const char* f) { return format == f; });
+  }
+
+  QByteArray data;
+  QBuffer buffer{&data};
+  QImageReader reader{&buffer};
+};
+
+// Whether memory was what a failed read lacked: a reader may take three times the picture.
+bool LacksMemory(Extent size) {
+  const std::unique_ptr<void, void (*)(void*)> room(std::malloc(static_cast<std::size_t>(Pixels(size)) * 12),
+                                                    std::free);
+  return !room;
+}
+
+[[noreturn]] void FailRead(const std::string& name, Extent size) {
+  if (LacksMemory(size)) FailMemory(name);
+  Fail(name, "el archivo está dañado o incompleto");
+}
+
+Picture LeerPngEnCasa(std::string_view bytes, const std::string& name) {
+  const Extent size = TamanoDePng(bytes);
+  CheckSize(name, size);
+  if (Cortada(bytes)) Fail(name, "el archivo está incompleto");
+  Picture picture = LeerPng(bytes);
+  if (picture.IsEmpty()) FailRead(name, size);
+  return picture;
+}
+
+Picture LeerEnCasa(Lector& lector, std::string_view bytes, const std::string& name) {
+  const Extent size = Of(lector.reader.size());
+  CheckSize(name, size);
+  if (Cortada(bytes)) Fail(name, "el archivo está incompleto");
+  QImage image;
+  if (!lector.reader.read(&image)) FailRead(name, size);
+  if (image.isNull()) Fail(name, "la imagen está vacía");
+  CheckSize(name, Of(image.size()));
+  return PictureOf(std::move(image));
 }
 
 }  // namespace
 
-QtPictureCodec::QtPictureCodec() {
-  QImageReader::setAllocationLimit(0);  // the limit is CheckSize, which tells the user
+QtPictureCodec::QtPictureCodec(std::function<void()> mientras, std::filesystem::path decodificador)
+    : mientras_(std::move(mientras)), decodificador_(std::move(decodificador)) {
+  // CheckSize is the limit that tells the user; this one is for sizes that only a reader comes upon. Eight
+  // bytes a pixel: the deepest pictures.
+  QImageReader::setAllocationLimit(static_cast<int>(kMasPixeles * 8 >> 20));
+  // What is wrong with a file is said by a PictureError and by nothing else.
+  QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false\nqt.gui.icc=false\nqt.svg*=false"));
 }
 
-Picture QtPictureCodec::ReadBytes(const std::string& bytes, const std::string& name) {
+Picture QtPictureCodec::LeerAparte(std::string_view bytes, const std::string& name) {
+  if (bytes.size() > kMasBytesAparte) Fail(name, "el archivo es demasiado grande para una imagen de su tipo");
+  if (const std::optional<Extent> icon = TamanoDeIcono(bytes); icon && Pixels(*icon) > kMasPixelesAparte)
+    FailSize(name, *icon);
+  Decodificada d =
+      Decodificar(decodificador_.empty() ? ProgramaDecodificador() : decodificador_, bytes, mientras_);
+  switch (d.razon) {
+    case Razon::Hecha:
+      CheckSize(name, d.imagen.Size());
+      return std::move(d.imagen);
+    case Razon::Desconocida:
+      Fail(name, "no es una imagen de un formato conocido");
+    case Razon::Danada:
+      Fail(name, "el archivo está dañado o incompleto");
+    case Razon::Vacia:
+      Fail(name, "la imagen está vacía");
+    case Razon::Grande:
+      FailSize(name, d.declarada);
+    case Razon::SinMemoria:
+      FailMemory(name);
+    case Razon::Tarde:
+      Fail(name, "leerla lleva demasiado tiempo");
+    case Razon::Caida:
+      Fail(name, "el archivo está dañado y su lector ha fallado");
+    case Razon::Ausente:
+      break;
+  }
+  Fail(name, "falta el programa pixmosa-decodificador, que lee las imágenes de su tipo");
+}
+
+Picture QtPictureCodec::ReadBytes(std::string_view bytes, const std::string& name, std::string* aviso) {
+  if (aviso) aviso->clear();
   if (bytes.empty()) Fail(name, "el archivo está vacío");
-  QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  QBuffer buffer(&data);
-  buffer.open(QIODevice::ReadOnly);
-  QImageReader reader(&buffer);
-  reader.setDecideFormatFromContent(true);
-  reader.setAutoTransform(true);
-  if (!reader.canRead()) Fail(name, "no es una imagen de un formato conocido");
-  CheckSize(name, reader.size());
-  if (CutShort(bytes)) Fail(name, "el archivo está incompleto");
-  if (bytes.starts_with(std::string_view("\0\0\1\0", 4))) GoToLargest(reader);
-  QImage image;
-  if (!reader.read(&image)) Fail(name, "el archivo está dañado o incompleto");
-  CheckSize(name, image.size());
-  return PictureOf(std::move(image));
+  if (bytes.size() > kMasBytesDeImagen) Fail(name, "el archivo es demasiado grande");
+  try {
+    if (EsMetafile(bytes)) return LeerAparte(bytes, name);
+    if (EsPng(bytes)) return LeerPngEnCasa(bytes, name);
+    Lector lector(bytes);
+    if (lector.reader.format().isEmpty()) Fail(name, "no es una imagen de un formato conocido");
+    if (!lector.EsDeCasa() || (EsJpeg(bytes) && JpegPasadas(bytes) > kMasPasadas))
+      return LeerAparte(bytes, name);
+    Picture picture = LeerEnCasa(lector, bytes, name);
+    if (aviso && GifCortado(bytes)) *aviso = "La imagen \"" + name + "\" está incompleta.";
+    return picture;
+  } catch (const std::bad_alloc&) {
+    FailMemory(name);
+  }
 }
 
-Picture QtPictureCodec::Read(const std::filesystem::path& file) {
+Picture QtPictureCodec::Read(const std::filesystem::path& file, std::string* aviso) {
   try {
-    return ReadBytes(LeerArchivo(file, kLargestFile), file.string());
+    return ReadBytes(LeerArchivo(file, kMasBytesDeImagen), file.string(), aviso);
   } catch (const FileError& e) {
     throw PictureError(e.what());
+  } catch (const std::bad_alloc&) {
+    FailMemory(file.string());
   }
 }
 
 Picture QtPictureCodec::ReadStretched(const std::filesystem::path& file,
-                                      const std::function<Extent(Extent)>& size) {
+                                      const std::function<Extent(Extent)>& size, std::string* aviso) {
   try {
-    const std::string bytes = LeerArchivo(file, kLargestFile);
-    if (std::optional<Picture> quick = ReadJpegStretched(bytes, [&](Extent source) {
-          return FitsMemory({source.width, source.height}) ? size(source) : Extent{};
-        }))
+    if (aviso) aviso->clear();
+    const std::string bytes = LeerArchivo(file, kMasBytesDeImagen);
+    if (std::optional<Picture> quick = ReadJpegStretched(
+            bytes, [&](Extent source) { return FitsMemory(source) ? size(source) : Extent{}; }))
       return *quick;
-    const Picture whole = ReadBytes(bytes, file.string());
+    const Picture whole = ReadBytes(bytes, file.string(), aviso);
     return Stretch(whole, size(whole.Size()));
   } catch (const FileError& e) {
     throw PictureError(e.what());
+  } catch (const std::bad_alloc&) {
+    FailMemory(file.string());
   }
 }
 
-std::string QtPictureCodec::Encode(const Picture& picture, const std::string& format) {
-  QByteArray data;
-  QBuffer buffer(&data);
-  buffer.open(QIODevice::WriteOnly);
-  QImageWriter writer(&buffer, QByteArray::fromStdString(format));
-  if (format == "jpg") writer.setQuality(kJpegQuality);
-  if (!writer.write(ImageOf(picture)))
-    throw PictureError("No se ha podido guardar la imagen en el formato \"" + format +
-                       "\": " + writer.errorString().toStdString() + ".");
-  return data.toStdString();
+Extent QtPictureCodec::Size(std::string_view bytes) {
+  if (bytes.empty() || EsMetafile(bytes)) return {};
+  if (EsPng(bytes)) return TamanoDePng(bytes);
+  if (const Extent screen = TamanoDeGif(bytes); screen != Extent{}) return screen;
+  if (const std::optional<Extent> icon = TamanoDeIcono(bytes)) return *icon;
+  Lector lector(bytes);
+  if (!lector.EsDeCasa() || !lector.reader.size().isValid()) return {};
+  const Extent size = Of(lector.reader.size());
+  const bool turned = lector.reader.transformation() & QImageIOHandler::TransformationRotate90;
+  return turned ? Extent{size.height, size.width} : size;
 }
 
 }  // namespace pixmosa

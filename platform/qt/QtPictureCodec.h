@@ -1,6 +1,9 @@
-// Picture files through the platform's readers and writers: every format it knows, and WMF by the plug-in
-// beside the program. Needs a QCoreApplication for the plug-in to be found.
+// Picture files through the platform's readers and writers. The common kinds (PNG, JPEG, GIF, BMP and the
+// plain ones) are read here; every other one (SVG, WMF, icons, ...) by the decoding process. Needs a
+// QCoreApplication for the readers to be found.
 #pragma once
+
+#include <utility>
 
 #include "platform/PictureCodec.h"
 
@@ -8,13 +11,24 @@ namespace pixmosa {
 
 class QtPictureCodec final : public PictureCodec {
  public:
-  QtPictureCodec();
+  // `mientras` is called about every 15 ms while the decoding process works. `decodificador` is its program;
+  // without one, the program that ships with this one.
+  explicit QtPictureCodec(std::function<void()> mientras = {}, std::filesystem::path decodificador = {});
 
-  Picture Read(const std::filesystem::path& file) override;
-  Picture ReadBytes(const std::string& bytes, const std::string& name) override;
-  Picture ReadStretched(const std::filesystem::path& file,
-                        const std::function<Extent(Extent)>& size) override;
+  Picture Read(const std::filesystem::path& file, std::string* aviso = nullptr) override;
+  Picture ReadBytes(std::string_view bytes, const std::string& name, std::string* aviso = nullptr) override;
+  Picture ReadStretched(const std::filesystem::path& file, const std::function<Extent(Extent)>& size,
+                        std::string* aviso = nullptr) override;
+  Extent Size(std::string_view bytes) override;
   std::string Encode(const Picture& picture, const std::string& format) override;
+  std::vector<std::string> Formatos() override;
+  std::vector<std::string> FormatosLegibles() override;
+
+ private:
+  Picture LeerAparte(std::string_view bytes, const std::string& name);
+
+  std::function<void()> mientras_;
+  std::filesystem::path decodificador_;
 };
 
 }  // namespace pixmosa

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
+#include <cstdio>
+#include <memory>
 #include <unistd.h>
 
 #include "platform/AtomicFile.h"
@@ -172,5 +174,14 @@ TEST_F(AtomicFileTest, SaysWhatIsWrong) {
   EXPECT_EQ(reason([&] { LeerArchivo(dir / "nada"); }),
             "No se ha podido leer \"" + d + "/nada\": no existe.");
   EXPECT_EQ(reason([&] { LeerArchivo(dir); }), "No se ha podido leer \"" + d + "\": es una carpeta.");
-  EXPECT_NE(reason([&] { LeerArchivo("/dev/zero", 1000); }), "");
+  EXPECT_EQ(reason([&] { LeerArchivo("/dev/zero", 1000); }),
+            "No se ha podido leer \"/dev/zero\": el archivo es demasiado grande.");
+  EscribirArchivo(dir / "f", "abc");
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(std::fopen((dir / "f").c_str(), "rb"),
+                                                               std::fclose);
+  EXPECT_EQ(std::fgetc(stream.get()), 'a');
+  EXPECT_EQ(LeerFlujo(stream.get(), "-", 2), "bc");
+  std::rewind(stream.get());
+  EXPECT_EQ(reason([&] { LeerFlujo(stream.get(), "-", 2); }),
+            "No se ha podido leer \"-\": el archivo es demasiado grande.");
 }

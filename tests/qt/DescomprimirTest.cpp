@@ -40,7 +40,7 @@ TEST(DescomprimirZip, EveryFileWholeOrWithItsFault) {
   std::string wrong = Zip({{"uno", "hola"}, {"dos", "b"}}, ZIP_CM_STORE);
   wrong[wrong.find("hola")] = 'H';
   EXPECT_EQ(Told(wrong), "uno!está dañado: la suma de comprobación no coincide dos=1 ");
-  EXPECT_THROW(DescomprimirZip(wrong.substr(0, wrong.size() / 2)), std::runtime_error);
+  EXPECT_THROW(DescomprimirZip(wrong.substr(0, wrong.size() / 2)), ErrorDelPrograma);
 }
 
 TEST(DescomprimirZip, BombsStayWithinBounds) {
@@ -49,10 +49,10 @@ TEST(DescomprimirZip, BombsStayWithinBounds) {
             "a=41943040 b!es demasiado grande c!es demasiado grande ");
   EXPECT_THROW(
       DescomprimirZip(Zip(std::vector<std::pair<std::string, std::string>>(1, {"x", ""})).substr(0, 4)),
-      std::runtime_error);
+      ErrorDelPrograma);
   std::vector<std::pair<std::string, std::string>> many;
   for (int i = 0; i < 1001; ++i) many.emplace_back(std::to_string(i), "");
-  EXPECT_THROW(DescomprimirZip(Zip(many)), std::runtime_error);
+  EXPECT_THROW(DescomprimirZip(Zip(many)), ErrorDelPrograma);
   many.pop_back();
   EXPECT_EQ(DescomprimirZip(Zip(many)).size(), 1000U);
 }

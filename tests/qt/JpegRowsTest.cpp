@@ -9,6 +9,7 @@
 #include "platform/Random.h"
 #include "platform/Stretch.h"
 #include "platform/jpeg/JpegRows.h"
+#include "platform/jpeg/Segmentos.h"
 #include "platform/qt/QtPicture.h"
 #include "tests/support/GuiApplication.h"
 
@@ -56,6 +57,13 @@ std::string Compress(int width, int height, const Kind& kind) {
   return bytes;
 }
 
+// An EXIF block that turns the photograph by 90 degrees.
+const std::string kExif(
+    "\xFF\xE1\0\x22"
+    "Exif\0\0"
+    "MM\0\x2A\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0",
+    36);
+
 Picture Whole(const std::string& bytes) {
   test::NeedGuiApplication();
   return PictureOf(QImage::fromData(QByteArray::fromStdString(bytes)));
@@ -92,17 +100,45 @@ TEST(JpegRows, SamePixelsAsDecodingTheWhole) {
 TEST(JpegRows, LeavesOthersToTheGeneralReader) {
   const auto one = [](Extent) { return Extent{1, 1}; };
   const std::string bytes = Compress(64, 64, {2, 2, false, false});
-  EXPECT_TRUE(JpegReachesItsEnd(bytes));
+  EXPECT_TRUE(JpegLlegaAlFinal(bytes));
   EXPECT_FALSE(ReadJpegStretched("GIF89a", one));
   EXPECT_FALSE(ReadJpegStretched(bytes.substr(0, 20), one));
-  EXPECT_FALSE(JpegReachesItsEnd(bytes.substr(0, bytes.size() - 2)));
+  EXPECT_FALSE(JpegLlegaAlFinal(bytes.substr(0, bytes.size() - 2)));
   EXPECT_FALSE(ReadJpegStretched(bytes.substr(0, bytes.size() / 2), one));
   EXPECT_FALSE(ReadJpegStretched(bytes, [](Extent) { return Extent{}; }));
   // The same photograph with an EXIF block that turns it.
-  const std::string exif(
-      "\xFF\xE1\0\x22"
-      "Exif\0\0"
-      "MM\0\x2A\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0\x06\0\0\0\0\0\0",
-      36);
-  EXPECT_FALSE(ReadJpegStretched(bytes.substr(0, 2) + exif + bytes.substr(2), one));
+  EXPECT_FALSE(ReadJpegStretched(bytes.substr(0, 2) + kExif + bytes.substr(2), one));
+}
+
+TEST(Segmentos, StrayBytesArePassedOverAndCutFilesAreNot) {
+  for (const bool progressive : {false, true}) {
+    const std::string bytes = Compress(64, 64, {2, 2, false, progressive});
+    const std::size_t second = 4 + static_cast<unsigned char>(bytes[5]);  // after the first segment
+    for (const std::string& stray : {std::string(), std::string("\0\0\0", 3), std::string("stray"),
+                                     std::string(9, '\xFF'), std::string("\xFF\0x\xFF\xD0", 5)}) {
+      const std::string loose = bytes.substr(0, second) + stray + bytes.substr(second);
+      EXPECT_TRUE(JpegLlegaAlFinal(loose)) << stray;
+      EXPECT_FALSE(JpegQuizaGirado(loose));
+      EXPECT_EQ(Whole(loose).Size(), (Extent{64, 64})) << "the decoder passes over them too";
+      EXPECT_TRUE(JpegQuizaGirado(bytes.substr(0, second) + stray + kExif + stray + bytes.substr(second)));
+      for (std::size_t keep = 0; keep + 1 < loose.size(); keep += 7)
+        EXPECT_FALSE(JpegLlegaAlFinal(loose.substr(0, keep))) << keep;
+    }
+    // An end mark inside a comment or a thumbnail is not the picture's.
+    const std::string comment("\xFF\xFE\0\x04\xFF\xD9", 6);
+    EXPECT_FALSE(JpegLlegaAlFinal(bytes.substr(0, bytes.size() - 2) + comment));
+    EXPECT_TRUE(JpegLlegaAlFinal(bytes.substr(0, second) + comment + bytes.substr(second)));
+  }
+}
+
+TEST(Segmentos, FilesOfVeryManyScansAreLeftToTheProcess) {
+  const std::string bytes = Compress(64, 64, {2, 2, false, true});
+  const int scans = JpegPasadas(bytes);
+  EXPECT_EQ(scans, 10) << "the common progression of a colour picture";
+  const std::size_t last = bytes.rfind("\xFF\xDA");
+  std::string many = bytes.substr(0, last);
+  for (int i = 0; i < kMasPasadas; ++i) many += bytes.substr(last, bytes.size() - 2 - last);
+  many += "\xFF\xD9";
+  EXPECT_GT(JpegPasadas(many), kMasPasadas);
+  EXPECT_FALSE(ReadJpegStretched(many, [](Extent) { return Extent{1, 1}; }));
 }

@@ -13,13 +13,20 @@ class FakePictureCodec final : public PictureCodec {
  public:
   std::map<std::string, Picture> files;  // by the name without its folder
 
-  Picture Read(const std::filesystem::path& file) override { return Named(file.filename().string()); }
-  Picture ReadBytes(const std::string&, const std::string& name) override { return Named(name); }
-  Picture ReadStretched(const std::filesystem::path& file,
-                        const std::function<Extent(Extent)>& size) override {
+  Picture Read(const std::filesystem::path& file, std::string* = nullptr) override {
+    return Named(file.filename().string());
+  }
+  Picture ReadBytes(std::string_view, const std::string& name, std::string* = nullptr) override {
+    return Named(name);
+  }
+  Picture ReadStretched(const std::filesystem::path& file, const std::function<Extent(Extent)>& size,
+                        std::string* = nullptr) override {
     const Picture whole = Read(file);
     return Stretch(whole, size(whole.Size()));
   }
+  Extent Size(std::string_view) override { return {}; }
+  std::vector<std::string> Formatos() override { return {"png"}; }
+  std::vector<std::string> FormatosLegibles() override { return {"png"}; }
   std::string Encode(const Picture&, const std::string& format) override { return format; }
 
  private:

@@ -1,0 +1,22 @@
+// The walls around the decoding process: what it may use and what it may reach.
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+namespace pixmosa {
+
+// From the first moment: seconds of processor time, memory, no files written, no greater rights, and the end
+// with whoever started it. False where the system refuses one.
+bool Limitar();
+
+// Before the first byte from outside is read by a decoder, and for good: no file is opened for writing, only
+// those under `carpetas` for reading (none at all where the kernel cannot hold a folder), no address, no
+// other process. Every thread of the process must be its own child of the caller. False where the kernel
+// refuses.
+bool Encerrar(const std::vector<std::filesystem::path>& carpetas);
+
+// Where fonts, their settings and their catalogues lie.
+std::vector<std::filesystem::path> CarpetasDeLetras();
+
+}  // namespace pixmosa

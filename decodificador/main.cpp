@@ -1,0 +1,128 @@
+// The decoding process: a file's bytes on standard input, an answer (Respuesta.h) on standard output. It
+// reads the kinds of picture whose readers are not to be trusted, behind walls that hold when a reader fails.
+#include <cstdio>
+#include <new>
+#include <string>
+#include <unistd.h>
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QImageReader>
+
+#include "platform/decodificador/Contenido.h"
+#include "decodificador/Encierro.h"
+#include "platform/decodificador/Respuesta.h"
+#include "platform/qt/QtPicture.h"
+#include "platform/wmf/Metafile.h"
+
+namespace pixmosa {
+namespace {
+
+std::string LeerEntrada() {
+  std::string bytes;
+  char chunk[65536];
+  for (ssize_t n = 0; (n = ::read(STDIN_FILENO, chunk, sizeof chunk)) > 0;)
+    if (bytes.append(chunk, static_cast<std::size_t>(n)).size() > kMasBytesAparte) throw std::bad_alloc();
+  return bytes;
+}
+
+bool Escribir(const void* data, std::size_t size) {
+  const char* at = static_cast<const char*>(data);
+  while (size > 0) {
+    const ssize_t n = ::write(STDOUT_FILENO, at, size);
+    if (n <= 0) return false;
+    at += n;
+    size -= static_cast<std::size_t>(n);
+  }
+  return true;
+}
+
+bool Responder(const Decodificada& d) {
+  Cabecera c;
+  c.razon = static_cast<std::uint32_t>(d.razon);
+  const Extent size = d.razon == Razon::Hecha ? d.imagen.Size() : d.declarada;
+  c.ancho = static_cast<std::uint32_t>(size.width);
+  c.alto = static_cast<std::uint32_t>(size.height);
+  return Escribir(&c, sizeof c) && Escribir(d.imagen.Pixels(), d.imagen.PixelCount() * sizeof(std::uint32_t));
+}
+
+std::int64_t Pixeles(QSize size) {
+  return std::int64_t{size.width()} * size.height();
+}
+
+// Every reader there is, loaded now: a picture may hold pictures of other kinds, and later no library opens.
+void CargarLectores() {
+  QByteArray nothing(64, '\0');
+  QBuffer buffer(&nothing);
+  buffer.open(QIODevice::ReadOnly);
+  QImageReader(&buffer).canRead();
+}
+
+// A file of several pictures (an icon) gives its largest one.
+void IrAlMayor(QImageReader& reader) {
+  int best = 0;
+  std::int64_t area = -1;
+  for (int i = 0; i < reader.imageCount() && reader.jumpToImage(i); ++i) {
+    const std::int64_t a = Pixeles(reader.size());
+    if (a > area) {
+      area = a;
+      best = i;
+    }
+  }
+  reader.jumpToImage(best);
+}
+
+Decodificada LeerConQt(const std::string& bytes) {
+  CargarLectores();
+  QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  QBuffer buffer(&data);
+  buffer.open(QIODevice::ReadOnly);
+  if (!Encerrar(CarpetasDeLetras())) return {Razon::Caida};
+  QImageReader reader(&buffer);
+  QImageReader::setAllocationLimit(0);  // the process has a limit of its own
+  reader.setDecideFormatFromContent(true);
+  reader.setAutoTransform(true);
+  if (!reader.canRead()) return {Razon::Desconocida};
+  if (TamanoDeIcono(bytes)) IrAlMayor(reader);
+  const QSize size = reader.size();
+  if (size.isValid() && Pixeles(size) > kMasPixelesAparte)
+    return {Razon::Grande, {}, {size.width(), size.height()}};
+  if (size.isValid() && size.isEmpty()) return {Razon::Vacia};
+  QImage image;
+  if (!reader.read(&image)) {
+    // What the system cannot give is not the file's fault.
+    const bool room = !size.isValid() || !QImage(size, QImage::Format_ARGB32).isNull();
+    return {room ? Razon::Danada : Razon::SinMemoria};
+  }
+  if (image.isNull()) return {Razon::Vacia};
+  if (Pixeles(image.size()) > kMasPixelesAparte) return {Razon::Grande, {}, {image.width(), image.height()}};
+  return {Razon::Hecha, PictureOf(std::move(image)), {}};
+}
+
+Decodificada LeerMetafile(const std::string& bytes) {
+  if (!Encerrar(CarpetasDeLetras())) return {Razon::Caida};
+  Picture picture = DibujarMetafile(bytes);
+  return picture.IsEmpty() ? Decodificada{Razon::Danada} : Decodificada{Razon::Hecha, std::move(picture), {}};
+}
+
+Decodificada Leer(int argc, char** argv) {
+  try {
+    const std::string bytes = LeerEntrada();
+    if (EsMetafile(bytes)) return LeerMetafile(bytes);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication app(argc, argv);
+    return LeerConQt(bytes);
+  } catch (const std::bad_alloc&) {
+    return {Razon::SinMemoria};
+  }
+}
+
+}  // namespace
+}  // namespace pixmosa
+
+int main(int argc, char** argv) {
+  if (!pixmosa::Limitar()) return 1;
+  const pixmosa::Decodificada d = pixmosa::Leer(argc, argv);
+  // Without tidying up after readers that may have left anything behind.
+  ::_exit(d.razon <= pixmosa::kUltimaRespondida && pixmosa::Responder(d) ? 0 : 1);
+}
