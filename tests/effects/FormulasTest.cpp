@@ -3,7 +3,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-#include "platform/Rounding.h"
+#include "platform/Pixel.h"
 #include "tests/support/DrawnPicture.h"
 #include "tests/support/Effects.h"
 
