@@ -55,8 +55,6 @@ class Picture {
     return ColourOfPixel(Row(y)[x]);
   }
 
-  bool SharesBlockWith(const Picture& other) const { return block_ == other.block_; }
-
   // Nobody else holds the block.
   bool EsUnica() const { return block_.use_count() == 1; }
 

@@ -67,7 +67,7 @@ void Turn(benchmark::State& state, const Giro& giro) {
   ms(benchmark::RegisterBenchmark("Memcpy", Memcpy));
   for (int n = 1; n <= kEfectos; ++n) {
     const EffectConfig& e = *Efecto(n);
-    const std::int32_t argument = n == 31 ? 50 : e.menu;
+    const std::int32_t argument = e.argumento == Argumento::Exigido ? 50 : e.menu;
     ms(benchmark::RegisterBenchmark((std::to_string(n) + " " + NombreDeOrden(e.caption)).c_str(), Dispatch, n,
                                     argument));
   }

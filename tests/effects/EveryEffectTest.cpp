@@ -27,8 +27,8 @@ std::vector<std::int32_t> Arguments(int effect) {
   return {e.menu,
           ArgumentoDelDeslizador(effect, e.Min),
           ArgumentoDelDeslizador(effect, e.Max),
-          e.menor,
-          e.mayor,
+          e.Min,
+          e.Max,
           0,
           -1,
           INT32_MIN,
@@ -60,7 +60,7 @@ TEST(EveryEffect, SmoothersAndSharpenersLeaveAUniformPictureAlone) {
   const Picture p = Picture::Filled(9, 8, Rgb(90, 90, 90));
   for (const int effect : {1, 3, 4, 5, 6, 15, 24, 25, 26, 28}) {
     const EffectConfig& e = *Efecto(effect);
-    for (const std::int32_t a : {e.menu, e.menor, e.mayor}) {
+    for (const std::int32_t a : {e.menu, e.Min, e.Max}) {
       const Picture after = Applied(effect, a, p);
       EXPECT_TRUE(std::equal(p.Pixels(), p.Pixels() + p.PixelCount(), after.Pixels()))
           << effect << " with " << a;
