@@ -68,18 +68,6 @@ TEST(EveryEffect, SmoothersAndSharpenersLeaveAUniformPictureAlone) {
   }
 }
 
-// Contrast ends for every combination of excesses, and leaves components in range.
-TEST(EveryEffect, ContrastComesToAnEndForAllColours) {
-  Picture p(68, 68 * 18);
-  std::size_t i = 0;
-  for (std::uint32_t r = 0; r < 256; r += 15)
-    for (std::uint32_t g = 0; g < 256; g += 5)
-      for (std::uint32_t b = 0; b < 256; b += 5)
-        if (i < p.PixelCount()) p.Writable()[i++] = b | g << 8 | r << 16;
-  while (i < p.PixelCount()) p.Writable()[i++] = 0;
-  for (const int a : {-100, -50, 50, 100}) EXPECT_EQ(Applied(17, a, p).PixelCount(), p.PixelCount());
-}
-
 // Worked by hand: rows 1..4 of a picture of four rows show 25, 50, 75, 100 and the closing 100.
 TEST(EveryEffect, ProgressFollowsTheRows) {
   const Picture p = Picture::Filled(5, 6, kWhite);
