@@ -79,7 +79,8 @@ void frmSistema::Mostrar() {
 }
 
 void frmSistema::ElegirTamaño(int index) {
-  const std::array<std::uint8_t, 3> bytes = {static_cast<std::uint8_t>(index), 0, 0};
+  const std::uint8_t size = index;
+  const std::array<std::uint8_t, 3> bytes = {size, 0, 0};
   WriteBinary(registry_, kExplorer, "IEFontSize", bytes);
 }
 

@@ -10,7 +10,7 @@
 namespace pixmosa::test {
 
 // Widths that leave every kind of remainder, and pictures with little or no interior.
-inline constexpr Extent kSizes[] = {{1, 1}, {1, 9}, {2, 3},  {3, 3},  {3, 8},
+inline constexpr Extent kSizes[] = {{1, 1}, {1, 9}, {2, 3},  {3, 3},  {3, 60},
                                     {5, 5}, {6, 4}, {19, 7}, {37, 9}, {70, 6}};
 
 // Runs of extremes between noise, so that clamping and ties occur.
