@@ -8,8 +8,8 @@
 namespace pixmosa {
 namespace {
 
-// 32 bits, as the table k has them: what the others hand on can grow for some rounds, and a vector that holds
-// fewer of them costs little, since few pixels wait for another round.
+// 32 bits, as the table k has them. 16 would hold every sum, yet they measure no faster: the time goes into
+// collecting the pixels and not into the rounds.
 struct Componentes {
   std::int32_t b, g, r;
   bool EnRango() const { return ((b | g | r) & ~255) == 0; }
