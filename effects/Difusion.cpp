@@ -40,8 +40,8 @@ static_assert(ParaTodos(-255, 255, [](int e) {
          std::abs(Recibido({8, 4, 2, 4, 8, 4, 2, 1, 2, 4, 2, 1}, 42, e)) <= kMasError;
 }));
 
-// The shares of one error, in the order of the method's weights. 8 bits would hold them, -111..111, and 16 make
-// a table of 43 KB; yet with 8 bits a picture measures an eighth slower.
+// The shares of one error, in the order of the method's weights. 8 bits would hold them, -111..111, and 16
+// make a table of 43 KB; yet with 8 bits a picture measures an eighth slower.
 using Partes = std::array<std::int16_t, 4>;
 
 // What leads from one pixel to the next is 64 bits wide, as an address is: each number is the place of the
