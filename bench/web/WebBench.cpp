@@ -51,7 +51,7 @@ const fs::path& LargeGif() {
     for (int frame = 0; frame < 200; ++frame) {
       gif += "\x21\xF9\x04";
       for (int i = 0; i < 500'000; ++i) {
-        const char c = static_cast<char>(random.Bits() >> 24);
+        const char c = random.Bits() >> 24;
         gif += c == 0x21 ? ' ' : c;
       }
     }

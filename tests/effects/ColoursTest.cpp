@@ -57,6 +57,16 @@ void PutTone(Picture& p, int x, int y, bool white) {
   for (const int shift : {0, 8, 16}) Put(p, x, y, shift, white ? 255 : 0);
 }
 
+Picture Thresholded(const Picture& p, Colour t) {
+  Picture result = p;
+  for (int y = 1; y <= p.Height(); ++y)
+    for (int x = 1; x <= p.Width(); ++x) {
+      const auto below = [&](int shift) { return Plane{p, shift}(x, y) < (t >> (16 - shift) & 255); };
+      PutTone(result, x, y, !(below(16) && below(8) && below(0)));
+    }
+  return result;
+}
+
 Picture SharpenedAndCarried(const Picture& p, int) {
   Picture result = p;
   const int W = p.Width(), H = p.Height(), m = test::MeanGray(p);
@@ -94,13 +104,14 @@ Picture EveryLevel() {
 
 }  // namespace
 
-TEST(Colours, ContrastAndMethods2And3HoldToTheBit) {
+TEST(Colours, ContrastAndMethods1To3HoldToTheBit) {
   struct Row {
     int effect;
     Picture (*formula)(const Picture&, int a);
     std::vector<int> arguments;
   };
   for (const Row& r : {Row{17, Contrasted, {-100, -37, 0, 10, 50, 77, 100}},
+                       {18, Thresholded, {Rgb(150, 150, 150), Rgb(99, 200, 250), kWhite}},
                        {19, SharpenedAndCarried, {0}},
                        {20, Ordered, {0}}})
     for (const Extent& size : test::kSizes)

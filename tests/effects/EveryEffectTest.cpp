@@ -55,19 +55,6 @@ TEST(EveryEffect, RunsOnThinPicturesAndKeepsTheFourthByte) {
     }
 }
 
-// 2 and 12 to 18, 30 to 32 and the random ones aside, a uniform gray picture shows the formula's fixed point.
-TEST(EveryEffect, SmoothersAndSharpenersLeaveAUniformPictureAlone) {
-  const Picture p = Picture::Filled(9, 8, Rgb(90, 90, 90));
-  for (const int effect : {1, 3, 4, 5, 6, 15, 24, 25, 26, 28}) {
-    const EffectConfig& e = *Efecto(effect);
-    for (const std::int32_t a : {e.menu, e.Min, e.Max}) {
-      const Picture after = Applied(effect, a, p);
-      EXPECT_TRUE(std::equal(p.Pixels(), p.Pixels() + p.PixelCount(), after.Pixels()))
-          << effect << " with " << a;
-    }
-  }
-}
-
 // Worked by hand: rows 1..4 of a picture of four rows show 25, 50, 75, 100 and the closing 100.
 TEST(EveryEffect, ProgressFollowsTheRows) {
   const Picture p = Picture::Filled(5, 6, kWhite);

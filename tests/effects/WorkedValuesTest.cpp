@@ -1,5 +1,4 @@
-// Values worked out by hand from each effect's formula.
-#include <gmock/gmock.h>
+// Values worked out by hand, where no slow formula stands beside the worker or an oddity is worth a word.
 #include <gtest/gtest.h>
 
 #include "tests/support/DrawnPicture.h"
@@ -28,10 +27,6 @@ constexpr OnePixel kPixels[] = {
     {16, 5, Rgb(1, 2, 3), Rgb(2, 1, 3)},
     {16, 0, Rgb(1, 2, 3), Rgb(1, 2, 3)},
     {16, 6, Rgb(1, 2, 3), Rgb(1, 2, 3)},
-    {18, Rgb(150, 150, 150), Rgb(149, 149, 149), kBlack},
-    {18, Rgb(150, 150, 150), Rgb(150, 149, 149), kWhite},
-    {18, Rgb(10, 20, 30), Rgb(9, 19, 29), kBlack},
-    {18, Rgb(10, 20, 30), Rgb(9, 19, 30), kWhite},
     {18, 0, kBlack, kWhite},
     {31, 0, Rgb(64, 1, 255), Rgb(64, 1, 255)},  // the menu's unused argument does no harm
     {32, 0, kBlack, Rgb(64, 24, 8)},
@@ -48,30 +43,14 @@ struct GrayPicture {
   Rows before, after;
 };
 
-// Three rows whose middle one alone differs from `ground`.
-Rows Band(int ground, const std::vector<int>& middle) {
-  const std::vector<int> around(middle.size(), ground);
-  return {around, middle, around};
-}
-
 const GrayPicture kPictures[] = {
-    {"sees the new left pixel: 1780 \\ 10, 504 \\ 10", 1, 2, Band(50, {50, 100, 60, 50}),
-     Band(50, {50, 178, 50, 50})},
-    {"160 \\ 8, then 20 \\ 8", 3, 0, Band(0, {0, 80, 160, 0}), Band(0, {0, 20, 2, 0})},
     {"nothing moves by 0", 4, 0, {{1, 2}, {3, 4}}, {{1, 2}, {3, 4}}},
-    {"240 \\ 5, then 208 \\ 5", 5, 0, Band(0, {0, 80, 160, 0}), Band(0, {0, 48, 41, 0})},
-    {"200 \\ 2, then 50 \\ 2", 6, 1, Band(50, {50, 60, 50, 50}), Band(50, {50, 100, 25, 50})},
-    {"720 - 800 + 255", 7, kWhite, Band(100, {100, 90, 100}), Band(100, {100, 175, 100})},
-    {"10 \\ 2 + 50", 13, 0, Band(50, {50, 30, 70}), Band(50, {50, 55, 70})},
     {"blocks end at the border",
      15,
      2,
      {{10, 13, 200}, {11, 13, 201}, {7, 8, 9}},
      {{11, 11, 200}, {11, 11, 200}, {7, 7, 9}}},
     {"43 x 10 \\ 15 = 28, -33 x 10 \\ 15 = -22", 21, 15, {{100, 150, 110}}, {{0, 255, 0}}},
-    {"downward 5/16", 21, 15, {{100}, {115}, {160}}, {{0}, {255}, {255}}},
-    {"8/32 and 4/32", 22, 15, {{100, 150, 110, 120}}, {{0, 255, 0, 255}}},
-    {"8/42 and 4/42", 23, 15, {{100, 150, 110, 120}}, {{0, 255, 0, 255}}},
     {"all black has the mean 0", 21, 15, {{0, 0}, {0, 0}}, {{255, 255}, {255, 255}}},
     {"all white stays", 23, 15, {{255, 255}, {255, 255}}, {{255, 255}, {255, 255}}},
 };
