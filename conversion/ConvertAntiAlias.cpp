@@ -17,7 +17,7 @@ struct InkMap {
   explicit InkMap(const Picture& p) : stride(p.Width() + kAcross), ink(stride * (p.Height() + kDown)) {
     for (int y = 0; y < p.Height(); ++y) {
       std::uint8_t* to = ink.data() + stride * y;
-      for (const std::uint32_t pixel : p.Row(y)) *to++ = SumaRGB(pixel) == 0;
+      for (const std::uint32_t pixel : p.Row(y)) *to++ = (pixel & kTresPartes) == 0;
     }
   }
 
