@@ -19,7 +19,6 @@
 namespace pixmosa {
 namespace {
 
-constexpr auto kHive = RegistryHive::CurrentUser;
 constexpr char kNotepad[] = "Software\\Microsoft\\Notepad";
 constexpr char kExplorer[] = "Software\\Microsoft\\Internet Explorer\\International\\Scripts\\3";
 constexpr char kExplicacion[] =
@@ -64,24 +63,25 @@ frmSistema::frmSistema(Registry& registry, QWidget* parent) : QDialog(parent), r
 }
 
 bool frmSistema::AjusteDeLinea() {
-  return ReadNumber(registry_, kHive, kNotepad, "fwrap") == 1;
+  return ReadNumber(registry_, kNotepad, "fwrap") == 1;
 }
 
 void frmSistema::Mostrar() {
   chkNAjuste_->setChecked(AjusteDeLinea());
   QLocale numbers = locale();
   numbers.setNumberOptions(QLocale::OmitGroupSeparator);
-  lblNSize_->setText(numbers.toString(ReadNumber(registry_, kHive, kNotepad, "iPointSize") / 10.0, 'g', 12));
-  const auto face = ReadValue(registry_, kHive, kNotepad, "lfFaceName");
+  lblNSize_->setText(numbers.toString(ReadNumber(registry_, kNotepad, "iPointSize") / 10.0, 'g', 12));
+  const auto face = ReadValue(registry_, kNotepad, "lfFaceName");
   if (const auto* name = std::get_if<std::string>(&face)) lblNFont_->setText(QStringOfBytes(*name));
-  const auto size = ReadValue(registry_, kHive, kExplorer, "IEFontSize");
+  const auto size = ReadValue(registry_, kExplorer, "IEFontSize");
   const auto* index = std::get_if<std::int32_t>(&size);
   cboESize_->setCurrentIndex(index && *index >= 0 && *index < cboESize_->count() ? *index : -1);
 }
 
 void frmSistema::ElegirTamaño(int index) {
-  const std::array<std::uint8_t, 3> bytes = {static_cast<std::uint8_t>(index), 0, 0};
-  WriteBinary(registry_, kHive, kExplorer, "IEFontSize", bytes);
+  const std::uint8_t size = index;
+  const std::array<std::uint8_t, 3> bytes = {size, 0, 0};
+  WriteBinary(registry_, kExplorer, "IEFontSize", bytes);
 }
 
 }  // namespace pixmosa

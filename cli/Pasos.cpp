@@ -1,17 +1,13 @@
 #include "cli/Pasos.h"
 
-#include <algorithm>
-#include <climits>
-
 #include "cli/Argumentos.h"
 #include "effects/EntradasDeImagen.h"
 #include "effects/basFiltrosConfig.h"
 #include "platform/CodePage.h"
+#include "platform/Colour.h"
 
 namespace pixmosa::cli {
 namespace {
-
-constexpr int kGamma = 31;  // its menu argument is never used: a value has to be given
 
 std::string Rango(std::int32_t from, std::int32_t to) {
   return "de " + std::to_string(from) + " a " + std::to_string(to);
@@ -21,24 +17,22 @@ std::string Rango(std::int32_t from, std::int32_t to) {
 std::int32_t ArgumentoDado(int effect, const std::string& word, const std::string& value) {
   const EffectConfig& e = *Efecto(effect);
   if (e.argumento == Argumento::Ninguno) throw ErrorDeUso("el paso \"" + word + "\" no lleva valor");
-  const std::optional<int> v = EnteroDeTexto(value, e.menor, e.mayor);
-  if (!v)
-    throw ErrorDeUso("el valor del paso \"" + word + "\" debe ser un entero " + Rango(e.menor, e.mayor));
+  const std::optional<int> v = EnteroDeTexto(value, e.Min, e.Max);
+  if (!v) throw ErrorDeUso("el valor del paso \"" + word + "\" debe ser un entero " + Rango(e.Min, e.Max));
   return ArgumentoDelDeslizador(effect, *v);
 }
 
 Paso PasoDeEfecto(int effect, std::int32_t otherwise, const std::string& word,
                   const std::optional<std::string>& value) {
   if (value) return {effect, ArgumentoDado(effect, word, *value)};
-  if (effect == kGamma)
+  if (Efecto(effect)->argumento == Argumento::Exigido)
     throw ErrorDeUso("el paso \"" + word + "\" necesita un valor, como \"" + word + "=20\"");
   return {effect, otherwise};
 }
 
 bool EsNumero(std::string_view s) {
-  const std::size_t sign = s.starts_with('-') ? 1 : 0;
-  return s.size() > sign && std::all_of(s.begin() + static_cast<std::ptrdiff_t>(sign), s.end(),
-                                        [](char c) { return c >= '0' && c <= '9'; });
+  if (s.starts_with('-')) s.remove_prefix(1);
+  return !s.empty() && s.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
 std::optional<Paso> PasoPorNumero(const std::string& name, const std::string& word,
@@ -67,10 +61,10 @@ std::optional<Paso> PasoPorNombre(const std::string& name, const std::string& wo
 std::string AyudaDelValor(int effect) {
   const EffectConfig& e = *Efecto(effect);
   if (e.argumento == Argumento::Ninguno) return "";
-  std::string s = "valor " + Rango(e.menor, e.mayor);
-  if (effect == kGamma) return s + ", obligatorio";
-  if (e.argumento == Argumento::Color && !e.Configurable) s += " (rojo + 256 verde + 65536 azul)";
-  const std::int32_t otherwise = e.Configurable && e.argumento == Argumento::Color ? e.menu & 0xFF : e.menu;
+  std::string s = "valor " + Rango(e.Min, e.Max);
+  if (e.argumento == Argumento::Exigido) return s + ", obligatorio";
+  if (e.argumento == Argumento::Color) s += " (rojo + 256 verde + 65536 azul)";
+  const std::int32_t otherwise = e.argumento == Argumento::Gris ? SplitColour(e.menu).red : e.menu;
   return s + "; si falta, " + std::to_string(otherwise);
 }
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "conversion/basAscii.h"
+#include "platform/Pixel.h"
 
 namespace pixmosa {
 namespace {
@@ -12,11 +12,11 @@ enum Tone : std::uint8_t { kInk, kBetween, kPaper };
 
 // The tone of every pixel with a frame of ink around, so that every pixel has four neighbours. Stride is
 // width + 2.
-std::vector<std::uint8_t> Tones(const Picture& p) {
-  const auto stride = static_cast<std::size_t>(p.Width()) + 2;
-  std::vector<std::uint8_t> tones(stride * (static_cast<std::size_t>(p.Height()) + 2), kInk);
+std::vector<Tone> Tones(const Picture& p) {
+  const std::ptrdiff_t stride = p.Width() + 2;
+  std::vector<Tone> tones(stride * (p.Height() + 2), kInk);
   for (int y = 0; y < p.Height(); ++y) {
-    std::uint8_t* to = tones.data() + stride * (static_cast<std::size_t>(y) + 1) + 1;
+    Tone* to = tones.data() + stride * (y + 1) + 1;
     for (const std::uint32_t pixel : p.Row(y)) {
       const int gray = PixelGray(ColourOfPixel(pixel));
       *to++ = gray == 0 ? kInk : gray == 255 ? kPaper : kBetween;
@@ -40,20 +40,17 @@ char Outline(Tone left, Tone right, Tone up, Tone down, char fill, char current)
 }  // namespace
 
 std::string ConvertEdges(const Picture& resized, bool fill) {
-  const auto width = static_cast<std::size_t>(resized.Width()), stride = width + 2;
-  const std::vector<std::uint8_t> tones = Tones(resized);
+  const std::ptrdiff_t width = resized.Width(), stride = width + 2;
+  const std::vector<Tone> tones = Tones(resized);
   const char inside = fill ? ':' : ' ';
   char current = ' ';  // before any rule a pixel leaves the blank that its row starts with
   std::string text;
-  text.reserve((width + 2) * static_cast<std::size_t>(resized.Height()));
+  text.reserve((width + 2) * resized.Height());
   for (int y = 0; y < resized.Height(); ++y) {
     if (y > 0) text += "\r\n";
-    const std::uint8_t* t = tones.data() + stride * (static_cast<std::size_t>(y) + 1) + 1;
-    const auto tone = [](const std::uint8_t* at) { return static_cast<Tone>(*at); };
-    for (std::size_t x = 0; x < width; ++x, ++t) {
-      current = *t == kInk
-                    ? Outline(tone(t - 1), tone(t + 1), tone(t - stride), tone(t + stride), inside, current)
-                    : ' ';
+    const Tone* t = tones.data() + stride * (y + 1) + 1;
+    for (std::ptrdiff_t x = 0; x < width; ++x, ++t) {
+      current = *t == kInk ? Outline(t[-1], t[1], t[-stride], t[stride], inside, current) : ' ';
       text += current;
     }
   }

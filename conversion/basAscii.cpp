@@ -5,6 +5,7 @@
 
 #include "conversion/ConvertAntiAlias.h"
 #include "conversion/ConvertEdges.h"
+#include "platform/Pixel.h"
 #include "platform/Stretch.h"
 
 namespace pixmosa {
@@ -15,13 +16,12 @@ constexpr int kControlCodes = 31;  // codes 0..30 are never chosen
 
 // How many pixels of each of `count` cells standing below one another have exactly this colour.
 std::vector<int> CountColour(const Picture& cells, int count, Colour colour) {
-  std::vector<int> hits(static_cast<std::size_t>(count));
-  const std::uint32_t wanted = PixelOfColour(colour) & 0xFFFFFF;
-  const std::size_t area = cells.PixelCount() / static_cast<std::size_t>(count);
+  std::vector<int> hits(count);
+  const std::uint32_t wanted = PixelOfColour(colour);
+  const std::size_t area = cells.PixelCount() / count;
   const std::uint32_t* p = cells.Pixels();
   for (int& n : hits) {
-    n = static_cast<int>(
-        std::count_if(p, p + area, [&](std::uint32_t v) { return (v & 0xFFFFFF) == wanted; }));
+    n = std::count_if(p, p + area, [&](std::uint32_t v) { return Opaco(v) == wanted; });
     p += area;
   }
   return hits;
@@ -30,9 +30,9 @@ std::vector<int> CountColour(const Picture& cells, int count, Colour colour) {
 }  // namespace
 
 void RebuildCharacterTables(BasAscii& ascii, const AsciiSettings& settings, TextSurface& surface) {
-  const CharacterPalette& palette = kPalettes.at(static_cast<std::size_t>(settings.palette));
-  ascii.PaletteFirst = static_cast<float>(palette.first);
-  ascii.PaletteLast = static_cast<float>(palette.last);
+  const CharacterPalette& palette = kPalettes.at(settings.palette);
+  ascii.PaletteFirst = palette.first;
+  ascii.PaletteLast = palette.last;
   ascii.CharBrightness.fill(0);
   ascii.GrayToChar.fill(0);
   ascii.BrightnessMin = ascii.BrightnessMax = 0;
@@ -48,14 +48,14 @@ void MeasureCharacterSet(BasAscii& ascii, const Font& font, TextSurface& surface
   ascii.CellHeight = cell.height;
   std::fill_n(ascii.CharBrightness.begin(), kControlCodes, kNeverChosen);
 
-  const int first = static_cast<int>(ascii.PaletteFirst), last = static_cast<int>(ascii.PaletteLast);
+  const int first = Truncate(ascii.PaletteFirst), last = Truncate(ascii.PaletteLast);
   const std::vector<int> hits =
       CountColour(surface.PrintCharacters(font, cell, first, last), last - first + 1, ascii.CountedColour);
   // One column and one row outside the cell belong to the area, though none of their pixels can count.
-  const auto area = static_cast<float>((cell.width + 1) * (cell.height + 1));
+  const float area = (cell.width + 1) * (cell.height + 1);
   for (int code = first; code <= last; ++code) {
-    const float b = static_cast<float>(hits[static_cast<std::size_t>(code - first)]) / area * 255.0F;
-    ascii.CharBrightness[static_cast<std::size_t>(code)] = b;
+    const float b = hits[code - first] / area * 255.0F;
+    ascii.CharBrightness[code] = b;
     ascii.BrightnessMax = std::max(ascii.BrightnessMax, b);
     ascii.BrightnessMin = std::min(ascii.BrightnessMin, b);
   }
@@ -64,17 +64,17 @@ void MeasureCharacterSet(BasAscii& ascii, const Font& font, TextSurface& surface
 void BuildGrayLookup(BasAscii& ascii) {
   const double low = ascii.BrightnessMin, high = ascii.BrightnessMax;
   for (int g = 0; g < 256; ++g) {
-    const auto target = static_cast<float>(g / 255.0 * (high - low) + low);
+    const float target = g / 255.0 * (high - low) + low;
     float best = 255.0F;
     std::int32_t code = 0;
     for (std::int32_t i = 0; i < 256; ++i) {
-      const float distance = std::fabs(ascii.CharBrightness[static_cast<std::size_t>(i)] - target);
+      const float distance = std::fabs(ascii.CharBrightness[i] - target);
       if (distance < best) {
         best = distance;
         code = i;
       }
     }
-    ascii.GrayToChar[static_cast<std::size_t>(g)] = code;
+    ascii.GrayToChar[g] = code;
   }
 }
 
@@ -85,9 +85,9 @@ void ComputeColumnCount(BasAscii& ascii, int size, int screenWidth) {
 
 Extent ResizedExtent(const BasAscii& ascii, Extent source, int method) {
   const int columns = method == kAntiAlias ? 3 * ascii.AsciiColumns : ascii.AsciiColumns;
-  const float perColumn = static_cast<float>(source.width) / static_cast<float>(columns);
-  const float cell = static_cast<float>(ascii.CellHeight) / static_cast<float>(ascii.CellWidth);
-  const float height = static_cast<float>(source.height) / perColumn / cell;
+  const float width = source.width, perColumn = width / columns;
+  const float cellHeight = ascii.CellHeight, cell = cellHeight / ascii.CellWidth;
+  const float height = source.height / perColumn / cell;
   return {columns, std::max(1, RoundHalfEven(height))};
 }
 
@@ -116,24 +116,18 @@ bool GenerateAscii(BasAscii& ascii, const AsciiSettings& settings, const Picture
 std::string ConvertGrayscale(const BasAscii& ascii, int luminosity, const Picture& resized) {
   // The character for every sum of the three parts, so that a pixel costs one addition and one look-up.
   std::array<char, 3 * 255 + 1> charOfSum{};
-  for (int sum = 0; sum < static_cast<int>(charOfSum.size()); ++sum) {
-    const int g = ClampByte(RoundHalfEven(sum / 3.0) + 2 * luminosity);
-    charOfSum[static_cast<std::size_t>(sum)] =
-        static_cast<char>(ascii.GrayToChar[static_cast<std::size_t>(g)]);
-  }
-  const char dark = static_cast<char>(ascii.GrayToChar[0]);
+  for (int sum = 0; sum <= 3 * 255; ++sum)
+    charOfSum[sum] = ascii.GrayToChar[ClampByte(RoundHalfEven(sum / 3.0) + 2 * luminosity)];
+  const char dark = ascii.GrayToChar[0];
 
-  const auto width = static_cast<std::size_t>(resized.Width());
+  const std::size_t width = resized.Width();
   std::string text;
-  text.reserve((width + 2) * static_cast<std::size_t>(resized.Height()));
+  text.reserve((width + 2) * resized.Height());
   std::string row(width, ' ');
   int dropped = 0;
   for (int y = 0; y < resized.Height(); ++y) {
     const auto pixels = resized.Row(y);
-    for (std::size_t x = 0; x < width; ++x) {
-      const std::uint32_t p = pixels[x];
-      row[x] = charOfSum[(p & 0xFF) + (p >> 8 & 0xFF) + (p >> 16 & 0xFF)];
-    }
+    for (std::size_t x = 0; x < width; ++x) row[x] = charOfSum[SumaRGB(pixels[x])];
     if (row.find_first_not_of(dark) == std::string::npos) {
       ++dropped;
       continue;

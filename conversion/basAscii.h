@@ -3,12 +3,10 @@
 
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 #include "conversion/Palette3x2.h"
 #include "platform/Picture.h"
-#include "platform/Rounding.h"
 #include "platform/TextSurface.h"
 
 namespace pixmosa {
@@ -49,12 +47,6 @@ struct BasAscii {
   pixmosa::Palette3x2 Palette3x2;              // loaded once at start-up
   std::string ProducedText;                    // 8-bit code page, rows separated by CR LF
 };
-
-// Plain average of the three parts, half to even; a pixel outside a picture (-1) is black.
-inline int PixelGray(Colour c) {
-  const int red = std::abs(c % 256), green = std::abs(c % 65536 / 256), blue = std::abs(c / 65536);
-  return RoundHalfEven((red + green + blue) / 3.0);
-}
 
 // Sets the palette range from settings.palette, clears the tables, measures and builds the lookup.
 void RebuildCharacterTables(BasAscii& ascii, const AsciiSettings& settings, TextSurface& surface);

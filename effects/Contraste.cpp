@@ -4,11 +4,12 @@
 #include "effects/Efectos.h"
 #include "effects/Grises.h"
 #include "platform/Clones.h"
-#include "platform/Rounding.h"
 
 namespace pixmosa {
 namespace {
 
+// 32 bits, as the table k has them. 16 would hold every sum, yet they measure no faster: the time goes into
+// collecting the pixels and not into the rounds.
 struct Componentes {
   std::int32_t b, g, r;
   bool EnRango() const { return ((b | g | r) & ~255) == 0; }
@@ -16,8 +17,7 @@ struct Componentes {
 
 // Limits c to 0..255 and adds half of what was cut off to the other two.
 inline void Repartir(std::int32_t& c, std::int32_t& one, std::int32_t& other) {
-  const std::int32_t limited = c < 0 ? 0 : c > 255 ? 255 : c;
-  const std::int32_t cut = c - limited, half = (cut + (cut < 0 ? 1 : 0)) >> 1;
+  const std::int32_t limited = ClampByte(c), half = (c - limited) / 2;
   c = limited;
   one += half;
   other += half;
@@ -25,17 +25,17 @@ inline void Repartir(std::int32_t& c, std::int32_t& one, std::int32_t& other) {
 
 // One round. What lies in range is left alone by it, so a round too many does no harm.
 inline Componentes Ronda(Componentes c) {
-  const std::int32_t black = -static_cast<std::int32_t>((c.b < 1) & (c.g < 1) & (c.r < 1)),
-                     white = -static_cast<std::int32_t>((c.b > 254) & (c.g > 254) & (c.r > 254));
+  const bool black = (c.b < 1) & (c.g < 1) & (c.r < 1), white = (c.b > 254) & (c.g > 254) & (c.r > 254);
   Repartir(c.b, c.r, c.g);
   Repartir(c.g, c.r, c.b);
   Repartir(c.r, c.g, c.b);
-  const std::int32_t keep = ~(black | white), fill = white & 255;
+  // By masks and not by branches, so that a vector takes the three ways at once.
+  const std::int32_t keep = -std::int32_t{!(black | white)}, fill = -std::int32_t{white} & 255;
   return {(c.b & keep) | fill, (c.g & keep) | fill, (c.r & keep) | fill};
 }
 
 constexpr std::uint32_t Unidos(std::uint32_t p, const Componentes& c) {
-  return (p & 0xFF000000U) | static_cast<std::uint32_t>((c.b & 255) | (c.g & 255) << 8 | (c.r & 255) << 16);
+  return ConCuarto(p, Unir(c.b & 255, c.g & 255, c.r & 255));
 }
 
 // The pixels of a row that still lie out of range, by components so that whole vectors take a round together.
@@ -51,7 +51,7 @@ class Pendientes {
     b_[n_] = c.b;
     g_[n_] = c.g;
     r_[n_] = c.r;
-    x_[n_] = static_cast<std::uint32_t>(x);
+    x_[n_] = x;
     n_ += c.EnRango() ? 0 : 1;
   }
 
@@ -91,18 +91,18 @@ void Pendientes::DarRonda(std::uint32_t* d) {
 
 void Contraste(PixelBuffers& b, std::int32_t a) {
   const std::int32_t mean = MediaDeGrises(b);
-  const auto f = static_cast<float>((std::clamp(a, -100, 100) + 100) / 100.0);
+  const float f = (std::clamp(a, -100, 100) + 100) / 100.0;
   std::array<std::int32_t, 256> k{};
-  for (int i = 0; i < 256; ++i) k[static_cast<std::size_t>(i)] = RoundHalfEven((i - mean) * double{f} + mean);
+  for (int i = 0; i < 256; ++i) k[i] = RoundHalfEven((i - mean) * double{f} + mean);
   Pendientes pending(b.Columnas());
   b.Avance(5);
   const Tramo bar{5, 95};
   RecorrerFilas(
       b,
-      [&](const std::uint32_t* s, std::uint32_t* d, int) {
+      [&](const std::uint32_t* s, std::uint32_t* d, auto) {
         for (std::size_t x = 0; x < b.Columnas(); ++x) {
           const std::uint32_t p = s[x];
-          const Componentes c{k[p & 0xFF], k[p >> 8 & 0xFF], k[p >> 16 & 0xFF]};
+          const Componentes c{k[Azul(p)], k[Verde(p)], k[Rojo(p)]};
           d[x] = Unidos(p, c);
           pending.Poner(x, c);
         }

@@ -25,8 +25,8 @@ int Ultima(int size) {
   return RoundHalfEven(size / 2.0 - 1);
 }
 
-std::size_t En(const Picture& p, int x, int y) {
-  return static_cast<std::size_t>(y) * static_cast<std::size_t>(p.Width()) + static_cast<std::size_t>(x);
+std::ptrdiff_t En(const Picture& p, std::ptrdiff_t x, std::ptrdiff_t y) {
+  return y * p.Width() + x;
 }
 
 // copy(near, far) for each pair of rows or columns that mirror each other.

@@ -16,13 +16,14 @@ std::uint32_t SumaDeGrises(const std::uint32_t* row, std::size_t n) {
 
 PIXMOSA_CLONES
 void FilaDeGrises(const std::uint32_t* row, std::uint8_t* grays, std::size_t n) {
-  for (std::size_t x = 0; x < n; ++x) grays[x] = static_cast<std::uint8_t>(Tercio(SumaRGB(row[x])));
+  for (std::size_t x = 0; x < n; ++x) grays[x] = Tercio(SumaRGB(row[x]));
 }
 
 std::int32_t MediaDeGrises(const PixelBuffers& b) {
   std::uint64_t sum = 0;
-  for (int y = 1; y <= b.H; ++y) sum += SumaDeGrises(b.Fuente(y), b.Columnas());
-  return static_cast<std::int32_t>(sum / (static_cast<std::uint64_t>(b.W) * static_cast<std::uint64_t>(b.H)));
+  for (std::ptrdiff_t y = 1; y <= b.H; ++y) sum += SumaDeGrises(b.Origen(y), b.Columnas());
+  const std::uint64_t pixels = b.W * b.H;
+  return sum / pixels;
 }
 
 }  // namespace pixmosa

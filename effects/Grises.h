@@ -5,22 +5,16 @@
 #include <cstdint>
 
 #include "effects/PixelBuffers.h"
+#include "platform/Pixel.h"
 
 namespace pixmosa {
 
-// s \ 3 for s = 0..765, without a division.
-constexpr std::uint32_t Tercio(std::uint32_t s) {
-  return s * 21846U >> 16;
+// s \ 3 for a sum of three parts: multiplied by a third of 2^16 rounded up, for want of a division of
+// vectors.
+constexpr std::int32_t Tercio(std::int32_t s) {
+  return s * 21846 >> 16;
 }
-
-constexpr std::uint32_t SumaRGB(std::uint32_t p) {
-  return (p & 0xFF) + (p >> 8 & 0xFF) + (p >> 16 & 0xFF);
-}
-
-// A gray level in the place of a pixel's three components.
-constexpr std::uint32_t ConGris(std::uint32_t p, std::uint32_t gray) {
-  return (p & 0xFF000000U) | gray * 0x010101U;
-}
+static_assert(ParaTodos(0, 3 * 255, [](int s) { return Tercio(s) == s / 3; }));
 
 // The gray levels of n pixels.
 void FilaDeGrises(const std::uint32_t* row, std::uint8_t* grays, std::size_t n);

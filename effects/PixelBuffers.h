@@ -15,16 +15,16 @@ namespace pixmosa {
 // every pixel of DestPixels, which holds nothing yet when it starts, and copies the fourth bytes. A worker
 // that works "in place" reads what it has already replaced from DestPixels and the rest from SourcePixels.
 struct PixelBuffers {
-  int W, H;
+  std::ptrdiff_t W, H;
   const std::uint32_t* SourcePixels;
   std::uint32_t* DestPixels;
   Progress& prgBar;
   std::int32_t& ProgressPercent;
   Random& random;
 
-  const std::uint32_t* Fuente(int y) const { return SourcePixels + Desde(y); }
-  std::uint32_t* Destino(int y) const { return DestPixels + Desde(y); }
-  std::size_t Columnas() const { return static_cast<std::size_t>(W); }
+  const std::uint32_t* Origen(std::ptrdiff_t y) const { return SourcePixels + (y - 1) * W; }
+  std::uint32_t* Destino(std::ptrdiff_t y) const { return DestPixels + (y - 1) * W; }
+  std::size_t Columnas() const { return W; }
   std::size_t Bytes() const { return 4 * Columnas(); }
 
   // Shows a percentage and lets the window live.
@@ -35,23 +35,21 @@ struct PixelBuffers {
   }
 
   // Row y as it was.
-  void CopiarFila(int y) const { std::copy_n(Fuente(y), Columnas(), Destino(y)); }
-
- private:
-  std::size_t Desde(int y) const { return static_cast<std::size_t>(y - 1) * Columnas(); }
+  void CopiarFila(std::ptrdiff_t y) const { std::copy_n(Origen(y), Columnas(), Destino(y)); }
 };
 
 // The bar's way: from + (span x y) \ H after row y.
 struct Tramo {
   int desde = 0, ancho = 100;
+  int Tras(std::ptrdiff_t y, std::ptrdiff_t H) const { return desde + ancho * y / H; }
 };
 
 // Every row through fila(source row, destination row, y).
 template <typename Fila>
 void RecorrerFilas(PixelBuffers& b, Fila fila, Tramo bar = {}) {
-  for (int y = 1; y <= b.H; ++y) {
-    fila(b.Fuente(y), b.Destino(y), y);
-    b.Avance(bar.desde + static_cast<int>(std::int64_t{bar.ancho} * y / b.H));
+  for (std::ptrdiff_t y = 1; y <= b.H; ++y) {
+    fila(b.Origen(y), b.Destino(y), y);
+    b.Avance(bar.Tras(y, b.H));
   }
   b.Avance(100);
 }
@@ -61,16 +59,15 @@ void RecorrerFilas(PixelBuffers& b, Fila fila, Tramo bar = {}) {
 template <typename Fila>
 void RecorrerInterior(PixelBuffers& b, int margin, Fila fila) {
   const bool thin = b.W <= 2 * margin || b.H <= 2 * margin;
-  const auto edge = static_cast<std::size_t>(margin);
-  for (int y = 1; y <= (thin ? b.H : margin); ++y) b.CopiarFila(y);
+  for (std::ptrdiff_t y = 1; y <= (thin ? b.H : margin); ++y) b.CopiarFila(y);
   if (!thin) {
-    for (int y = margin + 1; y <= b.H - margin; ++y) {
-      std::copy_n(b.Fuente(y), edge, b.Destino(y));
+    for (std::ptrdiff_t y = margin + 1; y <= b.H - margin; ++y) {
+      std::copy_n(b.Origen(y), margin, b.Destino(y));
       fila(y);
-      std::copy_n(b.Fuente(y) + b.Columnas() - edge, edge, b.Destino(y) + b.Columnas() - edge);
-      b.Avance(static_cast<int>(std::int64_t{100} * y / b.H));
+      std::copy_n(b.Origen(y) + b.W - margin, margin, b.Destino(y) + b.W - margin);
+      b.Avance(Tramo{}.Tras(y, b.H));
     }
-    for (int y = b.H - margin + 1; y <= b.H; ++y) b.CopiarFila(y);
+    for (std::ptrdiff_t y = b.H - margin + 1; y <= b.H; ++y) b.CopiarFila(y);
   }
   b.Avance(100);
 }

@@ -69,20 +69,7 @@ void FilaMinima(const Octeto* __restrict v, Octeto* __restrict d, std::size_t n)
 PIXMOSA_CLONES
 void FilaSobreElMinimo(const Octeto* __restrict v, const Octeto* __restrict s, Octeto* __restrict d,
                        std::size_t n) {
-  for (std::size_t i = 0; i < n; ++i)
-    d[i] = static_cast<Octeto>(s[i + 4] - Menor(Menor(v[i], v[i + 4]), v[i + 8]));
-}
-
-// The interior by kernel(up, same, down, destination, n); every row has n + 8 bytes, starting one pixel to
-// the left.
-template <typename Nucleo>
-void Interior(PixelBuffers& b, Nucleo kernel) {
-  RecorrerInterior(b, 1, [&](int y) {
-    const std::size_t n = b.Columnas() - 2;
-    kernel(Octetos(b.Fuente(y - 1)), Octetos(b.Fuente(y)), Octetos(b.Fuente(y + 1)),
-           Octetos(b.Destino(y) + 1), 4 * n);
-    RestaurarCuarto(b.Fuente(y) + 1, b.Destino(y) + 1, n);
-  });
+  for (std::size_t i = 0; i < n; ++i) d[i] = s[i + 4] - Menor(Menor(v[i], v[i + 4]), v[i + 8]);
 }
 
 }  // namespace

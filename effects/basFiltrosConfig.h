@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -12,28 +11,30 @@ namespace pixmosa {
 
 inline constexpr int kEfectos = 32;
 
-// What the argument of an effect is, which decides what the command line may give.
-enum class Argumento { Ninguno, Entero, Color };
+// What the argument of an effect is.
+enum class Argumento {
+  Ninguno,
+  Entero,
+  Exigido,  // a number that has to be given: what the menu passes is never used
+  Color,
+  Gris  // a gray level of the slider or the command line; the worker gets the colour RGB(v, v, v)
+};
 
 struct EffectConfig {
   const char* Name;     // shown nowhere
   const char* control;  // the menu entry; "" where no menu reaches the effect
   const char* caption;
   Argumento argumento;
-  std::int32_t menu;          // the argument that the menu passes
-  bool Configurable;          // the menu opens the dialog
-  std::int32_t Min, Max;      // of the dialog's slider
-  std::int32_t menor, mayor;  // of the values that the command line takes
+  std::int32_t menu;      // the argument that the menu passes
+  bool Configurable;      // the menu opens the dialog
+  std::int32_t Min, Max;  // of the values that the dialog's slider and the command line give
   Worker worker;
 };
-
-// The records of effects 1..32, in this order.
-std::span<const EffectConfig> TablaDeEfectos();
 
 // The record of an effect, or null for a number outside 1..32.
 const EffectConfig* Efecto(int effect);
 
-// The argument for a slider value v: RGB(v, v, v) for effect 18, v for the others.
+// The worker's argument for a value of the slider or the command line.
 std::int32_t ArgumentoDelDeslizador(int effect, std::int32_t value);
 
 // A caption in lower case without accents, blanks as hyphens; UTF-8.

@@ -21,25 +21,26 @@ char32_t UnicodeOfByte(unsigned char code) {
 }
 
 std::optional<unsigned char> ByteOfUnicode(char32_t c) {
-  if (c < 128 || (c >= 160 && c < 256)) return static_cast<unsigned char>(c);
+  if (c < 128 || (c >= 160 && c < 256)) return c;
   const auto at = std::find(kUpper.begin(), kUpper.end(), c);
   if (at == kUpper.end()) return std::nullopt;
-  return static_cast<unsigned char>(128 + (at - kUpper.begin()));
+  return 128 + (at - kUpper.begin());
 }
 
 void AppendUtf8(std::string& to, char32_t c) {
-  const auto tail = [&](int shift) { to += static_cast<char>(0x80 | (c >> shift & 0x3F)); };
+  const auto put = [&](char byte) { to += byte; };
+  const auto tail = [&](int shift) { put(0x80 | (c >> shift & 0x3F)); };
   if (c < 0x80) {
-    to += static_cast<char>(c);
+    put(c);
   } else if (c < 0x800) {
-    to += static_cast<char>(0xC0 | c >> 6);
+    put(0xC0 | c >> 6);
     tail(0);
   } else if (c < 0x10000) {
-    to += static_cast<char>(0xE0 | c >> 12);
+    put(0xE0 | c >> 12);
     tail(6);
     tail(0);
   } else {
-    to += static_cast<char>(0xF0 | c >> 18);
+    put(0xF0 | c >> 18);
     tail(12);
     tail(6);
     tail(0);
@@ -47,7 +48,7 @@ void AppendUtf8(std::string& to, char32_t c) {
 }
 
 char32_t NextUtf8(std::string_view& utf8) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
+  const auto byte = [&](std::size_t i) -> unsigned char { return utf8[i]; };
   const unsigned char b = byte(0);
   const std::size_t n = b < 0x80                ? 1
                         : b >= 0xC2 && b < 0xE0 ? 2
@@ -75,25 +76,25 @@ char32_t NextUtf8(std::string_view& utf8) {
 std::string Utf8OfBytes(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size() + bytes.size() / 4);
-  for (const char c : bytes) AppendUtf8(text, UnicodeOfByte(static_cast<unsigned char>(c)));
+  for (const char c : bytes) AppendUtf8(text, UnicodeOfByte(c));
   return text;
 }
 
 std::string BytesOfUtf8(std::string_view utf8) {
   std::string bytes;
   bytes.reserve(utf8.size());
-  while (!utf8.empty()) bytes += static_cast<char>(ByteOfUnicode(NextUtf8(utf8)).value_or('?'));
+  while (!utf8.empty()) bytes.push_back(ByteOfUnicode(NextUtf8(utf8)).value_or('?'));
   return bytes;
 }
 
 std::string LowerCase(std::string_view bytes) {
   std::string lower(bytes);
   for (char& c : lower) {
-    const auto b = static_cast<unsigned char>(c);
+    const unsigned char b = c;
     const bool plain = b >= 'A' && b <= 'Z', accented = b >= 0xC0 && b <= 0xDE && b != 0xD7;
-    if (plain || accented) c = static_cast<char>(b + 0x20);
-    if (b == 0x8A || b == 0x8C || b == 0x8E) c = static_cast<char>(b + 0x10);
-    if (b == 0x9F) c = static_cast<char>(0xFF);
+    if (plain || accented) c = b + 0x20;
+    if (b == 0x8A || b == 0x8C || b == 0x8E) c = b + 0x10;
+    if (b == 0x9F) c = '\xFF';
   }
   return lower;
 }

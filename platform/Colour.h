@@ -26,12 +26,12 @@ constexpr ColourParts SplitColour(Colour c) {
 
 // A stored pixel (bytes blue, green, red, fourth; little endian) as a colour number.
 constexpr Colour ColourOfPixel(std::uint32_t p) {
-  return static_cast<Colour>((p >> 16 & 0xFF) | (p & 0xFF00) | (p & 0xFF) << 16);
+  return (p >> 16 & 0xFF) | (p & 0xFF00) | (p & 0xFF) << 16;
 }
 
 // A colour number as a stored pixel with an opaque fourth byte.
 constexpr std::uint32_t PixelOfColour(Colour c) {
-  const auto u = static_cast<std::uint32_t>(c);
+  const std::uint32_t u = c;
   return 0xFF000000U | (u & 0xFF) << 16 | (u & 0xFF00) | (u >> 16 & 0xFF);
 }
 

@@ -1,4 +1,6 @@
-// A picture: width, height and a shared block of 32-bit pixels. Copying one copies a pointer.
+// A picture: width, height and a shared block of 32-bit pixels. Copying one copies a pointer. Sizes and
+// places are plain numbers, as windows count them, and become offsets (std::ptrdiff_t) and counts
+// (std::size_t) here.
 #pragma once
 
 #include <cstddef>
@@ -35,13 +37,13 @@ class Picture {
   Extent Size() const { return {width_, height_}; }
   bool IsEmpty() const { return !block_; }
   std::size_t PixelCount() const {
-    return static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_);
+    const std::size_t width = width_;
+    return width * height_;
   }
 
   const std::uint32_t* Pixels() const { return block_.get(); }
-  std::span<const std::uint32_t> Row(int y) const {
-    return {block_.get() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width_),
-            static_cast<std::size_t>(width_)};
+  std::span<const std::uint32_t> Row(std::ptrdiff_t y) const {
+    return std::span(Pixels() + y * width_, width_);
   }
 
   // The pixels for writing; a shared block is copied first.
@@ -50,10 +52,8 @@ class Picture {
   // The colour at (x, y), or kNoColour outside the picture.
   Colour ColourAt(int x, int y) const {
     if (x < 0 || y < 0 || x >= width_ || y >= height_) return kNoColour;
-    return ColourOfPixel(Row(y)[static_cast<std::size_t>(x)]);
+    return ColourOfPixel(Row(y)[x]);
   }
-
-  bool SharesBlockWith(const Picture& other) const { return block_ == other.block_; }
 
   // Nobody else holds the block.
   bool EsUnica() const { return block_.use_count() == 1; }

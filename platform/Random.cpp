@@ -14,7 +14,7 @@ void Random::Seed(std::uint64_t seed) {
     std::uint64_t z = seed;
     z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9U;
     z = (z ^ (z >> 27)) * 0x94D049BB133111EBU;
-    s = static_cast<std::uint32_t>((z ^ (z >> 31)) >> 32);
+    s = (z ^ (z >> 31)) >> 32;
   }
 }
 

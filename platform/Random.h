@@ -30,7 +30,7 @@ class Random {
   }
 
   // Uniform in [0, 1), a multiple of 2^-24.
-  float Next() { return static_cast<float>(Bits() >> 8) * 0x1p-24F; }
+  float Next() { return (Bits() >> 8) * 0x1p-24F; }
 
  private:
   std::array<std::uint32_t, 4> s_{};

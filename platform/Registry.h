@@ -1,4 +1,5 @@
-// The system's registry of settings as the program uses it, and the three operations on it.
+// The settings that the system keeps for the current user, as the program uses them, and the three operations
+// on them.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +10,6 @@
 
 namespace pixmosa {
 
-enum class RegistryHive { CurrentUser };
 enum class RegistryType { Text, Number, Binary, Other };
 
 struct RegistryValue {
@@ -21,26 +21,22 @@ class Registry {
  public:
   virtual ~Registry() = default;
   // Nothing where the key or the value is missing.
-  virtual std::optional<RegistryValue> Query(RegistryHive hive, const std::string& key,
-                                             const std::string& name) = 0;
+  virtual std::optional<RegistryValue> Query(const std::string& key, const std::string& name) = 0;
   // Creates the key where it is missing. A failure is not reported.
-  virtual void Set(RegistryHive hive, const std::string& key, const std::string& name,
-                   const RegistryValue& value) = 0;
+  virtual void Set(const std::string& key, const std::string& name, const RegistryValue& value) = 0;
 };
 
 // --- BasRegistro ---
 
 // The number, or 0 for a missing value or one of another type.
-std::uint32_t ReadNumber(Registry& registry, RegistryHive hive, const std::string& key,
-                         const std::string& name);
+std::uint32_t ReadNumber(Registry& registry, const std::string& key, const std::string& name);
 
 // A text up to its first NUL (nothing without one), a binary value of up to 4 bytes as a little-endian
 // number, nothing for anything else.
-std::variant<std::monostate, std::string, std::int32_t> ReadValue(Registry& registry, RegistryHive hive,
-                                                                  const std::string& key,
+std::variant<std::monostate, std::string, std::int32_t> ReadValue(Registry& registry, const std::string& key,
                                                                   const std::string& name);
 
-void WriteBinary(Registry& registry, RegistryHive hive, const std::string& key, const std::string& name,
+void WriteBinary(Registry& registry, const std::string& key, const std::string& name,
                  std::span<const std::uint8_t> bytes);
 
 }  // namespace pixmosa

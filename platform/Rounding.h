@@ -1,4 +1,4 @@
-// The four ways in which the program turns fractions into whole numbers. Nothing else converts a floating
+// The two ways in which the program turns fractions into whole numbers. Nothing else converts a floating
 // value.
 #pragma once
 
@@ -12,19 +12,18 @@ inline std::int32_t RoundHalfEven(double v) {
   return static_cast<std::int32_t>(std::lrint(v));
 }
 
-// Largest whole number not above v ("Int").
-inline std::int32_t Floor(double v) {
-  return static_cast<std::int32_t>(std::floor(v));
-}
-
 // v without its fraction, toward zero.
 inline std::int32_t Truncate(double v) {
   return static_cast<std::int32_t>(v);
 }
 
-// Limits v to the range of a byte.
-constexpr std::int32_t ClampByte(std::int32_t v) {
-  return v < 0 ? 0 : v > 255 ? 255 : v;
+// Whether holds(v) for every v = from..to: proof, when compiled, of a short cut that must agree with its
+// formula.
+template <typename Predicado>
+constexpr bool ParaTodos(int from, int to, Predicado holds) {
+  for (int v = from; v <= to; ++v)
+    if (!holds(v)) return false;
+  return true;
 }
 
 }  // namespace pixmosa

@@ -5,10 +5,10 @@
 namespace pixmosa {
 
 std::vector<int> StretchPositions(int source, int target) {
-  std::vector<int> at(static_cast<std::size_t>(target));
+  std::vector<int> at;
+  at.reserve(target);
   const std::int64_t s = source, t = target;
-  for (std::int64_t i = 0; i < t; ++i)
-    at[static_cast<std::size_t>(i)] = static_cast<int>((2 * i + 1) * s / (2 * t));
+  for (std::int64_t i = 0; i < t; ++i) at.push_back((2 * i + 1) * s / (2 * t));
   return at;
 }
 
@@ -20,7 +20,7 @@ Picture Stretch(const Picture& source, Extent size) {
   std::uint32_t* to = result.Writable();
   for (const int y : ys) {
     const auto row = source.Row(y);
-    for (const int x : xs) *to++ = row[static_cast<std::size_t>(x)];
+    for (const int x : xs) *to++ = row[x];
   }
   return result;
 }

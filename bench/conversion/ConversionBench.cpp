@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "conversion/basAscii.h"
+#include "platform/Pixel.h"
 #include "platform/Random.h"
 #include "platform/qt/QtTextSurface.h"
 #include "tests/support/GuiApplication.h"
@@ -20,8 +21,7 @@ const Picture& Photograph() {
     Random random(1);
     std::uint32_t* to = p.Writable();
     for (std::size_t i = 0; i < p.PixelCount(); ++i)
-      to[i] =
-          0xFF000000U | (static_cast<std::uint32_t>(i % 4000 / 16) * 0x10101U + (random.Bits() & 0x0F0F0F));
+      to[i] = Opaco(UnirGris(i % 4000 / 16) + (random.Bits() & 0x0F0F0F));
     return p;
   }();
   return photograph;
@@ -32,7 +32,7 @@ const Picture& Drawing() {
   static const Picture drawing = [] {
     Picture p = Photograph();
     std::uint32_t* to = p.Writable();
-    for (std::size_t i = 0; i < p.PixelCount(); ++i) to[i] = (to[i] & 0xFF) < 128 ? 0xFF000000U : 0xFFFFFFFFU;
+    for (std::size_t i = 0; i < p.PixelCount(); ++i) to[i] = Opaco(Azul(to[i]) < 128 ? 0 : kTresPartes);
     return p;
   }();
   return drawing;
@@ -62,8 +62,8 @@ void Generation(benchmark::State& state) {
   BasAscii ascii;
   RebuildCharacterTables(ascii, {}, surface);
   ascii.Palette3x2.Characters.fill('#');
-  ascii.AsciiColumns = static_cast<int>(state.range(0));
-  const auto method = static_cast<int>(state.range(1));
+  ascii.AsciiColumns = state.range(0);
+  const int method = state.range(1);
   const Picture& source = method == kGrayscale ? Photograph() : Drawing();
   for (auto _ : state) GenerateAscii(ascii, {}, source, method);
 }

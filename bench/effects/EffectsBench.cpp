@@ -7,6 +7,7 @@
 #include "effects/Giros.h"
 #include "effects/basFiltrosConfig.h"
 #include "effects/mFiltros.h"
+#include "platform/Pixel.h"
 
 using namespace pixmosa;
 
@@ -21,10 +22,8 @@ const Picture& Photograph() {
     for (int y = 0; y < p.Height(); ++y)
       for (int x = 0; x < p.Width(); ++x) {
         const std::uint32_t noise = random.Bits();
-        const auto level = [&](int wave, unsigned shift) {
-          return (static_cast<std::uint32_t>(wave) & 255U) * 15 / 16 + (noise >> shift & 15);
-        };
-        *to++ = 0xFF000000U | level(x / 16, 0) | level((x + y) / 27, 4) << 8 | level(y / 12, 8) << 16;
+        const auto level = [&](int wave, int shift) { return wave % 256 * 15 / 16 + (noise >> shift & 15); };
+        *to++ = Opaco(Unir(level(x / 16, 0), level((x + y) / 27, 4), level(y / 12, 8)));
       }
     return p;
   }();
@@ -67,7 +66,7 @@ void Turn(benchmark::State& state, const Giro& giro) {
   ms(benchmark::RegisterBenchmark("Memcpy", Memcpy));
   for (int n = 1; n <= kEfectos; ++n) {
     const EffectConfig& e = *Efecto(n);
-    const std::int32_t argument = n == 31 ? 50 : e.menu;
+    const std::int32_t argument = e.argumento == Argumento::Exigido ? 50 : e.menu;
     ms(benchmark::RegisterBenchmark((std::to_string(n) + " " + NombreDeOrden(e.caption)).c_str(), Dispatch, n,
                                     argument));
   }

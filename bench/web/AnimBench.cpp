@@ -72,7 +72,7 @@ void DecodingOfTheFrames(benchmark::State& state) {
   for (auto _ : state)
     for (std::size_t k = 0; k < frames.gif.Seleccionados.size(); ++k)
       benchmark::DoNotOptimize(frames.Read(k).Pixels());
-  state.counters["frames"] = static_cast<double>(frames.gif.Seleccionados.size());
+  state.counters["frames"] = frames.gif.Seleccionados.size();
 }
 BENCHMARK(DecodingOfTheFrames)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3);
 
@@ -89,7 +89,7 @@ void AnimationPage(benchmark::State& state) {
                       GenerateAscii(ascii, settings, frames.Read(k), kGrayscale);
                       return ascii.ProducedText;
                     });
-  state.counters["frames"] = static_cast<double>(frames.gif.Seleccionados.size());
+  state.counters["frames"] = frames.gif.Seleccionados.size();
 }
 BENCHMARK(AnimationPage)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3);
 

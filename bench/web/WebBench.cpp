@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "platform/AtomicFile.h"
+#include "platform/Pixel.h"
 #include "platform/PrivateFolder.h"
 #include "web/basGIF.h"
 #include "web/basWeb.h"
@@ -23,7 +24,7 @@ const Picture& Photograph() {
     Picture p(4000, 3000);
     Random random(1);
     std::uint32_t* to = p.Writable();
-    for (std::size_t i = 0; i < p.PixelCount(); ++i) to[i] = 0xFF000000U | (random.Bits() & 0xFFFFFF);
+    for (std::size_t i = 0; i < p.PixelCount(); ++i) to[i] = Opaco(random.Bits());
     return p;
   }();
   return photograph;
@@ -50,7 +51,7 @@ const fs::path& LargeGif() {
     for (int frame = 0; frame < 200; ++frame) {
       gif += "\x21\xF9\x04";
       for (int i = 0; i < 500'000; ++i) {
-        const char c = static_cast<char>(random.Bits() >> 24);
+        const char c = random.Bits() >> 24;
         gif += c == 0x21 ? ' ' : c;
       }
     }

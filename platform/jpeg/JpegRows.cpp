@@ -5,6 +5,7 @@
 #include <jpeglib.h>
 #include <vector>
 
+#include "platform/Pixel.h"
 #include "platform/Stretch.h"
 #include "platform/jpeg/Segmentos.h"
 
@@ -65,7 +66,7 @@ class Reader {
         if (jpeg_read_scanlines(&info_, &line, 1) != 1) return false;
         have = y;
       }
-      for (const int x : xs) *to++ = row_[static_cast<std::size_t>(x)] | 0xFF000000U;
+      for (const int x : xs) *to++ = Opaco(row_[x]);
     }
     return true;
   }

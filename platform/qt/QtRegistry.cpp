@@ -22,8 +22,7 @@ QtRegistry::QtRegistry()
 
 QtRegistry::QtRegistry(const QString& file) : settings_(file, QSettings::IniFormat) {}
 
-std::optional<RegistryValue> QtRegistry::Query(RegistryHive, const std::string& key,
-                                               const std::string& name) {
+std::optional<RegistryValue> QtRegistry::Query(const std::string& key, const std::string& name) {
   const QString written = settings_.value(PathOf(key, name)).toString();
   const qsizetype colon = written.indexOf(u':');
   if (colon < 0) return std::nullopt;
@@ -34,8 +33,7 @@ std::optional<RegistryValue> QtRegistry::Query(RegistryHive, const std::string& 
   return value;
 }
 
-void QtRegistry::Set(RegistryHive, const std::string& key, const std::string& name,
-                     const RegistryValue& value) {
+void QtRegistry::Set(const std::string& key, const std::string& name, const RegistryValue& value) {
   settings_.setValue(PathOf(key, name), QString(kTypes[static_cast<std::size_t>(value.type)]) + ":" +
                                             QByteArray::fromStdString(value.data).toHex());
   settings_.sync();

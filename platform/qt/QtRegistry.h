@@ -13,10 +13,8 @@ class QtRegistry final : public Registry {
   QtRegistry();
   explicit QtRegistry(const QString& file);
 
-  std::optional<RegistryValue> Query(RegistryHive hive, const std::string& key,
-                                     const std::string& name) override;
-  void Set(RegistryHive hive, const std::string& key, const std::string& name,
-           const RegistryValue& value) override;
+  std::optional<RegistryValue> Query(const std::string& key, const std::string& name) override;
+  void Set(const std::string& key, const std::string& name, const RegistryValue& value) override;
 
  private:
   QSettings settings_;

@@ -8,14 +8,6 @@ using namespace pixmosa;
 using test::Drawn;
 using test::Grays;
 
-TEST(PixelGray, PlainAverageHalfToEvenAndBlackOutside) {
-  EXPECT_EQ(PixelGray(Rgb(0, 0, 1)), 0);
-  EXPECT_EQ(PixelGray(Rgb(1, 0, 1)), 1);
-  EXPECT_EQ(PixelGray(Rgb(255, 255, 254)), 255);
-  EXPECT_EQ(PixelGray(Rgb(10, 20, 40)), 23);
-  EXPECT_EQ(PixelGray(kNoColour), 0);
-}
-
 class CharacterTables : public testing::Test {
  protected:
   BasAscii ascii;

@@ -3,49 +3,18 @@
 #include <functional>
 #include <gtest/gtest.h>
 
-#include "platform/Rounding.h"
-#include "tests/support/DrawnPicture.h"
-#include "tests/support/Effects.h"
+#include "tests/support/Noise.h"
 
 using namespace pixmosa;
 using test::Applied;
+using test::Plane;
+using test::Put;
+using test::S8;
+using test::Same;
 
 namespace {
 
-Picture Noise(int w, int h, std::uint64_t seed) {
-  Picture p(w, h);
-  Random random(seed);
-  // Runs of extremes between noise, so that clamping and ties occur.
-  for (std::size_t i = 0; i < p.PixelCount(); ++i) {
-    const std::uint32_t bits = random.Bits();
-    p.Writable()[i] = bits % 5 == 0 ? 0x11FFFFFFU : bits % 7 == 0 ? 0x22000000U : bits;
-  }
-  return p;
-}
-
-// One component plane with the formulas' coordinates from 1.
-struct Plane {
-  const Picture& p;
-  int shift;
-  int operator()(int x, int y) const {
-    return static_cast<int>(p.Row(y - 1)[static_cast<std::size_t>(x - 1)] >> shift & 0xFF);
-  }
-};
-
-void Put(Picture& p, int x, int y, int shift, int v) {
-  std::uint32_t& pixel = p.Writable()[static_cast<std::size_t>(y - 1) * static_cast<std::size_t>(p.Width()) +
-                                      static_cast<std::size_t>(x - 1)];
-  pixel = (pixel & ~(0xFFU << shift)) | static_cast<std::uint32_t>(ClampByte(v)) << shift;
-}
-
 using Formula = std::function<int(const Plane& c, int x, int y, int offset)>;
-
-int S8(const Plane& c, int x, int y) {
-  int sum = -c(x, y);
-  for (int j = -1; j <= 1; ++j)
-    for (int i = -1; i <= 1; ++i) sum += c(x + i, y + j);
-  return sum;
-}
 
 int Block(const Plane& c, int x, int y, int& spread) {
   int sum = 0;
@@ -139,10 +108,6 @@ Picture ByFormula(const Case& k, const Picture& source) {
   return result;
 }
 
-bool Same(const Picture& a, const Picture& b) {
-  return a.Size() == b.Size() && std::equal(a.Pixels(), a.Pixels() + a.PixelCount(), b.Pixels());
-}
-
 struct Weight {
   int dx, dy, w;
 };
@@ -155,47 +120,36 @@ const std::vector<Weight> kStucki = {{1, 0, 8}, {2, 0, 4},  {-2, 1, 2}, {-1, 1, 
 
 Picture Diffused(const Picture& s, const std::vector<Weight>& weights, int divisor, int a) {
   const int W = s.Width(), H = s.Height();
-  const auto gray = [&](int x, int y) {
-    return (Plane{s, 0}(x, y) + Plane{s, 8}(x, y) + Plane{s, 16}(x, y)) / 3;
-  };
-  long sum = 0;
-  for (int y = 1; y <= H; ++y)
-    for (int x = 1; x <= W; ++x) sum += gray(x, y);
-  const long mean = sum / (W * H);
-  std::vector<std::vector<int>> error(static_cast<std::size_t>(H + 1),
-                                      std::vector<int>(static_cast<std::size_t>(W + 1)));
+  const int mean = test::MeanGray(s);
+  std::vector<std::vector<int>> error(H + 1, std::vector<int>(W + 1));
   Picture result = s;
   for (int y = 1; y <= H; ++y)
     for (int x = 1; x <= W; ++x) {
-      const int v =
-          ClampByte(gray(x, y) + error[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] * 10 / a);
+      const int v = ClampByte(test::Gray(s, x, y) + error[y][x] * 10 / a);
       const int o = v < mean ? 0 : 255;
       for (const int shift : {0, 8, 16}) Put(result, x, y, shift, o);
       for (const Weight& n : weights)
         if (x + n.dx >= 1 && x + n.dx <= W && y + n.dy <= H)
-          error[static_cast<std::size_t>(y + n.dy)][static_cast<std::size_t>(x + n.dx)] +=
-              n.w * (v - o) / divisor;
+          error[y + n.dy][x + n.dx] += n.w * (v - o) / divisor;
     }
   return result;
 }
-
-constexpr Extent kSizes[] = {{1, 1}, {2, 3}, {3, 3}, {5, 5}, {6, 4}, {19, 7}, {37, 9}, {70, 6}};
 
 }  // namespace
 
 TEST(Formulas, NeighbourhoodWorkersKeepThemToTheBit) {
   for (const Case& k : kCases)
-    for (const Extent& size : kSizes) {
-      const Picture p = Noise(size.width, size.height, static_cast<std::uint64_t>(size.width));
+    for (const Extent& size : test::kSizes) {
+      const Picture p = test::Noise(size, size.width);
       EXPECT_TRUE(Same(Applied(k.effect, k.argument, p), ByFormula(k, p)))
           << "effect " << k.effect << " with " << k.argument << " on " << size.width << " x " << size.height;
     }
 }
 
 TEST(Formulas, ErrorDiffusionKeepsThemToTheBit) {
-  for (const Extent& size : kSizes)
+  for (const Extent& size : test::kSizes)
     for (const int a : {1, 15, 40}) {
-      const Picture p = Noise(size.width, size.height, 9);
+      const Picture p = test::Noise(size, 9);
       EXPECT_TRUE(Same(Applied(21, a, p), Diffused(p, kFloydSteinberg, 16, a))) << size.width << " a " << a;
       EXPECT_TRUE(Same(Applied(22, a, p), Diffused(p, kBurkes, 32, a))) << size.width << " a " << a;
       EXPECT_TRUE(Same(Applied(23, a, p), Diffused(p, kStucki, 42, a))) << size.width << " a " << a;
@@ -205,7 +159,7 @@ TEST(Formulas, ErrorDiffusionKeepsThemToTheBit) {
 // Draws in the order blue, green, red of each pixel from the top left.
 TEST(Formulas, NoiseAddsEachComponentsOwnDraw) {
   for (const int a : {1, 50, 100}) {
-    const Picture p = Noise(19, 3, 4);
+    const Picture p = test::Noise({19, 3}, 4);
     Picture expected = p;
     Random random(1);
     for (int y = 1; y <= 3; ++y)
@@ -219,7 +173,7 @@ TEST(Formulas, NoiseAddsEachComponentsOwnDraw) {
 
 TEST(Formulas, DiffuseMovesPixelsInPlace) {
   for (const int a : {1, 3, 6, 100}) {
-    const Picture p = Noise(23, 11, 5);
+    const Picture p = test::Noise({23, 11}, 5);
     Picture expected = p;
     Random random(1);
     const int half = RoundHalfEven(a / 2.0);
@@ -232,30 +186,5 @@ TEST(Formulas, DiffuseMovesPixelsInPlace) {
         for (const int shift : {0, 8, 16}) Put(expected, x, y, shift, Plane{expected, shift}(x + dx, y + dy));
       }
     EXPECT_TRUE(Same(Applied(4, a, p), expected)) << a;
-  }
-}
-
-// Every level of every table-driven colour formula, computed in double precision from the single factor.
-TEST(Formulas, ColourFormulasHoldForEveryLevelAndArgument) {
-  Picture p(256, 1);
-  for (std::uint32_t i = 0; i < 256; ++i) p.Writable()[i] = i | (255 - i) << 8 | (i * 7 & 0xFF) << 16;
-  for (int a = -100; a <= 100; ++a) {
-    const double f = double{static_cast<float>((a + 100) / 100.0)}, s = double{static_cast<float>(a / 100.0)};
-    const Picture bright = Applied(14, a, p), vivid = Applied(30, a, p);
-    for (int x = 1; x <= 256; ++x) {
-      const int gray = (Plane{p, 0}(x, 1) + Plane{p, 8}(x, 1) + Plane{p, 16}(x, 1)) / 3;
-      for (const int shift : {0, 8, 16}) {
-        const int c = Plane{p, shift}(x, 1);
-        ASSERT_EQ((Plane{bright, shift}(x, 1)), ClampByte(RoundHalfEven(c * f))) << a;
-        ASSERT_EQ((Plane{vivid, shift}(x, 1)), ClampByte(RoundHalfEven((c - gray) * s + c))) << a;
-      }
-    }
-  }
-  const Picture old = Applied(32, 0, p);
-  for (int x = 1; x <= 256; ++x) {
-    const int l = RoundHalfEven(Plane{p, 0}(x, 1) * 0.114) + RoundHalfEven(Plane{p, 8}(x, 1) * 0.587) +
-                  RoundHalfEven(Plane{p, 16}(x, 1) * 0.299);
-    ASSERT_EQ(old.ColourAt(x - 1, 0),
-              Rgb(std::min(l + 64, 255), std::min(l + 24, 255), std::min(l + 8, 255)));
   }
 }

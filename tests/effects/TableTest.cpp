@@ -37,7 +37,7 @@ TEST(EffectTable, StepNamesAreTheCaptionsInPlainLetters) {
   EXPECT_EQ(NombreDeOrden("Aumentar exposición"), "aumentar-exposicion");
   EXPECT_EQ(NombreDeOrden("Realzar más"), "realzar-mas");
   std::set<std::string> names;
-  for (const EffectConfig& e : TablaDeEfectos()) names.insert(NombreDeOrden(e.caption));
+  for (int n = 1; n <= kEfectos; ++n) names.insert(NombreDeOrden(Efecto(n)->caption));
   for (const Giro& g : Giros()) names.insert(g.orden);
   EXPECT_EQ(names.size(), 38U) << "no two steps have the same name";
 }

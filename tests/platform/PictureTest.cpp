@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/Picture.h"
+#include "platform/Pixel.h"
 #include "platform/Stretch.h"
 #include "tests/support/DrawnPicture.h"
 
@@ -16,12 +17,20 @@ TEST(Picture, ColourNumbersHaveRedInTheLowByte) {
     EXPECT_EQ(p.ColourAt(x, y), kNoColour);
 }
 
+TEST(Pixel, GrayIsThePlainAverageHalfToEvenAndBlackOutside) {
+  EXPECT_EQ(PixelGray(Rgb(0, 0, 1)), 0);
+  EXPECT_EQ(PixelGray(Rgb(1, 0, 1)), 1);
+  EXPECT_EQ(PixelGray(Rgb(255, 255, 254)), 255);
+  EXPECT_EQ(PixelGray(Rgb(10, 20, 40)), 23);
+  EXPECT_EQ(PixelGray(kNoColour), 0);
+}
+
 TEST(Picture, WritingLeavesCopiesAsTheyWere) {
   Picture a = Picture::Filled(3, 2, kWhite);
   Picture b = a;
-  EXPECT_TRUE(a.SharesBlockWith(b));
+  EXPECT_EQ(a.Pixels(), b.Pixels());
   b.Writable()[0] = 0xFF000000U;
-  EXPECT_FALSE(a.SharesBlockWith(b));
+  EXPECT_NE(a.Pixels(), b.Pixels());
   EXPECT_EQ(a.ColourAt(0, 0), kWhite);
   EXPECT_EQ(b.ColourAt(0, 0), kBlack);
   const std::uint32_t* own = b.Pixels();

@@ -7,9 +7,8 @@ using namespace pixmosa;
 
 TEST(BasRegistro, ReadsByType) {
   test::FakeRegistry registry;
-  const auto hive = RegistryHive::CurrentUser;
   const auto put = [&](RegistryType type, std::string data) {
-    registry.Set(hive, "k", "v", {type, std::move(data)});
+    registry.Set("k", "v", {type, std::move(data)});
   };
   using Value = std::variant<std::monostate, std::string, std::int32_t>;
   struct Row {
@@ -28,12 +27,12 @@ TEST(BasRegistro, ReadsByType) {
                        {RegistryType::Binary, "12345", 0, Value{}},
                        {RegistryType::Other, "1234", 0, Value{}}}) {
     put(r.type, r.data);
-    EXPECT_EQ(ReadNumber(registry, hive, "k", "v"), r.number);
-    EXPECT_EQ(ReadValue(registry, hive, "k", "v"), r.value) << r.data;
+    EXPECT_EQ(ReadNumber(registry, "k", "v"), r.number);
+    EXPECT_EQ(ReadValue(registry, "k", "v"), r.value) << r.data;
   }
-  EXPECT_EQ(ReadNumber(registry, hive, "k", "otro"), 0U);
-  EXPECT_EQ(ReadValue(registry, hive, "k", "otro"), Value{});
+  EXPECT_EQ(ReadNumber(registry, "k", "otro"), 0U);
+  EXPECT_EQ(ReadValue(registry, "k", "otro"), Value{});
   const std::uint8_t bytes[] = {4, 0, 0};
-  WriteBinary(registry, hive, "nueva", "v", bytes);
-  EXPECT_EQ(ReadValue(registry, hive, "nueva", "v"), Value{4});
+  WriteBinary(registry, "nueva", "v", bytes);
+  EXPECT_EQ(ReadValue(registry, "nueva", "v"), Value{4});
 }

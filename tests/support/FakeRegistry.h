@@ -13,12 +13,11 @@ class FakeRegistry final : public Registry {
  public:
   std::map<std::pair<std::string, std::string>, RegistryValue> values;
 
-  std::optional<RegistryValue> Query(RegistryHive, const std::string& key, const std::string& name) override {
+  std::optional<RegistryValue> Query(const std::string& key, const std::string& name) override {
     const auto at = values.find({key, name});
     return at == values.end() ? std::nullopt : std::optional(at->second);
   }
-  void Set(RegistryHive, const std::string& key, const std::string& name,
-           const RegistryValue& value) override {
+  void Set(const std::string& key, const std::string& name, const RegistryValue& value) override {
     values[{key, name}] = value;
   }
 };
