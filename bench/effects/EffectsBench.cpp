@@ -42,12 +42,11 @@ void Memcpy(benchmark::State& state) {
 // Each time from the loaded picture: the result always needs a block of its own.
 void Dispatch(benchmark::State& state, int effect, std::int32_t argument) {
   MFiltros m;
-  SinVentana window;
   NoProgress progress;
   for (auto _ : state) {
     ImagenDeTrabajo image;
     image.Cargar(Photograph());
-    ApplyEffect(m, image, window, effect, BitmapDe(image), argument, progress, false);
+    ApplyEffect(m, image, effect, image, argument, progress, false);
     benchmark::DoNotOptimize(image.picMain.Pixels());
   }
 }

@@ -66,7 +66,7 @@ TEST_F(ProgramaTest, LoadingIsWholeOrNothing) {
   p.basGif.carpeta = folder.Path();
   const auto load = [&](const char* name) { CargarImagen(p, folder.File(name)); };
   load("a.png");
-  EXPECT_TRUE(p.imagen.picMain.SharesBlockWith(p.imagen.picUndo));
+  EXPECT_EQ(p.imagen.picMain.Pixels(), p.imagen.picUndo.Pixels());
   EXPECT_FALSE(p.animArtDisponible);
   EscribirArchivo(folder.File("b.GIF"), test::Gif({0, 1, 2}));
   load("b.GIF");
