@@ -39,8 +39,8 @@ void FilaConBrillo(const std::uint8_t* __restrict s, std::uint8_t* __restrict d,
                    float factor) {
   constexpr float kRedondeo = 12582912.0F;
   for (std::size_t i = 0; i < n; ++i) {
-    const float v = s[i] * factor;
-    d[i] = static_cast<std::uint8_t>(std::bit_cast<std::uint32_t>((v > 255 ? 255 : v) + kRedondeo));
+    const auto whole = static_cast<std::uint16_t>(std::bit_cast<std::uint32_t>(s[i] * factor + kRedondeo));
+    d[i] = static_cast<std::uint8_t>(whole > 255 ? 255 : whole);
   }
 }
 
