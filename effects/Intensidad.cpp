@@ -1,5 +1,4 @@
 #include <array>
-#include <bit>
 #include <cmath>
 #include <vector>
 
@@ -33,14 +32,23 @@ void RecorrerPorTabla(PixelBuffers& b, const TablaDeBytes& table) {
   });
 }
 
-// min(255, round(c x factor)), half to even: adding 3 x 2^22 leaves the whole number in the lowest bits.
+// t \ 100 for every t that a byte x 0..200 percent limited to 255 and a half can give, in 16-bit lanes: whole
+// vectors of them pass in the time of one look-up.
+constexpr std::uint16_t kTope = 25599;
+constexpr std::uint16_t Centesima(std::uint16_t t) {
+  return static_cast<std::uint16_t>((t >> 2) * 20972U >> 16) >> 3;
+}
+static_assert(ParaTodos(0, kTope, [](int t) { return Centesima(t) == t / 100; }));
+
+// round(c x percent / 100), at most 255. `half` is 50, or 49 where a tie goes down; `even` is 1 where it goes
+// to the even number.
 PIXMOSA_CLONES
 void FilaConBrillo(const std::uint8_t* __restrict s, std::uint8_t* __restrict d, std::size_t n,
-                   float factor) {
-  constexpr float kRedondeo = 12582912.0F;
+                   std::uint16_t percent, std::uint16_t half, std::uint16_t even) {
   for (std::size_t i = 0; i < n; ++i) {
-    const auto whole = static_cast<std::uint16_t>(std::bit_cast<std::uint32_t>(s[i] * factor + kRedondeo));
-    d[i] = static_cast<std::uint8_t>(whole > 255 ? 255 : whole);
+    const std::uint16_t whole = s[i] * percent + half, t = whole > kTope ? kTope : whole;
+    const std::uint16_t q = Centesima(t);
+    d[i] = q - (even & q & (t == static_cast<std::uint16_t>(q * 100)));
   }
 }
 
@@ -48,13 +56,11 @@ void FilaConBrillo(const std::uint8_t* __restrict s, std::uint8_t* __restrict d,
 
 void Brillo(PixelBuffers& b, std::int32_t a) {
   const int percent = std::clamp(a, -100, 100) + 100;
-  float factor = percent / 100.0;
-  // Where the single-precision factor is not percent / 100, c x factor is no tie although c x percent / 100
-  // may be one. One step further away it is none in single precision either.
-  const double error = double{factor} * 100 - percent;
-  if (error != 0) factor = std::nextafter(factor, error > 0 ? 3.0F : -1.0F);
+  // A tie is decided by the factor's single precision: it lies above or below percent / 100, or is equal to
+  // it.
+  const double error = double{static_cast<float>(percent / 100.0)} * 100 - percent;
   RecorrerFilas(b, [&](const std::uint32_t* s, std::uint32_t* d, auto) {
-    FilaConBrillo(Octetos(s), Octetos(d), b.Bytes(), factor);
+    FilaConBrillo(Octetos(s), Octetos(d), b.Bytes(), percent, error < 0 ? 49 : 50, error == 0);
     RestaurarCuarto(s, d, b.Columnas());
   });
 }
