@@ -36,19 +36,18 @@ void RecorrerPorTabla(PixelBuffers& b, const TablaDeBytes& table) {
 // vectors of them pass in the time of one look-up.
 constexpr std::uint16_t kTope = 25599;
 constexpr std::uint16_t Centesima(std::uint16_t t) {
-  return static_cast<std::uint16_t>((t >> 2) * 20972U >> 16) >> 3;
+  const std::uint16_t quarter = t >> 2, high = quarter * 20972U >> 16;
+  return high >> 3;
 }
 static_assert(ParaTodos(0, kTope, [](int t) { return Centesima(t) == t / 100; }));
 
-// round(c x percent / 100), at most 255. `half` is 50, or 49 where a tie goes down; `even` is 1 where it goes
-// to the even number.
+// round(c x percent / 100), at most 255. `half` is 50, or 49 where a tie goes down.
 PIXMOSA_CLONES
 void FilaConBrillo(const std::uint8_t* __restrict s, std::uint8_t* __restrict d, std::size_t n,
-                   std::uint16_t percent, std::uint16_t half, std::uint16_t even) {
+                   std::uint16_t percent, std::uint16_t half) {
   for (std::size_t i = 0; i < n; ++i) {
-    const std::uint16_t whole = s[i] * percent + half, t = whole > kTope ? kTope : whole;
-    const std::uint16_t q = Centesima(t);
-    d[i] = q - (even & q & (t == static_cast<std::uint16_t>(q * 100)));
+    const std::uint16_t whole = s[i] * percent + half;
+    d[i] = Centesima(whole > kTope ? kTope : whole);
   }
 }
 
@@ -56,11 +55,15 @@ void FilaConBrillo(const std::uint8_t* __restrict s, std::uint8_t* __restrict d,
 
 void Brillo(PixelBuffers& b, std::int32_t a) {
   const int percent = std::clamp(a, -100, 100) + 100;
-  // A tie is decided by the factor's single precision: it lies above or below percent / 100, or is equal to
-  // it.
-  const double error = double{static_cast<float>(percent / 100.0)} * 100 - percent;
+  // A tie is decided by the factor's single precision: it lies above or below percent / 100; where it is
+  // equal to it, at the quarters, the tie goes to the even number.
+  const double factor{static_cast<float>(percent / 100.0)}, error = factor * 100 - percent;
+  if (error == 0) {
+    RecorrerPorTabla(b, Tabular([=](int c) { return c * factor; }));
+    return;
+  }
   RecorrerFilas(b, [&](const std::uint32_t* s, std::uint32_t* d, auto) {
-    FilaConBrillo(Octetos(s), Octetos(d), b.Bytes(), percent, error < 0 ? 49 : 50, error == 0);
+    FilaConBrillo(Octetos(s), Octetos(d), b.Bytes(), percent, error < 0 ? 49 : 50);
     RestaurarCuarto(s, d, b.Columnas());
   });
 }
