@@ -47,9 +47,7 @@ frmMain::frmMain(Programa& program, const Escritorio& desktop)
       desktop_(desktop),
       prgBar1_(named<QProgressBar>("prgBar1")),
       progreso_(prgBar1_),
-      regeneracion_(Con(desktop.dialogos, [this] {
-        if (HayImagen(p_)) Generar(caducadoPor_);
-      })) {
+      regeneracion_(Con(desktop.dialogos, [this] { Regenerar(); })) {
   setObjectName("frmMain");
   setWindowTitle("Pixmosa");
   setAcceptDrops(true);

@@ -82,7 +82,9 @@ class frmMain final : public QMainWindow {
 
   // --- frmMain_Generar.cpp ---
   void Play();
-  void Generar(int method);  // and shows the text; there is a picture
+  void Generar(int method);        // and shows the text; there is a picture
+  bool QuiereElTexto(int method);  // asks before one that is far too large
+  void Regenerar();
   void Caducar(int method);  // the text is made again once the waiting events are handled
   void ShowPreview();
   void MostrarImagen();
@@ -111,6 +113,7 @@ class frmMain final : public QMainWindow {
   void GenerarAnimArt(const Serie& frames);
   bool SeguirAnimacion(std::size_t k, std::size_t frames);
   void AbrirPagina(const std::string& file);
+  void TerminarPagina(const QString& done, const QString& cancelled, bool written, const std::string& file);
 
   // --- frmMain_Estado.cpp: the left part of the status bar, and what long work shows ---
   void Decir(const QString& text, const QString& link = {}, std::function<void()> follow = {});

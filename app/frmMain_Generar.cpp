@@ -19,7 +19,7 @@ void frmMain::Play() {
       if (desktop_.dialogos.Ask("Antes debe cargar una imagen\r\n¿Desea cargarla ahora?")) CargarImagen();
       break;
     case Trabajo::Texto:
-      Generar(MetodoDe(p_.modo));
+      if (const int method = MetodoDe(p_.modo); QuiereElTexto(method)) Generar(method);
       break;
     case Trabajo::AnimArt:
       AnimArtDeGif();
@@ -29,6 +29,25 @@ void frmMain::Play() {
       break;
     case Trabajo::Ninguno:
       break;
+  }
+}
+
+bool frmMain::QuiereElTexto(int method) {
+  const std::optional<Extent> huge = TextoEnorme(p_, method);
+  return !huge ||
+         desktop_.dialogos.Ask("El dibujo tendría " + std::to_string(huge->width) + " columnas y " +
+                               std::to_string(huge->height) +
+                               " filas: puede tardar mucho y no caber en la memoria.\r\n¿Desea generarlo?");
+}
+
+void frmMain::Regenerar() {
+  if (!HayImagen(p_) || caducadoPor_ < 0) return;
+  if (const std::optional<Extent> huge = TextoEnorme(p_, caducadoPor_)) {
+    Decir(QStringLiteral("El dibujo tendría %1 columnas y %2 filas: no se genera solo.")
+              .arg(huge->width)
+              .arg(huge->height));
+  } else {
+    Generar(caducadoPor_);
   }
 }
 

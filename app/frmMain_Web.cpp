@@ -9,6 +9,7 @@ namespace pixmosa {
 namespace {
 
 constexpr int kMilisegundosEntreTextos = 150;
+constexpr std::uint64_t kMegabytesSinPreguntar = 100;
 
 // A path as the dialog gave it, without blanks around it.
 std::string Recortada(const std::string& path) {
@@ -26,14 +27,37 @@ void frmMain::GenerarWebArt() {
   const std::string file = Recortada(
       desktop_.dialogos.SaveFile("Guardar el WebArt", "Archivo HTML|*.html", "html", NombreDeImagen(p_)));
   if (file.empty()) return;
-  progreso_.Show();
+  const std::uint64_t megabytes = MayorPagina(settings, p_.imagen.picMain) / 1'000'000;
+  if (megabytes > kMegabytesSinPreguntar &&
+      !desktop_.dialogos.Ask("La página puede ocupar hasta " + std::to_string(megabytes) +
+                             " MB, más de lo que abren muchos navegadores.\r\n¿Desea escribirla?"))
+    return;
+  bool written = false;
+  Ocupar(true);
   progreso_.Repintar();
-  const bool written = Intentar(
-      desktop_.dialogos, [&] { EscribirWebArt(p_.basWeb, settings, p_.imagen.picMain, file); },
+  Intentar(
+      desktop_.dialogos,
+      [&] {
+        written = EscribirWebArt(p_.basWeb, settings, p_.imagen.picMain, file, [this] {
+          progreso_.Yield();
+          return !cancelada_ && !cerrarDespues_;
+        });
+      },
       "Error al guardar");
-  progreso_.Hide();
-  if (written) NombrarArchivo("Página escrita", file);
-  if (written && p_.vistaPrevia) AbrirPagina(file);
+  TerminarPagina("Página escrita", "Página cancelada: no se ha escrito nada.", written, file);
+}
+
+void frmMain::TerminarPagina(const QString& done, const QString& cancelled, bool written,
+                             const std::string& file) {
+  const bool leave = cerrarDespues_, stopped = cancelada_;
+  Ocupar(false);
+  if (written) NombrarArchivo(done, file);
+  if (stopped) Decir(cancelled);
+  if (leave) {
+    close();
+  } else if (written && p_.vistaPrevia) {
+    AbrirPagina(file);
+  }
 }
 
 void frmMain::AbrirPagina(const std::string& file) {
@@ -79,15 +103,7 @@ void frmMain::GenerarAnimArt(const Serie& frames) {
         });
       },
       "Error al guardar");
-  const bool leave = cerrarDespues_, cancelled = cancelada_;
-  Ocupar(false);
-  if (written) NombrarArchivo("Animación escrita", file);
-  if (cancelled) Decir("Animación cancelada: no se ha escrito nada.");
-  if (leave) {
-    close();
-  } else if (written && p_.vistaPrevia) {
-    AbrirPagina(file);
-  }
+  TerminarPagina("Animación escrita", "Animación cancelada: no se ha escrito nada.", written, file);
 }
 
 bool frmMain::SeguirAnimacion(std::size_t k, std::size_t frames) {

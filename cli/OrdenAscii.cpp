@@ -17,22 +17,12 @@ int MetodoDe(const Argumentos& arguments) {
   return static_cast<int>(std::find(kMetodos.begin(), kMetodos.end(), name) - kMetodos.begin());
 }
 
-constexpr std::int64_t kMasCaracteres = 400'000'000;
-
-void Convertir(Consola& consola, Programa& p, const std::string& operand, int method) {
-  const auto bounded = [&](const std::function<Extent(Extent)>& size, Extent source) {
-    const Extent text = size(source);
-    if (std::int64_t{text.width} * text.height > kMasCaracteres)
-      throw ErrorDeTrabajo("El texto de \"" + operand + "\" sería demasiado grande: " +
-                           std::to_string(text.width) + " x " + std::to_string(text.height) + " caracteres.");
-    return text;
-  };
+void Convertir(Consola& consola, Programa& p, const std::string& operand, int method) try {
   GenerarDe(
-      p,
-      [&](const std::function<Extent(Extent)>& size) {
-        return consola.LeerImagenReducida(operand, [&](Extent source) { return bounded(size, source); });
-      },
+      p, [&](const std::function<Extent(Extent)>& size) { return consola.LeerImagenReducida(operand, size); },
       method);
+} catch (const TextoExcesivo& e) {
+  throw TextoExcesivo(e.columnas, e.filas, operand);
 }
 
 std::string Guardado(const Programa& p) {

@@ -83,11 +83,20 @@ void ComputeColumnCount(BasAscii& ascii, int size, int screenWidth) {
   ascii.AsciiColumns = std::max(1, RoundHalfEven(n / 100.0));
 }
 
+TextoExcesivo::TextoExcesivo(double columns, double rows, const std::string& name)
+    : ErrorDelPrograma("El texto " + (name.empty() ? "" : "de \"" + name + "\" ") +
+                       "sería demasiado grande: " + std::to_string(std::llrint(columns)) + " x " +
+                       std::to_string(std::llrint(rows)) + " caracteres."),
+      columnas(columns),
+      filas(rows) {}
+
 Extent ResizedExtent(const BasAscii& ascii, Extent source, int method) {
-  const int columns = method == kAntiAlias ? 3 * ascii.AsciiColumns : ascii.AsciiColumns;
+  const int across = method == kAntiAlias ? 3 : 1, columns = across * ascii.AsciiColumns;
   const float width = source.width, perColumn = width / columns;
   const float cellHeight = ascii.CellHeight, cell = cellHeight / ascii.CellWidth;
   const float height = source.height / perColumn / cell;
+  const double rows = height / across;
+  if (rows * ascii.AsciiColumns > kMasCaracteres) throw TextoExcesivo(ascii.AsciiColumns, rows);
   return {columns, std::max(1, RoundHalfEven(height))};
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "conversion/Palette3x2.h"
+#include "platform/Errores.h"
 #include "platform/Picture.h"
 #include "platform/TextSurface.h"
 
@@ -60,13 +61,26 @@ void BuildGrayLookup(BasAscii& ascii);
 // AsciiColumns from the size, the screen's width in pixels and CellWidth.
 void ComputeColumnCount(BasAscii& ascii, int size, int screenWidth);
 
-// Pixels of the scaled copy that a method converts: one for each character, 3 x 3 for kAntiAlias.
+// A text of more characters than the program makes; what() says how many columns and rows it would have.
+class TextoExcesivo : public ErrorDelPrograma {
+ public:
+  // `name`: the picture that it would be of; nothing for the picture at hand.
+  TextoExcesivo(double columns, double rows, const std::string& name = {});
+  double columnas, filas;
+};
+
+// The most characters of a text.
+inline constexpr double kMasCaracteres = 400e6;
+
+// Pixels of the scaled copy that a method converts: one for each character, 3 x 3 for kAntiAlias. Throws
+// TextoExcesivo.
 Extent ResizedExtent(const BasAscii& ascii, Extent source, int method);
 
 // Runs a method on `resized`, a picture of ResizedExtent. False for an unknown method, which leaves the text.
 bool ConvertResized(BasAscii& ascii, const AsciiSettings& settings, const Picture& resized, int method);
 
 // The driver: stretches `source` and converts it; ProducedText is replaced whole. `source` is not empty.
+// Throws TextoExcesivo, leaving the text.
 bool GenerateAscii(BasAscii& ascii, const AsciiSettings& settings, const Picture& source, int method);
 
 // One character a pixel. A row that is all gray-0 character is dropped and leaves a line break at the text's

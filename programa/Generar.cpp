@@ -23,6 +23,15 @@ int MetodoDe(Modo mode) {
   return mode <= kModoAntialias ? static_cast<int>(mode) : -1;
 }
 
+std::optional<Extent> TextoEnorme(const Programa& p, int method) {
+  constexpr int kMasFilas = 20'000;
+  constexpr std::int64_t kMasLetras = 20'000'000;
+  Extent text = ResizedExtent(p.basAscii, p.imagen.picMain.Size(), method);
+  if (method == kAntiAlias) text = {text.width / 3, text.height / 3};
+  if (text.height <= kMasFilas && std::int64_t{text.width} * text.height <= kMasLetras) return std::nullopt;
+  return text;
+}
+
 bool Generar(Programa& p, int method) {
   return GenerateAscii(p.basAscii, p.ajustes, p.imagen.picMain, method);
 }

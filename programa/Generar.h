@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "programa/Programa.h"
@@ -16,6 +17,10 @@ Trabajo QueGenerar(const Programa& p);
 
 // The conversion method of a mode, or nothing (-1) for the modes that make no text of a picture.
 int MetodoDe(Modo mode);
+
+// The columns and rows that the text would have, where they are far more than anybody reads; else nothing.
+// Throws TextoExcesivo.
+std::optional<Extent> TextoEnorme(const Programa& p, int method);
 
 // The produced text from the working picture, which is there. False for an unknown method, which leaves the
 // text. Throws TextoExcesivo.

@@ -98,6 +98,16 @@ class Celdas {
   Colour previous_ = 0;
 };
 
+// Pixels from one sample to the next.
+struct Pasos {
+  int across, down;
+};
+
+Pasos PasosDe(const WebSettings& s) {
+  const int across = 6 - s.tamaño;
+  return {across, s.exactCopy ? across : 2 * across};
+}
+
 // The sampled rows and columns, both ends included.
 struct Limites {
   int top, bottom, right, left;
@@ -144,23 +154,33 @@ void PrepararPaleta(BasWeb& web, const WebSettings& settings, Random& random) {
   }
 }
 
-void EscribirWebArt(BasWeb& web, const WebSettings& settings, const Picture& picture,
-                    const std::filesystem::path& file) {
-  const int across = 6 - settings.tamaño, down = settings.exactCopy ? across : 2 * across;
+std::uint64_t MayorPagina(const WebSettings& settings, const Picture& picture) {
+  constexpr std::uint64_t kPorCelda =
+      43;  // a tag closed, one opened with three parts of three digits, a character
+  const Pasos steps = PasosDe(settings);
+  const auto cells = [](int size, int step) { return static_cast<std::uint64_t>((size + step + 1) / step); };
+  return cells(picture.Width(), steps.across) * cells(picture.Height(), steps.down) * kPorCelda;
+}
+
+bool EscribirWebArt(BasWeb& web, const WebSettings& settings, const Picture& picture,
+                    const std::filesystem::path& file, const std::function<bool()>& seguir) {
+  const Pasos steps = PasosDe(settings);
   AtomicFile page(file);
   page.Write("<html>\r\n\r\n<head><body bgcolor=\"" + web.Fondo + "\">\r\n");
   page.Write(settings.exactCopy ? kCabezaExacta : kCabezaMosaico);
 
   const Limites limits = LeerBordes(settings, picture);
   Celdas cells(page);
-  for (int y = limits.top; y <= limits.bottom; y += down) {
-    for (int x = limits.left; x <= limits.right; x += across)
+  for (int y = limits.top; y <= limits.bottom; y += steps.down) {
+    for (int x = limits.left; x <= limits.right; x += steps.across)
       cells.Poner(picture.ColourAt(x, y), settings.exactCopy ? '0' : Siguiente(web));
     cells.FinDeFila();
+    if (seguir && !seguir()) return false;
   }
   cells.Terminar();
   page.Write(kPie);
   page.Commit();
+  return true;
 }
 
 }  // namespace pixmosa

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 
 #include "platform/Picture.h"
@@ -41,8 +42,12 @@ std::string TextoDeFondo(Colour c);
 // The palette as the settings ask for it. The binary one takes 200 random digits.
 void PrepararPaleta(BasWeb& web, const WebSettings& settings, Random& random);
 
-// Writes the page, whole or not at all, after PrepararPaleta. Throws FileError.
-void EscribirWebArt(BasWeb& web, const WebSettings& settings, const Picture& picture,
-                    const std::filesystem::path& file);
+// The bytes that the page may have at most.
+std::uint64_t MayorPagina(const WebSettings& settings, const Picture& picture);
+
+// Writes the page, whole or not at all, after PrepararPaleta. `seguir` is called after each row; where it
+// says no, nothing is written and the answer is false. Throws FileError.
+bool EscribirWebArt(BasWeb& web, const WebSettings& settings, const Picture& picture,
+                    const std::filesystem::path& file, const std::function<bool()>& seguir = {});
 
 }  // namespace pixmosa

@@ -52,6 +52,7 @@ class MainWindowTest : public QObject {
   void SavesTheEditedTextAndCopiesTheGenerated();
   void SaveSaysWhatIsWrong();
   void WhatHasNothingToWorkOnIsOff();
+  void AsksBeforeATextThatNobodyReads();
   void ReplacedHandEditsComeBack();
   void WideTextAlwaysScrolls();
   void EveryCodeGoesThroughTheTextArea();
@@ -196,6 +197,20 @@ void MainWindowTest::SaveSaysWhatIsWrong() {
   QCOMPARE(m.dialogs.log.back(), "SaveFile|Guardar el AsciiArt...|*.txt|txt");
 }
 
+void MainWindowTest::AsksBeforeATextThatNobodyReads() {
+  test::MainWindow m;
+  m.Load(Picture::Filled(1, 2000, kBlack));
+  m.dialogs.log.clear();
+  m.Trigger("Play");
+  QVERIFY(m.dialogs.log.size() == 1 && m.dialogs.log[0].starts_with("Ask||El dibujo tendría "));
+  Find<QSlider>(m.window, "sldLuminosidad").setValue(5);
+  QTest::qWait(1);
+  QVERIFY(m.Text().empty() && LabelText(m.window, "lblEnlace").contains("no se genera solo"));
+  m.Load(Picture::Filled(1, 1'000'000, kBlack));
+  m.Trigger("Play");
+  QVERIFY(m.dialogs.log.back().starts_with("Fail||El texto sería demasiado grande: "));
+}
+
 void MainWindowTest::WhatHasNothingToWorkOnIsOff() {
   test::MainWindow m;
   const auto on = [&](const char* name) { return Find<QAction>(m.window, name).isEnabled(); };
@@ -304,7 +319,8 @@ void MainWindowTest::FixedFontListAppliesTheChosenRow() {
     rows.setFocus();
     QApplication::sendEvent(&rows, std::make_unique<QFocusEvent>(QEvent::FocusIn).get());
     QCOMPARE(m.program.ajustes.font, Font());
-    rows.setCurrentItem(rows.findItems("DejaVu Sans Mono", Qt::MatchExactly).value(0));
+    const auto* row = rows.findItems("DejaVu Sans Mono", Qt::MatchExactly).value(0);
+    QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualItemRect(row).center());
     list->close();
   });
   m.Trigger("mnuFixedFonts");

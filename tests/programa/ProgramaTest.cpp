@@ -94,6 +94,34 @@ TEST_F(ProgramaTest, LoadingIsWholeOrNothing) {
   EXPECT_FALSE(p.animArtDisponible);
 }
 
+// Cells of 4 x 5: a text has (height x columns) / width / 1.25 rows.
+TEST_F(ProgramaTest, TextsFarTooLargeAreRefusedBeforeTheyAreMade) {
+  struct Row {
+    Extent picture;
+    int columns, method;
+    const char* refused;  // or nothing
+    Extent huge;
+  };
+  for (const Row& r : {Row{{1, 386547}, 20000, kGrayscale, "20000 x 6184752128", {}},
+                       {{1, 1000000}, 250, kAntiAlias, "250 x 200000000", {}},
+                       {{1, 10000}, 400, kEdges, "400 x 3200000", {}},
+                       {{1, 10000}, 200, kEdges, nullptr, {200, 1600000}},
+                       {{1, 10000}, 200, kAntiAlias, nullptr, {200, 1600000}},
+                       {{4000, 3000}, 250, kGrayscale, nullptr, {}}}) {
+    p.imagen.Cargar(Picture(r.picture.width, r.picture.height));
+    p.basAscii.AsciiColumns = r.columns;
+    p.basAscii.ProducedText = "antes";
+    try {
+      EXPECT_EQ(TextoEnorme(p, r.method).value_or(Extent{}), r.huge);
+      EXPECT_FALSE(r.refused);
+    } catch (const TextoExcesivo& e) {
+      EXPECT_EQ(e.what(), "El texto sería demasiado grande: " + std::string(r.refused) + " caracteres.");
+      EXPECT_THROW(Generar(p, r.method), TextoExcesivo);
+      EXPECT_EQ(p.basAscii.ProducedText, "antes");
+    }
+  }
+}
+
 TEST_F(ProgramaTest, WhatPlayRuns) {
   EXPECT_EQ(QueGenerar(p), Trabajo::PedirImagen);
   p.imagen.Cargar(Grays({{0}}));

@@ -73,6 +73,13 @@ void FrmWebTest::MosaicAndExactCopy() {
   QVERIFY(m.shell.log.empty());
 
   m.Trigger(kModos[kModoCopiaExacta]);
+  const Picture small = m.program.imagen.picMain;
+  m.program.imagen.Cargar(Picture::Filled(2000, 1500, kWhite));
+  m.dialogs.paths = {file};
+  m.Trigger("Play");
+  QVERIFY2(m.dialogs.log.back().starts_with("Ask||La página puede ocupar hasta 129 MB"),
+           "2001 x 1501 cells of 43");
+  m.program.imagen.Cargar(small);
   m.Trigger("WebBArriba");
   Find<QCheckBox>(m.window, "chkAsciiPrev").click();
   m.dialogs.paths = {file};
