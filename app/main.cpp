@@ -1,4 +1,7 @@
+#include <cstdio>
 #include <memory>
+#include <span>
+#include <string_view>
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -34,10 +37,27 @@ class Aplicacion final : public QApplication {
   pixmosa::Dialogs& dialogs_;
 };
 
+constexpr char kAyuda[] =
+    "Uso: pixmosa [IMAGEN]\n\n"
+    "Abre la ventana de Pixmosa, con la imagen cargada si se da una.\n"
+    "Las órdenes sin ventana son las de pixmosa-cli; \"pixmosa-cli --help\" las explica.\n\n"
+    "  --help     muestra esta ayuda\n"
+    "  --version  muestra la versión\n";
+
+// What the terminal is told without a window; null where the window is wanted.
+const char* RespuestaDeTerminal(int argc, char** argv) {
+  for (const std::string_view word : std::span(argv, static_cast<std::size_t>(argc)).subspan(1)) {
+    if (word == "--help" || word == "-h") return kAyuda;
+    if (word == "--version") return "pixmosa " PIXMOSA_VERSION "\n";
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   using namespace pixmosa;
+  if (const char* answer = RespuestaDeTerminal(argc, argv)) return std::fputs(answer, stdout) < 0 ? 1 : 0;
   QuitarTemporalesAlTerminar();
   QtDialogs dialogs;
   Aplicacion app(argc, argv, dialogs);

@@ -12,6 +12,14 @@ target_compile_options(pixmosa_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow
 if(PIXMOSA_WERROR)
   target_compile_options(pixmosa_flags INTERFACE -Werror)
 endif()
+# What is handed to users stops at the first sign of a broken stack, a wild jump or an index out of range, and
+# carries no symbols.
+if(PIXMOSA_HARDEN)
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  add_compile_options(-fstack-protector-strong -fcf-protection -U_FORTIFY_SOURCE)
+  add_compile_definitions(_FORTIFY_SOURCE=2 _GLIBCXX_ASSERTIONS)
+  add_link_options(-pie -Wl,-z,relro -Wl,-z,now -s)
+endif()
 if(PIXMOSA_SANITIZE)
   add_compile_options(-fsanitize=${PIXMOSA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${PIXMOSA_SANITIZE})

@@ -22,6 +22,7 @@ namespace {
 
 constexpr int kLado = 155;  // the preview's design size
 constexpr int kMilisegundos = 15;
+constexpr int kHueco = 8;
 constexpr char kTitulo[] = "Parámetros del filtro";
 
 // The other side of a preview whose longer side is `side`.
@@ -108,6 +109,8 @@ void frmEfectConfig::Componer() {
   buttons->addStretch(1);
   buttons->addWidget(apply);
   buttons->addWidget(cancel);
+  // A row takes its gaps from the grid around it, which has two different ones and so none to give.
+  for (QBoxLayout* row : {head, strength, slider, buttons}) row->setSpacing(kHueco);
   auto* grid = new QGridLayout(this);
   grid->setHorizontalSpacing(16);
   grid->setColumnStretch(1, 1);
