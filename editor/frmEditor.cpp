@@ -13,6 +13,7 @@
 
 #include "editor/TextoDelEditor.h"
 #include "editor/frmEditor_Superficie.h"
+#include "platform/qt/Intentar.h"
 #include "platform/qt/Menus.h"
 #include "platform/qt/Named.h"
 #include "platform/qt/Pantalla.h"
@@ -111,15 +112,16 @@ void frmEditor::CrearMenus() {
   const auto own = [this](QMenu* menu, const EntradaDeMenu& row, std::function<void()> work) {
     QAction* action = AccionDe(row, menu);
     menu->addAction(action);
-    connect(action, &QAction::triggered, this, std::move(work));
+    connect(action, &QAction::triggered, this, Con(dialogs_, [work = std::move(work)](bool) { work(); }));
+    return action;
   };
   QMenu* file = menuBar()->addMenu(QStringLiteral("&Archivo"));
   LlenarMenu<Entrada>(file, std::span(&kCLS, 1), this, act);
   file->addSeparator();
-  own(file,
-      {"mnuEnviar", "&Enviar a la ventana principal", "document-send", "Ctrl+E",
-       "Pone el dibujo en el área de texto de la ventana principal"},
-      [this] { Enviar(); });
+  enviar_ = own(file,
+                {"mnuEnviar", "&Enviar a la ventana principal", "document-send", "Ctrl+E",
+                 "Pone el dibujo en el área de texto de la ventana principal"},
+                [this] { Enviar(); });
   own(file,
       {"mnuGuardarDibujo", "&Guardar el dibujo...", "document-save", "Ctrl+S", "Guarda el dibujo como texto"},
       [this] { Guardar(); });
@@ -132,16 +134,18 @@ void frmEditor::CrearMenus() {
   flip->menuAction()->setObjectName("mnuInvertir");
   LlenarMenu<Entrada>(flip, kInvertir, this, act);
   edit->addSeparator();
-  own(edit, {"mnuDeshacer", "&Deshacer", "edit-undo", "Ctrl+Z", "Deshace la última acción"}, [this] {
-    history_.Deshacer(editor_);
-    picDraw_->Refrescar();
-    Actualizar();
-  });
-  own(edit, {"mnuRehacer", "&Rehacer", "edit-redo", "Ctrl+Y", "Rehace la acción deshecha"}, [this] {
-    history_.Rehacer(editor_);
-    picDraw_->Refrescar();
-    Actualizar();
-  });
+  deshacer_ =
+      own(edit, {"mnuDeshacer", "&Deshacer", "edit-undo", "Ctrl+Z", "Deshace la última acción"}, [this] {
+        history_.Deshacer(editor_);
+        picDraw_->Refrescar();
+        Actualizar();
+      });
+  rehacer_ =
+      own(edit, {"mnuRehacer", "&Rehacer", "edit-redo", "Ctrl+Y", "Rehace la acción deshecha"}, [this] {
+        history_.Rehacer(editor_);
+        picDraw_->Refrescar();
+        Actualizar();
+      });
   own(edit, {"mnuCopiar", "&Copiar el dibujo", "edit-copy", "Ctrl+C", "Copia el dibujo como texto"},
       [this] { shell_.CopyText(DrawingText(editor_)); });
 }
@@ -161,8 +165,7 @@ void frmEditor::CrearHerramientas() {
     });
   }
   bar->addSeparator();
-  for (const char* name : {"mnuDeshacer", "mnuRehacer", "mnuEnviar"})
-    bar->addAction(findChild<QAction*>(name));
+  bar->addActions({deshacer_, rehacer_, enviar_});
   addToolBar(bar);
 }
 

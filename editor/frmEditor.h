@@ -11,6 +11,7 @@
 #include "platform/Font.h"
 #include "platform/Shell.h"
 
+class QAction;
 class QLabel;
 class QListWidget;
 
@@ -52,6 +53,7 @@ class frmEditor final : public QMainWindow {
   Historial history_;
   std::string saved_;  // the drawing's text as it was last opened, sent or saved
   Superficie* picDraw_;
+  QAction *deshacer_ = nullptr, *rehacer_ = nullptr, *enviar_ = nullptr;
   QLabel* lblNoCabe_;
   QLabel* position_;
 };

@@ -25,8 +25,8 @@ bool frmEditor::Abrir(std::string_view text) {
 }
 
 void frmEditor::Actualizar() {
-  findChild<QAction*>("mnuDeshacer")->setEnabled(history_.PuedeDeshacer());
-  findChild<QAction*>("mnuRehacer")->setEnabled(history_.PuedeRehacer());
+  deshacer_->setEnabled(history_.PuedeDeshacer());
+  rehacer_->setEnabled(history_.PuedeRehacer());
   const TextoAbierto* opened = editor_.Abierto.get();
   lblNoCabe_->setVisible(opened && !opened->cabe);
   if (!opened || opened->cabe) return;
