@@ -87,20 +87,37 @@ bool Cortada(std::string_view bytes) {
   return bytes.starts_with("BM") && BmpCutShort(bytes);
 }
 
-bool GifCortado(std::string_view bytes) {
-  if (!bytes.starts_with("GIF8")) return false;
-  // Blocks after the screen and its colours: extensions (0x21), the picture (0x2C), the end (0x3B). The data
-  // of the first two is a chain of pieces, each after its length, up to an empty one.
+namespace {
+
+// Passes over a chain of pieces, each after its length, up to an empty one; the position of that.
+std::size_t TrasCadena(std::string_view bytes, std::size_t at) {
+  while (at < bytes.size() && bytes[at] != 0) at += 1 + Little(bytes, at, 1);
+  return at;
+}
+
+// Where the first picture's block begins, behind the screen, its colours and the extensions (0x21); the end
+// of the bytes where they stop before; nothing where there is no picture, or damage, which is for the decoder
+// to say.
+std::optional<std::size_t> PrimerBloque(std::string_view bytes) {
+  if (!bytes.starts_with("GIF8")) return std::nullopt;
   std::size_t at = 13 + ColourTable(bytes, 10);
-  while (at < bytes.size() && bytes[at] != '\x3B') {
-    const bool picture = bytes[at] == '\x2C';
-    if (!picture && bytes[at] != '\x21') return false;  // damaged, which is for the decoder to say
-    at += picture ? 11 + ColourTable(bytes, at + 9) : 2;
-    while (at < bytes.size() && bytes[at] != 0) at += 1 + Little(bytes, at, 1);
-    if (picture) return at >= bytes.size();
-    ++at;
-  }
-  return at >= bytes.size();
+  while (at < bytes.size() && bytes[at] == '\x21') at = TrasCadena(bytes, at + 2) + 1;
+  if (at >= bytes.size()) return bytes.size();
+  return bytes[at] == '\x2C' ? std::optional(at) : std::nullopt;
+}
+
+}  // namespace
+
+bool GifCortado(std::string_view bytes) {
+  const std::optional<std::size_t> at = PrimerBloque(bytes);
+  return at && TrasCadena(bytes, *at + 11 + ColourTable(bytes, *at + 9)) >= bytes.size();
+}
+
+Recuadro PrimeroDeGif(std::string_view bytes) {
+  const std::optional<std::size_t> at = PrimerBloque(bytes);
+  if (!at || *at + 9 > bytes.size()) return {};
+  const auto word = [&](std::size_t from) { return static_cast<int>(Little(bytes, *at + from, 2)); };
+  return {word(1), word(3), word(5), word(7)};
 }
 
 }  // namespace pixmosa

@@ -25,4 +25,10 @@ bool Cortada(std::string_view bytes);
 // A GIF file that ends inside its first picture; its reader shows what there is.
 bool GifCortado(std::string_view bytes);
 
+// Where the first picture of a GIF lies on its screen; empty where there is none.
+struct Recuadro {
+  int left = 0, top = 0, width = 0, height = 0;
+};
+Recuadro PrimeroDeGif(std::string_view bytes);
+
 }  // namespace pixmosa

@@ -89,6 +89,25 @@ bool LacksMemory(Extent size) {
   Fail(name, "el archivo está dañado o incompleto");
 }
 
+bool EsGif(std::string_view bytes) {
+  return bytes.starts_with("GIF8");
+}
+
+// Where the first picture of a GIF does not cover its screen, the reader leaves what the memory held:
+// transparent pixels, on white.
+void BlanquearFuera(Picture& picture, const Recuadro& drawn) {
+  const auto inside = [](int v, int from, int length) { return v >= from && v < from + length; };
+  if (drawn.width <= 0 || drawn.height <= 0) return;
+  if (drawn.left <= 0 && drawn.top <= 0 && drawn.left + drawn.width >= picture.Width() &&
+      drawn.top + drawn.height >= picture.Height())
+    return;
+  std::uint32_t* to = picture.Writable();
+  for (int y = 0; y < picture.Height(); ++y)
+    for (int x = 0; x < picture.Width(); ++x, ++to)
+      if (!inside(y, drawn.top, drawn.height) || !inside(x, drawn.left, drawn.width))
+        *to = PixelOfColour(kWhite);
+}
+
 Picture LeerPngEnCasa(std::string_view bytes, const std::string& name) {
   const Extent size = TamanoDePng(bytes);
   CheckSize(name, size);
@@ -106,7 +125,9 @@ Picture LeerEnCasa(Lector& lector, std::string_view bytes, const std::string& na
   if (!lector.reader.read(&image)) FailRead(name, size);
   if (image.isNull()) Fail(name, "la imagen está vacía");
   CheckSize(name, Of(image.size()));
-  return PictureOf(std::move(image));
+  Picture picture = PictureOf(std::move(image));
+  if (EsGif(bytes)) BlanquearFuera(picture, PrimeroDeGif(bytes));
+  return picture;
 }
 
 }  // namespace
