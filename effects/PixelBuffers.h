@@ -41,7 +41,7 @@ struct PixelBuffers {
 // The bar's way: from + (span x y) \ H after row y.
 struct Tramo {
   int desde = 0, ancho = 100;
-  int Tras(std::ptrdiff_t y, std::ptrdiff_t H) const { return desde + ancho * y / H; }
+  int Tras(std::ptrdiff_t y, std::ptrdiff_t rows) const { return desde + ancho * y / rows; }
 };
 
 // Every row through fila(source row, destination row, y).
@@ -57,7 +57,7 @@ void RecorrerFilas(PixelBuffers& b, Fila fila, Tramo bar = {}) {
 // Rows margin+1..H-margin through fila(y), which sets columns margin+1..W-margin; the border stays as it was,
 // and so does a picture that has no interior.
 template <typename Fila>
-void RecorrerInterior(PixelBuffers& b, int margin, Fila fila) {
+void RecorrerInterior(PixelBuffers& b, std::ptrdiff_t margin, Fila fila) {
   const bool thin = b.W <= 2 * margin || b.H <= 2 * margin;
   for (std::ptrdiff_t y = 1; y <= (thin ? b.H : margin); ++y) b.CopiarFila(y);
   if (!thin) {
