@@ -4,17 +4,13 @@
 #include <charconv>
 #include <climits>
 
+#include "cli/Lista.h"
+
 namespace pixmosa::cli {
 namespace {
 
 std::string Citado(std::string_view s) {
   return "\"" + std::string(s) + "\"";
-}
-
-std::string Unidas(const std::vector<const char*>& words) {
-  std::string s;
-  for (const char* w : words) s += (s.empty() ? "" : w == words.back() ? " o " : ", ") + std::string(w);
-  return s;
 }
 
 void Comprobar(const Opcion& o, const std::string& value) {
@@ -41,6 +37,12 @@ std::optional<int> EnteroDeTexto(std::string_view text, int minimo, int maximo) 
 }
 
 Argumentos::Argumentos(std::span<const std::string> words, std::span<const Opcion> options) {
+  Leer(words, options);
+  if (std::count(operandos_.begin(), operandos_.end(), "-") > 1)
+    throw ErrorDeUso("la entrada estándar (\"-\") solo se puede leer una vez");
+}
+
+void Argumentos::Leer(std::span<const std::string> words, std::span<const Opcion> options) {
   for (std::size_t i = 0; i < words.size(); ++i) {
     const std::string& word = words[i];
     if (word == "--") {

@@ -39,7 +39,8 @@ struct Opcion {
 
 class Argumentos {
  public:
-  // Throws ErrorDeUso for an unknown option, a missing or a wrong value. "--" ends the options.
+  // Throws ErrorDeUso for an unknown option, a missing or a wrong value, or standard input twice. "--" ends
+  // the options.
   Argumentos(std::span<const std::string> words, std::span<const Opcion> options);
 
   const std::vector<std::string>& Operandos() const { return operandos_; }
@@ -53,6 +54,8 @@ class Argumentos {
   void ExigirOperandos(std::size_t least, std::size_t most, std::string_view what) const;
 
  private:
+  void Leer(std::span<const std::string> words, std::span<const Opcion> options);
+
   std::vector<std::string> operandos_;
   std::map<std::string, std::string> valores_;
 };

@@ -8,7 +8,8 @@
 
 #include <QGuiApplication>
 
-#include "cli/Argumentos.h"
+#include "cli/Destino.h"
+#include "cli/Frases.h"
 #include "platform/AtomicFile.h"
 #include "platform/CodePage.h"
 #include "platform/ProgramFolder.h"
@@ -99,11 +100,15 @@ void Consola::EscribirTexto(std::string_view text) {
 }
 
 void Consola::Avisar(std::string_view sentence) {
-  std::fprintf(stderr, "pixmosa-cli: %.*s\n", static_cast<int>(sentence.size()), sentence.data());
+  std::string line = (hayProgreso_ ? "\r\033[K" : "") + ("pixmosa-cli: " + Visible(sentence));
+  hayProgreso_ = false;
+  if (!line.ends_with('.')) line += '.';
+  std::fputs((line + "\n").c_str(), stderr);
 }
 
 void Consola::Progreso(std::string_view what, std::size_t n, std::size_t of) {
   if (!isatty(STDERR_FILENO)) return;
+  hayProgreso_ = n != of;
   if (n == of) {
     std::fputs("\r\033[K", stderr);
   } else {
@@ -117,17 +122,19 @@ int Consola::AnchoDeTerminal() const {
   return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : kColumnasSinTerminal;
 }
 
-int ConvertirACarpeta(Consola& consola, const std::vector<std::string>& operands, const std::string& folder,
+int ConvertirACarpeta(Consola& consola, const Argumentos& arguments, const std::vector<std::string>& pictures,
                       const std::string& ending,
                       const std::function<void(const std::string&, const std::string&)>& work) {
   namespace fs = std::filesystem;
+  const std::string folder = arguments.Exigir("--carpeta");
   std::vector<std::string> files;
   std::set<std::string> seen;
-  for (const std::string& operand : operands) {
+  for (const std::string& operand : pictures) {
     const std::string name = operand == "-" ? "entrada" : fs::path(operand).stem().string();
     files.push_back((fs::path(folder) / (name + ending)).string());
     if (!seen.insert(files.back()).second)
       throw ErrorDeUso("dos imágenes darían el mismo archivo \"" + files.back() + "\"");
+    ExigirOtroArchivo(arguments, files.back());
   }
   std::error_code error;
   fs::create_directories(folder, error);
@@ -135,16 +142,16 @@ int ConvertirACarpeta(Consola& consola, const std::vector<std::string>& operands
     throw ErrorDeTrabajo("No se ha podido crear la carpeta \"" + folder +
                          "\": " + RazonDelError(error.value()) + ".");
   int status = 0;
-  for (std::size_t i = 0; i < operands.size(); ++i) {
-    consola.Progreso("Imagen", i, operands.size());
+  for (std::size_t i = 0; i < pictures.size(); ++i) {
+    consola.Progreso("Imagen", i, pictures.size());
     try {
-      work(operands[i], files[i]);
+      Nombrando(pictures[i], [&] { work(pictures[i], files[i]); });
     } catch (const std::exception& e) {
       consola.Avisar(FraseDe(e));
       status = 1;
     }
   }
-  consola.Progreso("Imagen", operands.size(), operands.size());
+  consola.Progreso("Imagen", pictures.size(), pictures.size());
   return status;
 }
 

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/Argumentos.h"
 #include "programa/Programa.h"
 
 namespace pixmosa::cli {
@@ -42,7 +43,7 @@ class Consola {
   // Produced text (8-bit code page, CR LF) as UTF-8 with LF line ends; a terminal gets its last line ended.
   void EscribirTexto(std::string_view text);
 
-  // One line "pixmosa-cli: sentence" on standard error.
+  // One line "pixmosa-cli: sentence." on standard error, in place of a progress line that is shown.
   void Avisar(std::string_view sentence);
 
   // "what n/of" on standard error where that is a terminal; n == of clears the line.
@@ -55,12 +56,14 @@ class Consola {
   struct Servicios;
   Servicios& Arrancar();
   std::unique_ptr<Servicios> servicios_;
+  bool hayProgreso_ = false;
 };
 
-// Runs `work(operand, file)` for every operand, the file being DIR/NAME.ending with NAME the operand's name
-// without its ending; the folder is made if missing. An operand that fails is reported and the next one goes
-// on. The status.
-int ConvertirACarpeta(Consola& consola, const std::vector<std::string>& operands, const std::string& folder,
+// Runs `work(operand, file)` for each of the operands that are pictures, the file being DIR/NAME.ending with
+// DIR the folder of --carpeta, made if missing, and NAME the operand's name without its ending. One that
+// fails is reported and the next one goes on. The status. Throws ErrorDeUso where a file would be written
+// twice or is an operand's own.
+int ConvertirACarpeta(Consola& consola, const Argumentos& arguments, const std::vector<std::string>& pictures,
                       const std::string& ending,
                       const std::function<void(const std::string& operand, const std::string& file)>& work);
 

@@ -1,4 +1,4 @@
-// Lists separated by commas.
+// Lists of words.
 #pragma once
 
 #include <string>
@@ -17,6 +17,15 @@ inline std::vector<std::string> Separar(const std::string& text) {
     }
   }
   return parts;
+}
+
+// "a, b o c".
+template <typename Palabra>
+std::string Unidas(const std::vector<Palabra>& words) {
+  std::string s;
+  for (std::size_t i = 0; i < words.size(); ++i)
+    s += (i == 0 ? "" : i + 1 == words.size() ? " o " : ", ") + std::string(words[i]);
+  return s;
 }
 
 }  // namespace pixmosa::cli

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "cli/Destino.h"
 #include "cli/OpcionesDeTexto.h"
 #include "cli/Ordenes.h"
 #include "conversion/TextoGuardado.h"
@@ -40,7 +41,7 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   Programa p = PrepararPrograma(consola, arguments);
   if (method == kAntiAlias) CargarPaleta3x2(p);
   if (folder)
-    return ConvertirACarpeta(consola, pictures, *folder, ".txt",
+    return ConvertirACarpeta(consola, arguments, pictures, ".txt",
                              [&](const std::string& operand, const std::string& to) {
                                Convertir(consola, p, operand, method);
                                EscribirArchivo(to, Guardado(p));
@@ -64,6 +65,7 @@ Orden OrdenAscii() {
       "pixmosa-cli ascii foto.jpg --columnas 100",
       Juntar({{"-o", Tipo::Texto, "TEXTO.txt", "archivo donde se guarda; si falta, la salida estándar"},
               {"--carpeta", Tipo::Texto, "DIR", "carpeta donde se guarda un NOMBRE.txt de cada imagen"},
+              OpcionDeSobrescribir(),
               {"--metodo", Tipo::Eleccion, "", "el método; si falta, grises", 0, 0, kMetodos},
               {"--relleno", Tipo::Interruptor, "", "con bordes: rellena de \":\" el interior de las formas"}},
              OpcionesDeTexto()),

@@ -1,10 +1,12 @@
 #include <climits>
 #include <filesystem>
-#include <new>
 
+#include "cli/Destino.h"
+#include "cli/Lista.h"
 #include "cli/Ordenes.h"
 #include "cli/Pasos.h"
 #include "platform/AtomicFile.h"
+#include "platform/CodePage.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -40,25 +42,37 @@ Pedido PedidoDe(const Argumentos& arguments) {
   return order;
 }
 
-// The format that a file's ending asks for.
-std::string FormatoDe(const std::string& file) {
-  for (const char* format : {"png", "bmp", "jpg"})
-    if (file.ends_with(std::string(".") + format)) return format;
-  throw ErrorDeUso("el archivo \"" + file + "\" debe terminar en .png, .bmp o .jpg");
+// The format that a file's ending asks for, in any case.
+std::string FormatoDe(Consola& consola, const std::string& file) {
+  std::vector<std::string> endings;
+  for (const std::string& format : consola.Imagenes().Formatos()) {
+    endings.push_back("." + format);
+    if (LowerCase(file).ends_with(endings.back())) return format;
+  }
+  throw ErrorDeUso("el archivo \"" + file + "\" debe terminar en " + Unidas(endings));
+}
+
+// Writes the picture; a format that cannot hold it is said with the file's name.
+void Guardar(Consola& consola, const Picture& picture, const std::string& file, const std::string& format) {
+  std::string bytes;
+  try {
+    bytes = consola.Imagenes().Encode(picture, format);
+  } catch (const PictureError& e) {
+    throw ErrorDeTrabajo("No se ha escrito \"" + file + "\". " + e.what());
+  }
+  EscribirArchivo(file, bytes);
 }
 
 // One picture through every step; the draws start anew for each picture.
 void Transformar(Consola& consola, const Argumentos& arguments, const Pedido& order,
-                 const std::string& operand, const std::string& file, const std::string& format) try {
+                 const std::string& operand, const std::string& file, const std::string& format) {
   MFiltros m;
   if (arguments.Tiene("--semilla"))
     m.random.Seed(static_cast<std::uint64_t>(arguments.Entero("--semilla", 0)));
   ImagenDeTrabajo image;
   image.Cargar(consola.LeerImagen(operand));
   for (const Paso& step : order.pasos) DarPaso(m, image, step);
-  EscribirArchivo(file, consola.Imagenes().Encode(image.picMain, format));
-} catch (const std::bad_alloc&) {
-  throw ErrorDeTrabajo("No hay memoria suficiente para transformar la imagen \"" + operand + "\".");
+  Guardar(consola, image.picMain, file, format);
 }
 
 int Hacer(Consola& consola, const Argumentos& arguments) {
@@ -67,12 +81,12 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   if (!file && !folder) throw ErrorDeUso("falta la opción -o con el archivo de la imagen nueva");
   const Pedido order = PedidoDe(arguments);
   if (folder)
-    return ConvertirACarpeta(consola, order.imagenes, *folder, ".png",
+    return ConvertirACarpeta(consola, arguments, order.imagenes, ".png",
                              [&](const std::string& operand, const std::string& to) {
                                Transformar(consola, arguments, order, operand, to, "png");
                              });
   if (order.imagenes.size() > 1) throw ErrorDeUso("varias imágenes necesitan la opción --carpeta");
-  Transformar(consola, arguments, order, order.imagenes[0], *file, FormatoDe(*file));
+  Transformar(consola, arguments, order, order.imagenes[0], *file, FormatoDe(consola, *file));
   return 0;
 }
 
@@ -83,8 +97,9 @@ Orden OrdenEfecto() {
           "IMAGEN... PASO...",
           "Retoca imágenes con los efectos, giros y espejos del programa.",
           "pixmosa-cli efecto foto.jpg 14=20 desenfocar espejo-arriba-abajo -o nueva.png",
-          {{"-o", Tipo::Texto, "SALIDA", "archivo de la imagen nueva: .png, .bmp o .jpg"},
+          {{"-o", Tipo::Texto, "SALIDA", "archivo de la imagen nueva; su terminación da el formato"},
            {"--carpeta", Tipo::Texto, "DIR", "carpeta donde se guarda un NOMBRE.png de cada imagen"},
+           OpcionDeSobrescribir(),
            {"--semilla", Tipo::Entero, "N", "empieza el azar de los efectos 4 y 29 en N, para repetirlo", 0,
             INT_MAX}},
           Hacer,

@@ -15,14 +15,26 @@ OrigenGif AbrirGif(Consola& consola, const std::string& operand) {
 
 namespace {
 
+namespace fs = std::filesystem;
+
+// Throws where the GIF itself is one of the frame files that the folder's new ones replace.
+void ComprobarDestino(const fs::path& gif, const std::string& folder) {
+  std::error_code ec;
+  const bool here = fs::equivalent(fs::absolute(gif, ec).parent_path(), folder, ec);
+  if (here && gif.filename().string().starts_with("Fotograma ") && gif.extension() == ".bmp")
+    throw ErrorDeUso("\"" + gif.string() + "\" es uno de los fotogramas que se sustituirían en \"" + folder +
+                     "\"");
+}
+
 int Hacer(Consola& consola, const Argumentos& arguments) {
   arguments.ExigirOperandos(1, 1, "el GIF");
   const std::string operand = arguments.Operandos()[0], folder = arguments.Exigir("-o");
+  ComprobarDestino(operand, folder);
   OrigenGif gif = AbrirGif(consola, operand);
   const GifCut cut = CutGif(gif);
   if (cut.positions.empty()) throw ErrorDeTrabajo("El GIF \"" + operand + "\" no tiene fotogramas.");
   std::error_code error;
-  std::filesystem::create_directories(folder, error);
+  fs::create_directories(folder, error);
   if (error)
     throw ErrorDeTrabajo("No se ha podido crear la carpeta \"" + folder +
                          "\": " + RazonDelError(error.value()) + ".");

@@ -1,6 +1,7 @@
 #include <array>
 #include <climits>
 
+#include "cli/Destino.h"
 #include "cli/Lista.h"
 #include "cli/Ordenes.h"
 #include "platform/AtomicFile.h"
@@ -68,6 +69,7 @@ Orden OrdenWeb() {
           "Escribe una página HTML en la que cada carácter lleva el color de la imagen.",
           "pixmosa-cli web foto.jpg -o foto.html --texto \"hola \"",
           {{"-o", Tipo::Texto, "PAGINA.html", "la página que se escribe"},
+           OpcionDeSobrescribir(),
            {"--copia-exacta", Tipo::Interruptor, "", "una copia de la imagen; si falta, un mosaico"},
            {"--detalle", Tipo::Entero, "N", "5 escribe cada píxel, 1 uno de cada cinco; si falta, 3", 1, 5},
            {"--texto", Tipo::Texto, "TEXTO", "caracteres del mosaico; si falta, ceros y unos al azar"},

@@ -4,6 +4,8 @@
 #include <array>
 #include <string>
 
+#include "cli/Destino.h"
+#include "cli/Frases.h"
 #include "platform/Errores.h"
 
 namespace pixmosa::cli {
@@ -11,10 +13,10 @@ namespace {
 
 constexpr int kHecho = 0, kFallo = 1, kUso = 2;
 
-// A failure's sentence ends in one period, whoever wrote it.
-std::string Frase(std::string s) {
-  if (!s.ends_with('.')) s += '.';
-  return s;
+// Whether the file of -o could be the operand's.
+bool Sustituye(const Orden& order) {
+  return std::any_of(order.opciones.begin(), order.opciones.end(),
+                     [](const Opcion& o) { return std::string_view(o.nombre) == kSobrescribir; });
 }
 
 int EjecutarOrden(Consola& consola, const Orden& order, std::span<const std::string> words) {
@@ -24,7 +26,10 @@ int EjecutarOrden(Consola& consola, const Orden& order, std::span<const std::str
     consola.Escribir(AyudaDe(order));
     return kHecho;
   }
-  return order.hacer(consola, Argumentos(words, order.opciones));
+  const Argumentos arguments(words, order.opciones);
+  if (const auto file = arguments.Texto("-o"); file && Sustituye(order)) ExigirOtroArchivo(arguments, *file);
+  if (arguments.Operandos().empty()) return order.hacer(consola, arguments);
+  return Nombrando(arguments.Operandos()[0], [&] { return order.hacer(consola, arguments); });
 }
 
 int Despachar(Consola& consola, std::span<const std::string> words) {
@@ -56,10 +61,10 @@ int Ejecutar(Consola& consola, std::span<const std::string> words) {
   try {
     return Despachar(consola, words);
   } catch (const ErrorDeUso& e) {
-    consola.Avisar(Frase(e.what()));
+    consola.Avisar(e.what());
     return kUso;
   } catch (const std::exception& e) {
-    consola.Avisar(Frase(FraseDe(e)));
+    consola.Avisar(FraseDe(e));
     return kFallo;
   }
 }

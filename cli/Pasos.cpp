@@ -13,10 +13,21 @@ std::string Rango(std::int32_t from, std::int32_t to) {
   return "de " + std::to_string(from) + " a " + std::to_string(to);
 }
 
+[[noreturn]] void RechazarValor(const std::string& word) {
+  throw ErrorDeUso("el paso \"" + word + "\" no lleva valor");
+}
+
+// A caption's name that a shell takes without quotes: rgb-a-brg for "RGB -> BRG".
+std::string NombreSinComillas(std::string caption) {
+  if (const std::size_t arrow = caption.find("->"); arrow != std::string::npos)
+    caption.replace(arrow, 2, "a");
+  return NombreDeOrden(caption);
+}
+
 // A value as the slider or the menu item gives it.
 std::int32_t ArgumentoDado(int effect, const std::string& word, const std::string& value) {
   const EffectConfig& e = *Efecto(effect);
-  if (e.argumento == Argumento::Ninguno) throw ErrorDeUso("el paso \"" + word + "\" no lleva valor");
+  if (e.argumento == Argumento::Ninguno) RechazarValor(word);
   const std::optional<int> v = EnteroDeTexto(value, e.Min, e.Max);
   if (!v) throw ErrorDeUso("el valor del paso \"" + word + "\" debe ser un entero " + Rango(e.Min, e.Max));
   return ArgumentoDelDeslizador(effect, *v);
@@ -47,14 +58,17 @@ std::optional<Paso> PasoPorNombre(const std::string& name, const std::string& wo
                                   const std::optional<std::string>& value) {
   for (const Giro& g : Giros())
     if (name == g.orden) {
-      if (value) throw ErrorDeUso("el paso \"" + word + "\" no lleva valor");
+      if (value) RechazarValor(word);
       return Paso{0, 0, &g};
     }
   for (int n = 1; n <= kEfectos; ++n)
     if (name == NombreDeOrden(Efecto(n)->caption)) return PasoDeEfecto(n, Efecto(n)->menu, word, value);
   for (const EntradaDeImagen& e : EntradasDeImagen())
-    if (e.accion == Accion::Efecto && name == NombreDeOrden(e.caption))
+    if (e.accion == Accion::Efecto &&
+        (name == NombreDeOrden(e.caption) || name == NombreSinComillas(e.caption))) {
+      if (value) RechazarValor(word);  // the entry is one of its values
       return PasoDeEfecto(e.efecto, e.argumento, word, value);
+    }
   return std::nullopt;
 }
 
@@ -116,8 +130,9 @@ std::string AyudaDePasos() {
     s += Linea(std::to_string(n), NombreDeOrden(Efecto(n)->caption), Efecto(n)->caption, AyudaDelValor(n));
   for (const EntradaDeImagen& e : EntradasDeImagen())
     if (e.accion == Accion::Efecto && std::string_view(e.caption) != Efecto(e.efecto)->caption)
-      s += Linea("", NombreDeOrden(e.caption), e.caption,
-                 "lo mismo que " + std::to_string(e.efecto) + "=" + std::to_string(e.argumento));
+      s += Linea("", NombreSinComillas(e.caption), e.caption,
+                 "lo mismo que " + std::to_string(e.efecto) + "=" + std::to_string(e.argumento) +
+                     " y que \"" + NombreDeOrden(e.caption) + "\"");
   for (const Giro& g : Giros()) s += Linea("", g.orden, g.caption, "");
   return s;
 }

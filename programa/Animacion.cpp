@@ -52,7 +52,8 @@ Serie SerieDeOrigen(Programa& p, const std::shared_ptr<OrigenGif>& gif, const st
             const std::string frame = name + ", fotograma " + NumeroDeFotograma(k + 1);
             return codec.ReadBytes(FrameFile(*gif, *cut, k), frame);
           },
-          {}};
+          {},
+          p.codec.Size(gif->Leer(0))};
 }
 
 bool EscribirAnimacion(Programa& p, const Serie& frames, const std::filesystem::path& file,

@@ -17,6 +17,7 @@ struct Serie {
   std::size_t cuantos = 0;
   std::function<Picture(std::size_t)> leer{};  // throws PictureError
   std::string nombre{};                        // what a page of it may be called
+  Extent cadaUna{};                            // the size of each, where it is known beforehand
 };
 
 // The chosen frames of the last GIF, from their files.

@@ -37,6 +37,7 @@ Picture PictureOf(QImage image) {
   const int w = image.width(), h = image.height();
   auto held = std::make_shared<QImage>(std::move(image));
   auto* pixels = reinterpret_cast<std::uint32_t*>(held->bits());
+  if (!pixels) throw std::bad_alloc();  // a reader still shares them, and there is no room for a copy
   return {w, h, std::shared_ptr<std::uint32_t[]>(held, pixels)};
 }
 

@@ -118,7 +118,7 @@ Picture LeerPngEnCasa(std::string_view bytes, const std::string& name) {
 }
 
 Picture LeerEnCasa(Lector& lector, std::string_view bytes, const std::string& name) {
-  const Extent size = Of(lector.reader.size());
+  const Extent screen = TamanoDeGif(bytes), size = screen != Extent{} ? screen : Of(lector.reader.size());
   CheckSize(name, size);
   if (Cortada(bytes)) Fail(name, "el archivo está incompleto");
   QImage image;

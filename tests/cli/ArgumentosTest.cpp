@@ -1,7 +1,7 @@
-#include <climits>
 #include <gtest/gtest.h>
 
 #include "cli/Argumentos.h"
+#include "cli/Frases.h"
 
 using namespace pixmosa::cli;
 
@@ -11,21 +11,11 @@ const std::vector<Opcion> kOpciones = {
     {"-o", Tipo::Texto, "ARCHIVO", ""},
     {"--fijas", Tipo::Interruptor, "", ""},
     {"--luz", Tipo::Entero, "N", "", -100, 100},
-    {"--semilla", Tipo::Entero, "N", "", 0, INT_MAX},
     {"--metodo", Tipo::Eleccion, "", "", 0, 0, {"grises", "bordes", "antialias"}},
 };
 
 Argumentos Leer(const std::vector<std::string>& words) {
   return {words, kOpciones};
-}
-
-std::string Fallo(const std::vector<std::string>& words) {
-  try {
-    Leer(words).ExigirOperandos(1, 1, "la imagen");
-    return "";
-  } catch (const ErrorDeUso& e) {
-    return e.what();
-  }
 }
 
 }  // namespace
@@ -40,24 +30,13 @@ TEST(Argumentos, OptionsBeforeAndAfterOperands) {
   EXPECT_EQ(Leer({"--luz=1", "--luz=2"}).Entero("--luz", 0), 2) << "the last one counts";
 }
 
-TEST(Argumentos, NamesWhatIsWrong) {
-  struct Row {
-    std::vector<std::string> words;
-    std::string fault;
-  };
-  for (const Row& r :
-       {Row{{"x"}, ""},
-        {{}, "falta la imagen"},
-        {{"x", "y"}, "sobra el operando \"y\""},
-        {{"--no"}, "no existe la opción \"--no\""},
-        {{"--no=1"}, "no existe la opción \"--no\""},
-        {{"x", "-o"}, "falta el valor de la opción -o"},
-        {{"--fijas=1"}, "la opción --fijas no lleva valor"},
-        {{"--luz", "101"}, "la opción --luz espera un número entero de -100 a 100, no \"101\""},
-        {{"--luz="}, "la opción --luz espera un número entero de -100 a 100, no \"\""},
-        {{"--luz=1.5"}, "la opción --luz espera un número entero de -100 a 100, no \"1.5\""},
-        {{"--luz=99999999999"}, "la opción --luz espera un número entero de -100 a 100, no \"99999999999\""},
-        {{"--semilla=-1"}, "la opción --semilla espera un número entero de 0 en adelante, no \"-1\""},
-        {{"--metodo=x"}, "la opción --metodo espera grises, bordes o antialias, no \"x\""}})
-    EXPECT_EQ(Fallo(r.words), r.fault);
+TEST(Frases, NothingThatATerminalActsOnIsShown) {
+  for (const auto& [text, shown] : std::vector<std::pair<std::string, std::string>>{
+           {"¿ñ? €.png", "¿ñ? €.png"},
+           {"a\nb\r\tc", "a\\nb\\r\\tc"},
+           {"\x1B[2J\x7F", "\\x1B[2J\\x7F"},
+           {"\xF1\xE2\x82z", "\\xF1\\xE2\\x82z"},                  // no UTF-8
+           {"\xC2\x9B\xE2\x80\xAE", "\\xC2\\x9B\\xE2\\x80\\xAE"},  // a control, right to left
+           {"\xEF\xBF\xBD", "\xEF\xBF\xBD"}})
+    EXPECT_EQ(Visible(text), shown);
 }

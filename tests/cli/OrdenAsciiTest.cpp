@@ -21,6 +21,13 @@ class OrdenAsciiTest : public testing::Test {
   static void Save(const std::string& file, const Picture& p) {
     ImageOf(p).save(QString::fromStdString(file));
   }
+  std::string Text(const std::string& columns, const std::vector<std::string>& more) {
+    std::vector<std::string> words = {"ascii", picture, "--columnas", columns};
+    words.insert(words.end(), more.begin(), more.end());
+    const Resultado r = Cli(words);
+    EXPECT_EQ(r.err, "");
+    return r.out;
+  }
 };
 
 TEST_F(OrdenAsciiTest, TextGoesToStandardOutputWithNothingAdded) {
@@ -30,6 +37,7 @@ TEST_F(OrdenAsciiTest, TextGoesToStandardOutputWithNothingAdded) {
   EXPECT_TRUE(r.out.starts_with("          \n          \n"));
   EXPECT_EQ(r.out.find('\r'), std::string::npos);
   EXPECT_TRUE(r.out.ends_with("\n          "));
+  EXPECT_EQ(Cli({"ascii", "-", "--columnas", "10"}, LeerArchivo(picture)).out, r.out);
   EXPECT_EQ(Cli({"ascii", picture}).out.find('\n'), 80U) << "80 columns without a terminal";
 }
 
@@ -48,13 +56,7 @@ TEST_F(OrdenAsciiTest, FileHoldsWhatTheWindowWouldSave) {
 }
 
 TEST_F(OrdenAsciiTest, OptionsReachTheConversion) {
-  const std::vector<std::string> base = {"ascii", picture, "--columnas", "5"};
-  const auto with = [&](std::vector<std::string> more) {
-    more.insert(more.begin(), base.begin(), base.end());
-    const Resultado r = Cli(more);
-    EXPECT_EQ(r.err, "");
-    return r.out;
-  };
+  const auto with = [&](const std::vector<std::string>& more) { return Text("5", more); };
   Save(picture, Picture::Filled(50, 90, Rgb(60, 60, 60)));
   const std::string plain = with({});
   EXPECT_NE(with({"--negativo"}), plain);
@@ -70,13 +72,7 @@ TEST_F(OrdenAsciiTest, EachMethodWithItsOptions) {
   Picture p = Picture::Filled(200, 200, kWhite);
   for (int y = 50; y < 150; ++y) std::fill_n(p.Writable() + y * 200 + 50, 100, 0xFF000000U);
   Save(picture, p);
-  const auto lines = [&](const std::vector<std::string>& more) {
-    std::vector<std::string> words = {"ascii", picture, "--columnas", "20"};
-    words.insert(words.end(), more.begin(), more.end());
-    const Resultado r = Cli(words);
-    EXPECT_EQ(r.status, 0) << r.err;
-    return r.out;
-  };
+  const auto lines = [&](const std::vector<std::string>& more) { return Text("20", more); };
   EXPECT_EQ(lines({"--metodo", "grises"}), lines({}));
   const std::string edges = lines({"--metodo=bordes"}), filled = lines({"--metodo=bordes", "--relleno"});
   EXPECT_NE(edges.find("\n     |        |     \n"), std::string::npos) << edges;
@@ -102,45 +98,5 @@ TEST_F(OrdenAsciiTest, OnlyBlocksNeedThePatternFile) {
     EXPECT_EQ(r.err,
               "pixmosa-cli: No se ha encontrado el archivo con la paleta 3x2. Restaurelo, o instale "
               "nuevamente la aplicación.\n");
-  }
-}
-
-TEST_F(OrdenAsciiTest, SeveralPicturesGoToAFolder) {
-  const std::string second = folder.File("otro.bmp"), out = folder.File("salida/textos");
-  Save(second, Picture::Filled(10, 10, kWhite));
-  const Resultado r =
-      Cli({"ascii", picture, folder.File("nada.png"), second, "--carpeta", out, "--columnas", "4"});
-  EXPECT_EQ(r.status, 1);
-  EXPECT_EQ(r.err, "pixmosa-cli: No se ha podido leer \"" + folder.File("nada.png") + "\": no existe.\n");
-  EXPECT_TRUE(std::filesystem::exists(out + "/cuadro.txt"));
-  EXPECT_TRUE(std::filesystem::exists(out + "/otro.txt"));
-  EXPECT_EQ(Cli({"ascii", picture, second}).status, 2);
-  EXPECT_EQ(Cli({"ascii", picture, picture, "--carpeta", out}).status, 2);
-}
-
-TEST_F(OrdenAsciiTest, StandardInputAndFailures) {
-  EXPECT_EQ(Cli({"ascii", "-", "--columnas", "10"}, LeerArchivo(picture)).out,
-            Cli({"ascii", picture, "--columnas", "10"}).out);
-  struct Row {
-    std::vector<std::string> words;
-    int status;
-    std::string err;
-  };
-  const std::string name = folder.Path().string();
-  for (const Row& r :
-       {Row{{"ascii"}, 2, "falta la imagen."},
-        {{"ascii", name}, 1, "No se ha podido leer \"" + name + "\": es una carpeta."},
-        {{"ascii", "-"}, 1, "No se ha podido leer la imagen \"-\": el archivo está vacío."},
-        {{"ascii", picture, "--columnas=0"},
-         2,
-         "la opción --columnas espera un número entero de 1 a 20000, no \"0\"."},
-        {{"ascii", picture, "--fuente=Nada"}, 1, "No hay ninguna fuente instalada con el nombre \"Nada\"."},
-        {{"ascii", picture, "-o", "/dev/full"},
-         1,
-         "No se ha podido escribir \"/dev/full\": no queda espacio en el disco."}}) {
-    const Resultado run = Cli(r.words);
-    EXPECT_EQ(run.status, r.status) << r.err;
-    EXPECT_EQ(run.err, "pixmosa-cli: " + r.err + "\n");
-    EXPECT_EQ(run.out, "");
   }
 }

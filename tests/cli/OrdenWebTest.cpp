@@ -77,35 +77,3 @@ TEST_F(OrdenWebTest, AnimationsOfAGifAndAFolder) {
                        "\".\n");
   EXPECT_EQ(LeerArchivo(page), before);
 }
-
-TEST_F(OrdenWebTest, NamesWhatIsWrong) {
-  struct Row {
-    std::vector<std::string> words;
-    int status;
-    std::string err;
-  };
-  const std::string none = folder.Path().string();
-  for (const Row& r : {
-           Row{{"web", picture}, 2, "falta la opción -o."},
-           Row{{"web", picture, "-o", page, "--fondo", "1,2"},
-               2,
-               "la opción --fondo espera tres números de 0 a 255, como 0,0,128, no \"1,2\"."},
-           Row{{"web", picture, "-o", page, "--bordes", "arriba,norte"},
-               2,
-               "la opción --bordes espera arriba, abajo, derecha o izquierda, no \"norte\"."},
-           Row{{"web", picture, "-o", "/no/hay.html"},
-               1,
-               "No se ha podido escribir \"/no/hay.html\": no existe."},
-           Row{{"fotogramas", picture, "-o", page}, 1, "El archivo \"" + picture + "\" no es un GIF."},
-           Row{{"anim", gif, "-o", page, "--fotogramas", "4"},
-               2,
-               "la opción --fotogramas espera números de 1 a 3, no \"4\"."},
-       }) {
-    const test::Resultado run = Cli(r.words);
-    EXPECT_EQ(run.status, r.status) << r.err;
-    EXPECT_EQ(run.err, "pixmosa-cli: " + r.err + "\n");
-  }
-  std::filesystem::create_directory(folder.File("vacia"));
-  EXPECT_EQ(Cli({"anim", folder.File("vacia"), "-o", page}).err,
-            "pixmosa-cli: No hay fotogramas en \"" + folder.File("vacia") + "\".\n");
-}

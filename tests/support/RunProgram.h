@@ -47,4 +47,10 @@ inline Resultado Cli(const std::vector<std::string>& words, const std::string& i
   return RunProgram("pixmosa-cli", words, input);
 }
 
+// Runs shell commands in a folder; in them "p" is the command line program, and "$0" its file.
+inline Resultado Shell(const std::string& commands, const std::string& folder) {
+  return RunProgram("/bin/sh", {"-c", "cd \"$1\"; p() { \"$0\" \"$@\"; }; " + commands,
+                                (ProgramFolder() / "pixmosa-cli").string(), folder});
+}
+
 }  // namespace pixmosa::test
