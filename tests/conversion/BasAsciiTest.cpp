@@ -5,7 +5,6 @@
 #include "tests/support/FakeTextSurface.h"
 
 using namespace pixmosa;
-using test::Drawn;
 using test::Grays;
 
 class CharacterTables : public testing::Test {
@@ -23,10 +22,8 @@ TEST_F(CharacterTables, BrightnessCountsOverTheWidenedCell) {
   EXPECT_EQ(ascii.CellHeight, 5);
   EXPECT_EQ(ascii.CharBrightness['0'], 20.0F / 30.0F * 255.0F);
   EXPECT_EQ(ascii.CharBrightness['9'], 11.0F / 30.0F * 255.0F);
-  EXPECT_EQ(ascii.CharBrightness[0], 99999.0F);
-  EXPECT_EQ(ascii.CharBrightness[30], 99999.0F);
-  EXPECT_EQ(ascii.CharBrightness[31], 0.0F);
-  EXPECT_EQ(ascii.CharBrightness[200], 0.0F);
+  for (const std::size_t code : {0, 30}) EXPECT_EQ(ascii.CharBrightness[code], 99999.0F);
+  for (const std::size_t code : {31, 200}) EXPECT_EQ(ascii.CharBrightness[code], 0.0F);
   EXPECT_EQ(ascii.GrayToChar[0], '9');
   EXPECT_EQ(ascii.GrayToChar[255], '0');
   // Nine steps of 255 / 9 = 28.33 levels: level 128 lies 4.518 steps above the darkest, nearest to step 5.
@@ -63,69 +60,47 @@ TEST_F(CharacterTables, MeasuringAgainKeepsEntriesOutsideThePalette) {
   EXPECT_EQ(ascii.CharBrightness[200], 0);
 }
 
-TEST(ColumnCount, PercentOfWhatFitsAcrossTheScreen) {
+TEST(Sizes, ColumnsOfTheScreenAndProportionsInCells) {
   BasAscii a;
-  struct Row {
-    int size, screen, cell, columns;
-  };
-  for (const Row& r : {Row{100, 1920, 5, 384},
-                       {50, 1024, 7, 73},
-                       {1, 250, 5, 1},
-                       {5, 50, 5, 1},
-                       {25, 60, 6, 2},
-                       {75, 70, 7, 8},
-                       {198, 1366, 8, 337}}) {
-    a.CellWidth = r.cell;
-    ComputeColumnCount(a, r.size, r.screen);
-    EXPECT_EQ(a.AsciiColumns, r.columns) << r.size << " " << r.screen;
+  const int columns[][4] = {// size, screen, cell, columns
+                            {100, 1920, 5, 384}, {50, 1024, 7, 73}, {1, 250, 5, 1},     {5, 50, 5, 1},
+                            {25, 60, 6, 2},      {75, 70, 7, 8},    {198, 1366, 8, 337}};
+  for (const auto& [size, screen, cell, want] : columns) {
+    a.CellWidth = cell;
+    ComputeColumnCount(a, size, screen);
+    EXPECT_EQ(a.AsciiColumns, want) << size << " " << screen;
   }
-}
-
-TEST(ResizedExtent, KeepsProportionsInCells) {
-  BasAscii a;
   a.CellWidth = 5;
   a.CellHeight = 10;
-  struct Row {
-    int columns;
-    Extent source;
-    int method;
-    Extent want;
-  };
-  for (const Row& r : {Row{100, {400, 300}, 0, {100, 38}},  // 37.5 to even
-                       {100, {400, 296}, 0, {100, 37}},
-                       {20, {40, 18}, 0, {20, 4}},  // 4.5 to even
-                       {100, {400, 300}, 2, {300, 112}},
-                       {10, {1000, 1}, 0, {10, 1}}}) {
-    a.AsciiColumns = r.columns;
-    EXPECT_EQ(ResizedExtent(a, r.source, r.method), r.want) << r.columns;
+  const int extents[][6] = {                              // columns, source, method, result
+                            {100, 400, 300, 0, 100, 38},  // 37.5 to even
+                            {100, 400, 296, 0, 100, 37},
+                            {20, 40, 18, 0, 20, 4},  // 4.5 to even
+                            {100, 400, 300, 2, 300, 112},
+                            {10, 1000, 1, 0, 10, 1}};
+  for (const auto& [count, width, height, method, across, down] : extents) {
+    a.AsciiColumns = count;
+    EXPECT_EQ(ResizedExtent(a, {width, height}, method), (Extent{across, down})) << width << " x " << height;
   }
 }
 
-class Grayscale : public testing::Test {
- protected:
+TEST(Grayscale, RowsLuminosityAndDriver) {
   BasAscii ascii;
-  void SetUp() override {
-    for (std::size_t g = 0; g < 256; ++g) ascii.GrayToChar[g] = g < 50 ? '#' : g < 200 ? '+' : '.';
-  }
-};
-
-TEST_F(Grayscale, OneCharacterAPixel) {
-  EXPECT_EQ(ConvertGrayscale(ascii, 0, Grays({{0, 49, 50}, {199, 200, 255}})), "##+\r\n+..");
-}
-
-TEST_F(Grayscale, LuminosityCountsTwiceAndIsClamped) {
-  EXPECT_EQ(ConvertGrayscale(ascii, 25, Grays({{0, 149, 150}})), "++.");
-  EXPECT_EQ(ConvertGrayscale(ascii, -75, Grays({{255, 199, 200}})), "+#+");
-  EXPECT_EQ(ConvertGrayscale(ascii, 100, Grays({{0, 255}})), "..");
-}
-
-TEST_F(Grayscale, DroppedRowsLeaveTheirLineBreaksAtTheEnd) {
-  EXPECT_EQ(ConvertGrayscale(ascii, 0, Grays({{0, 0}, {0, 90}, {0, 0}, {90, 90}})), "#+\r\n++\r\n\r\n");
-  EXPECT_EQ(ConvertGrayscale(ascii, 0, Grays({{0}, {0}, {0}})), "\r\n\r\n");
-  EXPECT_EQ(ConvertGrayscale(ascii, 0, Grays({{0}})), "");
-}
-
-TEST_F(Grayscale, DriverStretchesAndReplacesTheText) {
+  for (std::size_t g = 0; g < 256; ++g) ascii.GrayToChar[g] = g < 50 ? '#' : g < 200 ? '+' : '.';
+  struct Row {
+    int luminosity;
+    std::vector<std::vector<int>> grays;
+    const char* text;
+  };
+  for (const Row& r : {Row{0, {{0, 49, 50}, {199, 200, 255}}, "##+\r\n+.."},
+                       {25, {{0, 149, 150}}, "++."},  // it counts twice and is limited
+                       {-75, {{255, 199, 200}}, "+#+"},
+                       {100, {{0, 255}}, ".."},
+                       // dropped rows leave their line breaks at the end
+                       {0, {{0, 0}, {0, 90}, {0, 0}, {90, 90}}, "#+\r\n++\r\n\r\n"},
+                       {0, {{0}, {0}, {0}}, "\r\n\r\n"},
+                       {0, {{0}}, ""}})
+    EXPECT_EQ(ConvertGrayscale(ascii, r.luminosity, Grays(r.grays)), r.text);
   ascii.CellWidth = ascii.CellHeight = 1;
   ascii.AsciiColumns = 4;
   ascii.ProducedText = "antes";

@@ -1,15 +1,16 @@
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
+#include <memory>
 #include <sys/resource.h>
 #include <sys/wait.h>
-#include <cstdio>
-#include <memory>
 #include <unistd.h>
 
 #include "platform/AtomicFile.h"
+#include "tests/support/TestFolder.h"
 
 using namespace pixmosa;
 namespace fs = std::filesystem;
@@ -40,40 +41,39 @@ extern "C" int fdatasync(int) {
 
 class AtomicFileTest : public testing::Test {
  protected:
-  fs::path dir = fs::temp_directory_path() / ("pixmosa-atomic-" + std::to_string(::getpid()));
-  void SetUp() override { fs::create_directories(dir); }
-  void TearDown() override { fs::remove_all(dir); }
-  std::size_t Entries() const {
-    return static_cast<std::size_t>(std::distance(fs::directory_iterator(dir), fs::directory_iterator()));
+  test::TestFolder folder;
+  const fs::path& dir = folder.Path();
+  fs::path file = dir / "a";
+
+  std::ptrdiff_t Entries() const {
+    return std::distance(fs::directory_iterator(dir), fs::directory_iterator());
   }
 };
 
 TEST_F(AtomicFileTest, ReplacesWholeOrNotAtAll) {
-  const fs::path file = dir / "dibujo.txt";
-  EscribirArchivo(file, "uno");
-  {
-    AtomicFile half(file);
-    half.Write("a medias");
-  }
-  EXPECT_EQ(LeerArchivo(file), "uno");
-  EXPECT_EQ(Entries(), 1U) << "nothing is left beside the file";
   EscribirArchivo(file, std::string("d\0s", 3));
+  AtomicFile(file).Write("a medias");
   EXPECT_EQ(LeerArchivo(file), std::string("d\0s", 3));
+  EXPECT_EQ(Entries(), 1) << "nothing is left beside the file";
 }
 
-TEST_F(AtomicFileTest, KeepsLinksAndPermissions) {
-  const fs::path file = dir / "a", link = dir / "enlace";
+TEST_F(AtomicFileTest, KeepsPermissionsAndFollowsLinks) {
   EscribirArchivo(file, "x");
   fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
-  fs::create_symlink("a", link);
-  EscribirArchivo(link, "y");
-  EXPECT_TRUE(fs::is_symlink(link));
-  EXPECT_EQ(LeerArchivo(file), "y");
+  fs::create_directory(dir / "sub");
+  const std::pair<const char*, const char*> links[] = {
+      {"a", "enlace"}, {"sub/otro", "lejos"}, {"../meta", "sub/otro"}, {"vuelta", "vuelta"}};
+  for (const auto& [to, name] : links) fs::create_symlink(to, dir / name);
+  EscribirArchivo(dir / "enlace", "y");
+  EscribirArchivo(dir / "lejos", "z");
+  for (const char* link : {"enlace", "lejos", "sub/otro"}) EXPECT_TRUE(fs::is_symlink(dir / link)) << link;
+  EXPECT_EQ(LeerArchivo(file) + LeerArchivo(dir / "meta"), "yz")
+      << "a link to nothing makes what it points to";
   EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_THROW(EscribirArchivo(dir / "vuelta", "x"), FileError);
 }
 
 TEST_F(AtomicFileTest, IsOnTheDiskBeforeItTakesItsPlace) {
-  const fs::path file = dir / "a";
   EscribirArchivo(file, "antes");
   std::string seen;
   flushing = [&] {
@@ -90,19 +90,7 @@ TEST_F(AtomicFileTest, IsOnTheDiskBeforeItTakesItsPlace) {
   EXPECT_EQ(seen, "antes8");
 }
 
-TEST_F(AtomicFileTest, ALinkToNothingMakesWhatItPointsTo) {
-  fs::create_directory(dir / "sub");
-  fs::create_symlink("sub/enlace2", dir / "enlace");
-  fs::create_symlink("../meta", dir / "sub" / "enlace2");
-  EscribirArchivo(dir / "enlace", "x");
-  EXPECT_TRUE(fs::is_symlink(dir / "enlace") && fs::is_symlink(dir / "sub" / "enlace2"));
-  EXPECT_EQ(LeerArchivo(dir / "meta"), "x");
-  fs::create_symlink("vuelta", dir / "vuelta");
-  EXPECT_THROW(EscribirArchivo(dir / "vuelta", "x"), FileError);
-}
-
 TEST_F(AtomicFileTest, ASignalLeavesTheEarlierFileAndNothingElse) {
-  const fs::path file = dir / "a";
   EscribirArchivo(file, "antes");
   for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
     const int status = StatusOf([&] {
@@ -114,7 +102,7 @@ TEST_F(AtomicFileTest, ASignalLeavesTheEarlierFileAndNothingElse) {
     });
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal);
     EXPECT_EQ(LeerArchivo(file), "antes");
-    EXPECT_EQ(Entries(), 1U);
+    EXPECT_EQ(Entries(), 1);
   }
   EXPECT_EQ(StatusOf([] {
               ::signal(SIGHUP, SIG_IGN);  // as nohup does
@@ -125,7 +113,6 @@ TEST_F(AtomicFileTest, ASignalLeavesTheEarlierFileAndNothingElse) {
 }
 
 TEST_F(AtomicFileTest, TheLimitOfAFilesSizeIsSaid) {
-  const fs::path file = dir / "a";
   const int status = StatusOf([&] {
     QuitarTemporalesAlTerminar();
     const rlimit limit{4096, 4096};
@@ -138,17 +125,16 @@ TEST_F(AtomicFileTest, TheLimitOfAFilesSizeIsSaid) {
     }
   });
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 7);
-  EXPECT_EQ(Entries(), 0U);
+  EXPECT_EQ(Entries(), 0);
 }
 
-TEST_F(AtomicFileTest, EveryReasonIsSpanish) {
+TEST(RazonDelError, IsSpanish) {
   for (int error = 1; error < 140; ++error) {
     const std::string reason = RazonDelError(error);
     EXPECT_EQ(reason.find(std::strerror(error)), std::string::npos) << reason;
     EXPECT_TRUE(reason == "error del sistema " + std::to_string(error) || !std::isdigit(reason.back()));
   }
   EXPECT_EQ(RazonDelError(EMFILE), "hay demasiados archivos abiertos");
-  EXPECT_EQ(RazonDelError(ECHRNG), "error del sistema " + std::to_string(ECHRNG));
   for (const int usual :
        {EACCES, EPERM,  ENOENT, EISDIR, ENOTDIR, ENOSPC,  EDQUOT, EROFS,  ENAMETOOLONG, EFBIG,  EIO,
         ELOOP,  ENOMEM, EMFILE, ENFILE, EBUSY,   ETXTBSY, ENXIO,  EINVAL, EPIPE,        ESTALE, EAGAIN})
@@ -156,32 +142,31 @@ TEST_F(AtomicFileTest, EveryReasonIsSpanish) {
 }
 
 TEST_F(AtomicFileTest, SaysWhatIsWrong) {
-  const auto reason = [](auto&& work) -> std::string {
-    try {
-      work();
-    } catch (const FileError& e) {
-      return e.what();
-    }
-    return "";
-  };
-  const std::string d = dir.string();
-  EXPECT_EQ(reason([&] { EscribirArchivo(dir, "x"); }),
-            "No se ha podido escribir \"" + d + "\": es una carpeta.");
-  EXPECT_EQ(reason([&] { EscribirArchivo(dir / "no" / "hay", "x"); }),
-            "No se ha podido escribir \"" + d + "/no/hay\": no existe.");
-  EXPECT_EQ(reason([&] { EscribirArchivo("/dev/full", "x"); }),
-            "No se ha podido escribir \"/dev/full\": no queda espacio en el disco.");
-  EXPECT_EQ(reason([&] { LeerArchivo(dir / "nada"); }),
-            "No se ha podido leer \"" + d + "/nada\": no existe.");
-  EXPECT_EQ(reason([&] { LeerArchivo(dir); }), "No se ha podido leer \"" + d + "\": es una carpeta.");
-  EXPECT_EQ(reason([&] { LeerArchivo("/dev/zero", 1000); }),
-            "No se ha podido leer \"/dev/zero\": el archivo es demasiado grande.");
-  EscribirArchivo(dir / "f", "abc");
-  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(std::fopen((dir / "f").c_str(), "rb"),
-                                                               std::fclose);
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> stream(std::tmpfile(), std::fclose);
+  std::fputs("abc", stream.get());
+  std::rewind(stream.get());
   EXPECT_EQ(std::fgetc(stream.get()), 'a');
   EXPECT_EQ(LeerFlujo(stream.get(), "-", 2), "bc");
   std::rewind(stream.get());
-  EXPECT_EQ(reason([&] { LeerFlujo(stream.get(), "-", 2); }),
-            "No se ha podido leer \"-\": el archivo es demasiado grande.");
+  const std::string d = dir.string();
+  struct Row {
+    std::function<void()> work;
+    std::string said;
+  };
+  for (const Row& r :
+       {Row{[&] { EscribirArchivo(dir, "x"); }, "escribir \"" + d + "\": es una carpeta."},
+        {[&] { EscribirArchivo(dir / "no" / "hay", "x"); }, "escribir \"" + d + "/no/hay\": no existe."},
+        {[] { EscribirArchivo("/dev/full", "x"); }, "escribir \"/dev/full\": no queda espacio en el disco."},
+        {[&] { LeerArchivo(dir / "nada"); }, "leer \"" + d + "/nada\": no existe."},
+        {[&] { LeerArchivo(dir); }, "leer \"" + d + "\": es una carpeta."},
+        {[] { LeerArchivo("/dev/zero", 1000); }, "leer \"/dev/zero\": el archivo es demasiado grande."},
+        {[&] { LeerFlujo(stream.get(), "-", 2); }, "leer \"-\": el archivo es demasiado grande."}}) {
+    std::string said;
+    try {
+      r.work();
+    } catch (const FileError& e) {
+      said = e.what();
+    }
+    EXPECT_EQ(said, "No se ha podido " + r.said);
+  }
 }

@@ -11,14 +11,13 @@ namespace pixmosa::test {
 class RecordingProgress final : public Progress {
  public:
   std::vector<int> values;
-  int yields = 0, shown = 0, hidden = 0;
+  int shown = 0, hidden = 0;
   std::function<void()> onYield;  // runs inside each yield, as an event handler would
 
   void Show() override { ++shown; }
   void Hide() override { ++hidden; }
   void SetValue(int percent) override { values.push_back(percent); }
   void Yield() override {
-    ++yields;
     if (onYield) onYield();
   }
 };

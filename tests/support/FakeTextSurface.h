@@ -14,8 +14,6 @@ class FakeTextSurface final : public TextSurface {
  public:
   Extent cell{4, 5};
   std::array<int, 256> ink{};  // black pixels of each code, filled from the cell's top left
-  std::vector<std::string> fixedFonts{"DejaVu Sans Mono"};
-  int screenWidth = 1000;
   std::vector<Font> measured;  // every font that was asked for
 
   Extent GetTextSize(const Font& font, std::string_view text) override {
@@ -33,8 +31,8 @@ class FakeTextSurface final : public TextSurface {
     return p;
   }
 
-  std::vector<std::string> ListFixedFonts() override { return fixedFonts; }
-  int ScreenWidth() override { return screenWidth; }
+  std::vector<std::string> ListFixedFonts() override { return {"DejaVu Sans Mono"}; }
+  int ScreenWidth() override { return 1000; }
 };
 
 }  // namespace pixmosa::test

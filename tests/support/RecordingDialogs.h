@@ -15,7 +15,7 @@ namespace pixmosa::test {
 class RecordingDialogs final : public Dialogs {
  public:
   std::vector<std::string> log;
-  std::vector<std::string> proposals, details;  // of SaveFile and Fail
+  std::vector<std::string> details;  // of Fail
   std::deque<std::string> paths;
   std::deque<Colour> colours;
   std::deque<FontChoice> fonts;
@@ -23,8 +23,7 @@ class RecordingDialogs final : public Dialogs {
   std::deque<Respuesta> respuestas;  // to AskToSave
 
   std::string OpenFile(const std::string& title, const std::string& filter) override {
-    log.push_back("OpenFile|" + title + "|" + filter);
-    return Take(paths, {});
+    return Path("OpenFile|" + title + "|" + filter);
   }
   std::vector<std::string> OpenFiles(const std::string& title, const std::string& filter) override {
     log.push_back("OpenFiles|" + title + "|" + filter);
@@ -33,31 +32,24 @@ class RecordingDialogs final : public Dialogs {
     return all;
   }
   std::string SaveFile(const std::string& title, const std::string& filter, const std::string& extension,
-                       const std::string& proposal) override {
-    log.push_back("SaveFile|" + title + "|" + filter + "|" + extension);
-    proposals.push_back(proposal);
-    return Take(paths, {});
+                       const std::string&) override {
+    return Path("SaveFile|" + title + "|" + filter + "|" + extension);
   }
-  std::string ChooseFolder(const std::string& title) override {
-    log.push_back("ChooseFolder|" + title);
-    return Take(paths, {});
-  }
+  std::string ChooseFolder(const std::string& title) override { return Path("ChooseFolder|" + title); }
   Colour ChooseColour(Colour current) override {
-    log.push_back("ChooseColour|" + std::to_string(current));
-    return Take(colours, kNoColour);
+    return Take(colours, kNoColour, "ChooseColour|" + std::to_string(current));
   }
   std::optional<FontChoice> ChooseFont(const Font& current) override {
-    log.push_back("ChooseFont|" + current.name + "|" + std::to_string(current.points));
-    if (fonts.empty()) return std::nullopt;
-    return Take(fonts, {});
+    const bool any = !fonts.empty();
+    const FontChoice chosen =
+        Take(fonts, {}, "ChooseFont|" + current.name + "|" + std::to_string(current.points));
+    return any ? std::optional(chosen) : std::nullopt;
   }
   bool Ask(const std::string& text, const std::string& title) override {
-    log.push_back("Ask|" + title + "|" + text);
-    return Take(answers, false);
+    return Take(answers, false, "Ask|" + title + "|" + text);
   }
   Respuesta AskToSave(const std::string& text, const std::string& title) override {
-    log.push_back("AskToSave|" + title + "|" + text);
-    return Take(respuestas, Respuesta::Cancelar);
+    return Take(respuestas, Respuesta::Cancelar, "AskToSave|" + title + "|" + text);
   }
   void Inform(const std::string& text, const std::string& title) override {
     log.push_back("Inform|" + title + "|" + text);
@@ -69,12 +61,14 @@ class RecordingDialogs final : public Dialogs {
 
  private:
   template <typename T>
-  static T Take(std::deque<T>& script, T otherwise) {
+  T Take(std::deque<T>& script, T otherwise, const std::string& call) {
+    log.push_back(call);
     if (script.empty()) return otherwise;
-    T answer = script.front();
+    const T answer = script.front();
     script.pop_front();
     return answer;
   }
+  std::string Path(const std::string& call) { return Take(paths, {}, call); }
 };
 
 class RecordingShell final : public Shell {
@@ -83,17 +77,17 @@ class RecordingShell final : public Shell {
   std::string clipboard;  // 8-bit code page
   bool found = true;      // what Open and StartCharacterMap answer
 
-  bool Open(const std::string& fileOrLink) override {
-    log.push_back("Open|" + fileOrLink);
-    return found;
-  }
-  bool StartCharacterMap() override {
-    log.push_back("StartCharacterMap");
-    return found;
-  }
+  bool Open(const std::string& fileOrLink) override { return Log("Open|" + fileOrLink); }
+  bool StartCharacterMap() override { return Log("StartCharacterMap"); }
   void CopyText(std::string_view text) override {
-    log.push_back("CopyText");
+    Log("CopyText");
     clipboard = text;
+  }
+
+ private:
+  bool Log(const std::string& call) {
+    log.push_back(call);
+    return found;
   }
 };
 

@@ -12,54 +12,35 @@ namespace fs = std::filesystem;
 
 TEST(PrivateFolder, IsClosedToOthersAndGoneAfterwards) {
   const test::TestFolder temp;
-  fs::path path;
-  {
-    const PrivateFolder folder(temp.Path(), "KTW");
-    path = folder.Path();
-    EXPECT_EQ(path, temp.Path() / "KTW");
-    EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_all);
-    EscribirArchivo(path / "Fotograma 01.bmp", "x");
+  const fs::path path = temp.Path() / "KTW";
+  for (const bool more : {false, true}) {
+    {
+      const PrivateFolder folder(temp.Path(), "KTW"), second(temp.Path(), "KTW");
+      EXPECT_EQ(folder.Path(), path);
+      EXPECT_NE(second.Path(), path) << "two programs do not share one";
+      EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_all);
+      EscribirArchivo(path / "a.bmp", "x");
+      if (more) EscribirArchivo(path / "otro.txt", "x");
+    }
+    EXPECT_EQ(fs::exists(path), more) << "the folder stays while anything else remains in it";
+    EXPECT_FALSE(fs::exists(path / "a.bmp"));
   }
-  EXPECT_FALSE(fs::exists(path));
-  {
-    const PrivateFolder folder(temp.Path(), "KTW");
-    EscribirArchivo(path / "otro.txt", "x");
-    EscribirArchivo(path / "a.bmp", "x");
-  }
-  EXPECT_TRUE(fs::exists(path / "otro.txt")) << "the folder stays while anything else remains in it";
-  EXPECT_FALSE(fs::exists(path / "a.bmp"));
-}
-
-TEST(PrivateFolder, TwoProgramsDoNotShareOne) {
-  const test::TestFolder temp;
-  const PrivateFolder first(temp.Path(), "KTW");
-  EscribirArchivo(first.Path() / "a.bmp", "x");
-  {
-    const PrivateFolder second(temp.Path(), "KTW");
-    EXPECT_NE(second.Path(), first.Path());
-  }
-  EXPECT_TRUE(fs::exists(first.Path() / "a.bmp"));
 }
 
 TEST(PrivateFolder, WhatAnEndedProgramLeftIsCleared) {
   const test::TestFolder temp;
-  const std::vector<std::string> own = {"KTW", "KTW-a1B2c3"}, others = {"KTW-largos1", "KTWa1B2c3x", "otra"};
-  for (const std::string& name : own) {
+  for (const char* name : {"KTW", "KTW-a1B2c3", "KTW-largos1", "KTWa1B2c3x", "otra"}) {
     fs::create_directory(temp.Path() / name);
     fs::permissions(temp.Path() / name, fs::perms::owner_all);
-    EscribirArchivo(temp.Path() / name / "Fotograma 01.bmp", "x");
-    EscribirArchivo(temp.Path() / name / ".Fotograma 02.bmp.0a1b2c3d.tmp", "x");
-  }
-  for (const std::string& name : others) {
-    fs::create_directory(temp.Path() / name);
-    fs::permissions(temp.Path() / name, fs::perms::owner_all);
-    EscribirArchivo(temp.Path() / name / "a.bmp", "x");
+    for (const char* file : {"a.bmp", ".Fotograma 02.bmp.0a1b2c3d.tmp"})
+      EscribirArchivo(temp.Path() / name / file, "x");
   }
   const PrivateFolder first(temp.Path(), "KTW");
   EXPECT_EQ(first.Path(), temp.Path() / "KTW");
   EXPECT_TRUE(fs::is_empty(first.Path()));
-  EXPECT_FALSE(fs::exists(temp.Path() / own[1]));
-  for (const std::string& name : others) EXPECT_TRUE(fs::exists(temp.Path() / name / "a.bmp")) << name;
+  EXPECT_FALSE(fs::exists(temp.Path() / "KTW-a1B2c3"));
+  for (const char* other : {"KTW-largos1", "KTWa1B2c3x", "otra"})
+    EXPECT_TRUE(fs::exists(temp.Path() / other / "a.bmp")) << other;
   const PrivateFolder second(temp.Path(), "KTW");
   EscribirArchivo(second.Path() / "a.bmp", "x");
   const PrivateFolder third(temp.Path(), "KTW");
