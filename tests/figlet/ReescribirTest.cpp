@@ -14,18 +14,19 @@ namespace {
 // The seven additional characters and four tagged ones.
 std::string More(const std::string& hardBlank, const std::string& mark, const std::string& end) {
   std::string more;
-  const auto glyph = [&](const std::string& art) {
-    more += art + mark + end + hardBlank + "_" + mark + mark + end;
-  };
-  for (int i = 0; i < 7; ++i) glyph("a" + std::to_string(i));
-  more += "0x00F1 LATIN SMALL LETTER N WITH TILDE" + end;
-  glyph("n~");
-  more += "8364  EURO SIGN" + end;
-  glyph("E=");
-  more += "-5 nothing" + end;
-  glyph("??");
-  more += "0277 octal" + end;
-  glyph("?%");
+  for (const auto& [tag, art] :
+       std::vector<std::pair<std::string, std::string>>{{"", "a0"},
+                                                        {"", "a1"},
+                                                        {"", "a2"},
+                                                        {"", "a3"},
+                                                        {"", "a4"},
+                                                        {"", "a5"},
+                                                        {"", "a6"},
+                                                        {"0x00F1 LATIN SMALL LETTER N WITH TILDE", "n~"},
+                                                        {"8364  EURO SIGN", "E="},
+                                                        {"-5 nothing", "??"},
+                                                        {"0277 octal", "?%"}})
+    more += (tag.empty() ? "" : tag + end) + art + mark + end + hardBlank + "_" + mark + mark + end;
   return more;
 }
 
