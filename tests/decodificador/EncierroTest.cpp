@@ -8,8 +8,8 @@
 #include <thread>
 #include <unistd.h>
 
-#include "platform/AtomicFile.h"
 #include "decodificador/Encierro.h"
+#include "platform/AtomicFile.h"
 #include "tests/support/TestFolder.h"
 
 using namespace pixmosa;

@@ -8,57 +8,50 @@ using namespace pixmosa;
 using test::Rows;
 using Strings = std::vector<std::string>;
 
-TEST(EditorCells, PointerPositionsRoundHalfToEven) {
-  for (const auto& [p, c] : std::vector<std::pair<Point, Cell>>{{{0, 0}, {0, 0}},
-                                                                {{4, 6}, {1, 1}},
-                                                                {{8, 12}, {2, 2}},
-                                                                {{16, 24}, {2, 2}},
-                                                                {{24, 36}, {4, 4}},
-                                                                {{32, 48}, {4, 4}},
-                                                                {{7, 11}, {1, 1}},
-                                                                {{1, 1}, {1, 1}},
-                                                                {{-12, 899}, {-1, 75}},
-                                                                {{799, 900}, {100, 76}}})
-    EXPECT_EQ(CellFromPoint(p), c) << p.x << "," << p.y;
-  EXPECT_EQ(PointFromCell({1, 1}), (Point{0, 0}));
+class BasEditorTest : public testing::Test {
+ protected:
+  BasEditor e;
+};
+
+TEST_F(BasEditorTest, PointerPositionsRoundHalfToEven) {
+  // A point, its cell, its nearest corner of cells.
+  constexpr int kRows[][6] = {
+      {0, 0, 0, 0, 0, 0},           {4, 6, 1, 1, 0, 0},           {8, 12, 2, 2, 8, 12},
+      {12, 18, 2, 2, 16, 24},       {16, 24, 2, 2, 16, 24},       {24, 36, 4, 4, 24, 36},
+      {32, 48, 4, 4, 32, 48},       {7, 11, 1, 1, 8, 12},         {1, 1, 1, 1, 0, 0},
+      {-12, 899, -1, 75, -16, 900}, {799, 900, 100, 76, 800, 900}};
+  for (const auto& r : kRows) {
+    EXPECT_EQ(CellFromPoint({r[0], r[1]}), (Cell{r[2], r[3]})) << r[0];
+    EXPECT_EQ(SnapToLattice({r[0], r[1]}), (Point{r[4], r[5]})) << r[0];
+  }
   EXPECT_EQ(PointFromCell({100, 75}), (Point{792, 888}));
-  for (const auto& [p, q] :
-       std::vector<std::pair<Point, Point>>{{{4, 6}, {0, 0}}, {{12, 18}, {16, 24}}, {{-5, 100}, {-8, 96}}})
-    EXPECT_EQ(SnapToLattice(p), q) << "halves go to the even corner";
 }
 
-TEST(EditorPainting, OnlyValidCells) {
-  BasEditor e;
+TEST_F(BasEditorTest, OnlyValidCellsArePainted) {
   for (const Cell c : {Cell{-1, 0}, {101, 0}, {0, -1}, {0, 75}, {5, 75}, {32767, 3}})
     PintarCaracter(e, c.column, c.row, 'x');
   EXPECT_EQ(e.Grid, Characters());
   PintarCaracter(e, 0, 0, 'a');
   PintarCaracter(e, 100, 74, 'b');
   EXPECT_EQ(e.Changed, (std::vector<Cell>{{0, 0}, {100, 74}}));
-  PaintText(e, "\rab");
+  PaintText(e, "abc\r\nde\rf" + std::string(70, '\r') + "y\rz\rz");
+  EXPECT_EQ(Rows(e.Grid, 1, 3, 3), (Strings{"abc", "\nde", "f  "})) << "LF is a character";
+  EXPECT_EQ(Rows(e.Grid, 73, 75, 1), (Strings{"y", "z", " "}));
   EraseCell(e, {1, 2});
   EraseCell(e, {300, 300});
-  EXPECT_EQ(Rows(e.Screen, 2, 2, 2), Strings{" b"});
-  EXPECT_EQ(Rows(e.Grid, 2, 2, 2), Strings{"ab"}) << "the eraser leaves the grid";
+  EXPECT_EQ(Rows(e.Screen, 2, 2, 3), Strings{" de"});
+  EXPECT_EQ(Rows(e.Grid, 2, 2, 3), Strings{"\nde"}) << "the eraser leaves the grid";
+  e.AllChanged = false;
   Clear(e);
+  EXPECT_TRUE(e.AllChanged);
   EXPECT_EQ(e.Screen, Characters());
   EXPECT_EQ(e.Grid.At({100, 74}), 'b') << "Clear leaves the last column";
   EXPECT_EQ(e.Grid.At({0, 0}), ' ');
-}
-
-TEST(EditorPainting, TextsKeepTheirLineFeedsAsCells) {
-  BasEditor e;
-  PaintText(e, "abc\r\nde\rf");
-  EXPECT_EQ(Rows(e.Grid, 1, 3, 3), (Strings{"abc", "\nde", "f  "}));
   PaintText(e, std::string(1'000'000, 'x'));
-  EXPECT_EQ(e.Grid.At({100, 1}), 'x');
-  EXPECT_EQ(e.Grid.At({0, 1}), ' ');
-  PaintText(e, std::string(73, '\r') + "y\rz\rz");
-  EXPECT_EQ(e.Grid.At({1, 74}), 'y');
-  EXPECT_EQ(e.Grid.At({1, 75}), ' ');
+  EXPECT_EQ(std::string({e.Grid.At({100, 1}), e.Grid.At({0, 1}), e.Grid.At({1, 2})}), "x  ");
 }
 
-TEST(EditorBoxes, CornersSidesAndInside) {
+TEST_F(BasEditorTest, BoxesHaveCornersSidesAndInside) {
   struct Row {
     Point a, b;
     bool filled;
@@ -70,60 +63,58 @@ TEST(EditorBoxes, CornersSidesAndInside) {
                        {{0, 0}, {16, 36}, true, {"++   ", "||   ", "++   "}},
                        {{0, 0}, {32, 12}, false, {"+--+ ", "     ", "     "}},
                        {{40, 36}, {8, 0}, false, {" +--+", " |  |", " +--+"}},
-                       {{8, 36}, {40, 0}, true, {" +--+", " |##|", " +--+"}},
-                       {{-80, -120}, {4000, 4000}, true, {"#####", "#####", "#####"}}}) {
-    BasEditor e;
-    DrawBox(e, r.a, r.b, r.filled);
-    EXPECT_EQ(Rows(e.Grid, 1, 3, 5), r.rows) << r.a.x << "," << r.a.y << " " << r.b.x << "," << r.b.y;
+                       {{8, 36}, {40, 0}, true, {" +--+", " |oo|", " +--+"}},
+                       {{-80, -120}, {4000, 4000}, true, {"ooooo", "ooooo", "ooooo"}}}) {
+    BasEditor box;
+    box.CurrentChar = 'o';
+    DrawBox(box, r.a, r.b, r.filled);
+    EXPECT_EQ(Rows(box.Grid, 1, 3, 5), r.rows) << r.a.x << "," << r.a.y << " " << r.b.x << "," << r.b.y;
   }
 }
 
-TEST(EditorFill, FillsTheRegionAndNothingElse) {
-  BasEditor e;
+TEST_F(BasEditorTest, FillsTheRegionAndNothingElse) {
   DrawBox(e, {8, 12}, {48, 60}, false);  // columns 2..6, rows 2..5
-  FloodFill(e, {4, 3});
-  EXPECT_EQ(Rows(e.Grid, 1, 6, 7),
-            (Strings{"       ", " +---+ ", " |###| ", " |###| ", " +---+ ", "       "}));
-  e.CurrentChar = 'o';
-  FloodFill(e, {2, 3});  // the left side: two bars between corners
-  EXPECT_EQ(Rows(e.Grid, 2, 5, 3), (Strings{" +-", " o#", " o#", " +-"}));
-  const Characters before = e.Grid;
-  for (const auto& [c, ch] : {std::pair{Cell{2, 2}, 'o'}, {Cell{50, 50}, ' '}, {Cell{-3, 900}, 'o'}}) {
-    e.CurrentChar = ch;
-    FloodFill(e, c);
-    EXPECT_EQ(e.Grid, before) << "alone among others, the character that is there, outside";
+  // From a place of the drawing with a character, and what rows 1..6 then show.
+  struct Row {
+    Cell from;
+    char with;
+    Strings rows;
+  };
+  const Strings filled{"       ", " +---+ ", " |###| ", " |###| ", " +---+ ", "       "},
+      side{"       ", " +---+ ", " o###| ", " o###| ", " +---+ ", "       "};
+  for (const auto& [from, with, rows] :
+       {Row{{4, 3}, '#', filled},
+        {{2, 3}, 'o', side},     // two bars between corners
+        {{2, 2}, 'o', side},     // alone among others
+        {{50, 50}, ' ', side},   // the character that is there
+        {{-3, 900}, 'o', side},  // outside
+        {{50, 75}, '.', {".......", ".+---+.", ".o###|.", ".o###|.", ".+---+.", "......."}}}) {
+    e.CurrentChar = with;
+    FloodFill(e, from);
+    EXPECT_EQ(Rows(e.Grid, 1, 6, 7), rows) << from.column;
   }
-  e.CurrentChar = '.';
-  FloodFill(e, {50, 75});  // from a row that cannot be painted
   EXPECT_EQ(std::string({e.Grid.At({0, 0}), e.Grid.At({100, 74}), e.Grid.At({50, 75})}), ".. ");
 }
 
-TEST(EditorTransformations, FlipsShiftTheDrawing) {
-  const auto drawn = [](std::initializer_list<std::pair<Cell, char>> cells) {
-    BasEditor e;
-    for (const auto& [c, ch] : cells) PintarCaracter(e, c.column, c.row, ch);
-    return e;
-  };
-  BasEditor h = drawn({{{1, 0}, 'a'}, {{1, 1}, 'b'}, {{100, 2}, 'c'}, {{0, 2}, 'd'}});
-  FlipHorizontal(h);
-  EXPECT_EQ(h.Grid.At({100, 1}), 'a') << "the first line keeps column c at 101 - c";
-  EXPECT_EQ(h.Grid.At({1, 2}), '\n');
-  EXPECT_EQ(h.Grid.At({2, 3}), 'c') << "later lines begin with the LF";
-  EXPECT_EQ(h.Grid.At({100, 2}), ' ') << "pushed past the last column";
-  BasEditor v = drawn({{{7, 2}, 'a'}, {{7, 1}, 'b'}});
-  EraseCell(v, {7, 2});
-  FlipVertical(v);
-  EXPECT_EQ(v.Screen.At({9, 74}), 'a')
-      << "row r lands on 76 - r; column 7 is the eighth, behind the LF; erased ones come back";
-  EXPECT_EQ(v.Grid.At({9, 75}), ' ');
+TEST_F(BasEditorTest, FlipsShiftTheDrawing) {
+  PintarCaracter(e, 1, 0, 'a');
+  PintarCaracter(e, 1, 1, 'b');
+  PintarCaracter(e, 100, 2, 'c');
+  FlipHorizontal(e);
+  EXPECT_EQ(e.Grid.At({100, 1}), 'a') << "the first line keeps column c at 101 - c";
+  EXPECT_EQ(Rows(e.Grid, 2, 3, 3), (Strings{"\n  ", "\nc "})) << "later lines begin with the LF";
+  EXPECT_EQ(e.Grid.At({100, 2}), ' ') << "pushed past the last column";
+  EraseCell(e, {2, 3});
+  FlipVertical(e);
+  EXPECT_EQ(Rows(e.Screen, 72, 75, 5), (Strings{"\n \n  ", "\n \nc ", "\n \n  ", "     "}))
+      << "row r lands on 76 - r, its first column on the third; what was erased comes back";
   BasEditor empty;
   FlipVertical(empty);
   for (int row = 1; row <= 75; ++row)
     EXPECT_EQ(empty.Grid.At({1, row}), row >= 2 && row < 75 ? '\n' : ' ') << row;
 }
 
-TEST(EditorTransformations, CaseOfTheUnaccentedLetters) {
-  BasEditor e;
+TEST_F(BasEditorTest, CaseOfTheUnaccentedLetters) {
   PaintText(e, "aZ[`{ \xF1\xD1");
   e.Grid.At({3, 75}) = 'q';
   UpperToLower(e);
@@ -133,8 +124,7 @@ TEST(EditorTransformations, CaseOfTheUnaccentedLetters) {
   EXPECT_EQ(e.Grid.At({3, 75}), 'q');
 }
 
-TEST(Historial, UndoesAndRedoesWholeActions) {
-  BasEditor e;
+TEST_F(BasEditorTest, HistoryUndoesAndRedoesWholeActions) {
   Historial h;
   const auto act = [&](auto action) {
     h.Empezar(e);

@@ -56,176 +56,156 @@ class FrmEditorTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void FreeDrawingFollowsThePointer();
-  void ToolsFollowTheirGestures();
-  void MenusTransformAndUndo();
-  void SendsCopiesAndSaves();
-  void AsksBeforeLosingChanges();
-  void TheQuestionStandsOverTheEditor();
-  void SaysOnceWhatDoesNotFit();
-  void SurfaceShowsInk();
-};
-
-void FrmEditorTest::FreeDrawingFollowsThePointer() {
-  Editor e;
-  auto& list = Find<QListWidget>(e.window, "lstCaracteres");
-  QCOMPARE(list.count(), 96);
-  list.setCurrentRow('*' - 32);
-  e.Drag({{4, 6}, {12, 6}, {20, 18}, {-30, 6}, {5000, 6}, {30, 895}});
-  QCOMPARE(Rows(e.state.Grid, 1, 2, 4), (Strings{"**  ", "  * "}));
-  QCOMPARE(e.state.Grid.At({4, 75}), ' ');
-  QCOMPARE(Find<QLabel>(e.window, "posicion").text(), "(4,75)");
-  QTest::mouseClick(&e.surface, Qt::RightButton, {}, {60, 60});
-  QCOMPARE(e.state.Grid.At(CellFromPoint({60, 60})), ' ');
-  e.Trigger("mnuDeshacer");
-  QCOMPARE(e.state.Grid, Characters());  // the whole stroke
-  e.Trigger("Borrar");
-  QTest::mouseMove(&e.surface, {100, 100});
-  QCOMPARE(Find<QLabel>(e.window, "posicion").text(), "");
-}
-
-void FrmEditorTest::ToolsFollowTheirGestures() {
-  struct Row {
-    const char* tool;
-    std::initializer_list<QPoint> gesture;
-    Strings grid;  // rows 1..4 of a drawing of "aaa b"
-  };
-  for (const Row& r : {Row{"Borrar", {{4, 6}, {12, 6}}, {"aaa b ", "      ", "      ", "      "}},
-                       {"Caja", {{9, 13}, {20, 20}, {38, 45}}, {"aaa b ", " +--+ ", " |  | ", " +--+ "}},
-                       {"CajaR", {{40, 48}, {8, 12}}, {"aaa b ", " +--+ ", " |##| ", " +--+ "}},
-                       {"Rellenar", {{400, 400}, {12, 6}}, {"### b ", "      ", "      ", "      "}}}) {
-    Editor e("aaa b");
-    e.Trigger(r.tool);
-    e.Drag(r.gesture);
-    QCOMPARE(Rows(e.state.Grid, 1, 4, 6), r.grid);
-    QCOMPARE(Rows(e.state.Screen, 1, 1, 2)[0] == "  ", std::string(r.tool) == "Borrar");
+  void FreeDrawingFollowsThePointer() {
+    Editor e;
+    auto& list = Find<QListWidget>(e.window, "lstCaracteres");
+    QCOMPARE(list.count(), 96);
+    list.setCurrentRow('*' - 32);
+    e.Drag({{4, 6}, {12, 6}, {20, 18}, {-30, 6}, {5000, 6}, {30, 895}});
+    QCOMPARE(Rows(e.state.Grid, 1, 2, 4), (Strings{"**  ", "  * "}));
+    QCOMPARE(e.state.Grid.At({4, 75}), ' ');
+    QCOMPARE(Find<QLabel>(e.window, "posicion").text(), "(4,75)");
+    QTest::mouseClick(&e.surface, Qt::RightButton, {}, {60, 60});
+    QCOMPARE(e.state.Grid.At(CellFromPoint({60, 60})), ' ');
+    e.Trigger("mnuDeshacer");
+    QCOMPARE(e.state.Grid, Characters());  // the whole stroke
+    e.Trigger("Borrar");
+    QTest::mouseMove(&e.surface, {100, 100});
+    QCOMPARE(Find<QLabel>(e.window, "posicion").text(), "");
   }
-}
 
-void FrmEditorTest::MenusTransformAndUndo() {
-  Editor e("aB");
-  QVERIFY(!Find<QAction>(e.window, "mnuRehacer").isEnabled());
-  e.Trigger("mnuMinMay");
-  QCOMPARE(Rows(e.state.Grid, 1, 1, 2), (Strings{"AB"}));
-  e.Trigger("mnuMayMin");
-  QCOMPARE(Rows(e.state.Grid, 1, 1, 2), (Strings{"ab"}));
-  const Characters before = e.state.Grid;
-  for (const char* inert : {"mnureemplazar", "mnuFlipCaracterH", "mnuFlipCaracterV"}) e.Trigger(inert);
-  QCOMPARE(e.state.Grid, before);
-  e.Trigger("mnuFlipHorizontal");
-  QCOMPARE(e.state.Grid.At({1, 2}), '\n');
-  e.Trigger("mnuFlipVertical");
-  e.Trigger("mnuCLS");
-  for (int i = 0; i < 3; ++i) e.Trigger("mnuDeshacer");
-  QCOMPARE(e.state.Grid, before);
-  e.Trigger("mnuRehacer");
-  QCOMPARE(e.state.Grid.At({1, 2}), '\n');
-}
-
-void FrmEditorTest::SendsCopiesAndSaves() {
-  Editor e("ab\x1F \r\nc  ");
-  QSignalSpy sent(&e.window, &frmEditor::Enviado);
-  e.Trigger("mnuEnviar");
-  QCOMPARE(sent.takeFirst().at(0).value<std::string>(), "ab\x1F \r\nc  ");
-  e.Drag({{36, 6}});
-  const std::string text = "ab\x1F #\r\nc  ";
-  e.Trigger("mnuCopiar");
-  QCOMPARE(e.shell.clipboard, text);
-  e.dialogs.paths = {e.folder.File("d.txt"), "/dev/full"};
-  e.Trigger("mnuGuardarDibujo");
-  QCOMPARE(LeerArchivo(e.folder.File("d.txt")), text + "\r\n");
-  e.Trigger("mnuGuardarDibujo");
-  QCOMPARE(e.dialogs.log.back(),
-           "Fail|Error al guardar|No se ha podido escribir \"/dev/full\": no queda espacio en el disco.");
-}
-
-void FrmEditorTest::AsksBeforeLosingChanges() {
-  for (const bool reopen : {false, true}) {
-    Editor e("ab");
-    const auto lose = [&] { return reopen ? e.window.Abrir("cd") : e.window.close(); };
-    QVERIFY(lose() && e.dialogs.log.empty());  // nothing was changed
-    const auto draw = [&] {
-      e.window.Abrir("ab");
-      e.Drag({{100, 100}});
-      return DrawingText(e.state);
+  void ToolsFollowTheirGestures() {
+    struct Row {
+      const char* tool;
+      std::initializer_list<QPoint> gesture;
+      Strings grid;  // rows 1..4 of a drawing of "aaa b"
     };
-    const std::string drawn = draw();
-    QVERIFY(!lose());  // an empty script cancels
-    QCOMPARE(e.dialogs.log.size(), 1U);
-    QVERIFY(e.dialogs.log[0].starts_with(
-        "AskToSave|Editor Ascii|El dibujo tiene cambios que no se han guardado ni"));
-    e.dialogs.respuestas = {Respuesta::Guardar, Respuesta::Guardar, Respuesta::Descartar};
-    QVERIFY2(!lose(), "no file was chosen");
-    QCOMPARE(DrawingText(e.state), drawn);
-    QVERIFY(e.window.isVisible());
-    e.dialogs.paths = {e.folder.File("g.txt")};
-    QVERIFY(lose());
-    QCOMPARE(LeerArchivo(e.folder.File("g.txt")), drawn + "\r\n");
-    draw();
-    QVERIFY(lose());
-    QCOMPARE(DrawingText(e.state), reopen ? "cd" : drawn);
-    draw();
+    for (const Row& r : {Row{"Borrar", {{4, 6}, {12, 6}}, {"aaa b ", "      ", "      ", "      "}},
+                         {"Caja", {{9, 13}, {20, 20}, {38, 45}}, {"aaa b ", " +--+ ", " |  | ", " +--+ "}},
+                         {"CajaR", {{40, 48}, {8, 12}}, {"aaa b ", " +--+ ", " |##| ", " +--+ "}},
+                         {"Rellenar", {{400, 400}, {12, 6}}, {"### b ", "      ", "      ", "      "}}}) {
+      Editor e("aaa b");
+      e.Trigger(r.tool);
+      e.Drag(r.gesture);
+      QCOMPARE(Rows(e.state.Grid, 1, 4, 6), r.grid);
+      QCOMPARE(Rows(e.state.Screen, 1, 1, 2)[0] == "  ", std::string(r.tool) == "Borrar");
+    }
+  }
+
+  void MenusTransformAndUndo() {
+    Editor e("aB");
+    QVERIFY(!Find<QAction>(e.window, "mnuRehacer").isEnabled());
+    constexpr const char* kSteps[][2] = {
+        {"mnuMinMay", "AB"},        {"mnuMayMin", "ab"},        {"mnureemplazar", "ab"},
+        {"mnuFlipCaracterH", "ab"}, {"mnuFlipCaracterV", "ab"}, {"mnuFlipHorizontal", "  "},
+        {"mnuFlipVertical", "  "},  {"mnuCLS", "  "},           {"mnuDeshacer", "  "},
+        {"mnuDeshacer", "  "},      {"mnuDeshacer", "ab"},      {"mnuRehacer", "  "}};
+    for (const auto& [entry, shown] : kSteps) {
+      e.Trigger(entry);
+      QCOMPARE(Rows(e.state.Grid, 1, 1, 2), Strings{shown});
+    }
+    QCOMPARE(e.state.Grid.At({1, 2}), '\n');
+  }
+
+  void SendsCopiesAndSaves() {
+    Editor e("ab\x1F \r\nc  ");
+    QSignalSpy sent(&e.window, &frmEditor::Enviado);
     e.Trigger("mnuEnviar");
-    QVERIFY(lose());
+    QCOMPARE(sent.takeFirst().at(0).value<std::string>(), "ab\x1F \r\nc  ");
+    e.Drag({{36, 6}});
+    const std::string text = "ab\x1F #\r\nc  ";
+    e.Trigger("mnuCopiar");
+    QCOMPARE(e.shell.clipboard, text);
+    e.dialogs.paths = {e.folder.File("d.txt"), "/dev/full"};
+    e.Trigger("mnuGuardarDibujo");
+    QCOMPARE(LeerArchivo(e.folder.File("d.txt")), text + "\r\n");
+    e.Trigger("mnuGuardarDibujo");
+    QCOMPARE(e.dialogs.log.back(),
+             "Fail|Error al guardar|No se ha podido escribir \"/dev/full\": no queda espacio en el disco.");
   }
-}
 
-void FrmEditorTest::TheQuestionStandsOverTheEditor() {
-  QWidget other;
-  QtDialogs dialogs;
-  dialogs.SetOwner(&other);
-  Editor e;
-  for (const auto& [press, answer] : {std::pair{"", Respuesta::Cancelar},
-                                      {"Guardar", Respuesta::Guardar},
-                                      {"Descartar", Respuesta::Descartar},
-                                      {"Cancelar", Respuesta::Cancelar}}) {
-    QString seen;
-    QTimer::singleShot(0, [&, button = QString(press)] {
-      auto& box = *qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      seen = box.parentWidget()->objectName() + " " + box.defaultButton()->text();
-      for (QAbstractButton* b : box.buttons())
-        if (b->text() == button) b->click();
-      box.close();
-    });
-    QApplication::setActiveWindow(&e.window);
-    QCOMPARE(dialogs.AskToSave("texto", "título"), answer);
-    QCOMPARE(seen, "frmEditor Guardar");
+  void AsksBeforeLosingChanges() {
+    for (const bool reopen : {false, true}) {
+      Editor e("ab");
+      const auto lose = [&] { return reopen ? e.window.Abrir("cd") : e.window.close(); };
+      QVERIFY(lose() && e.dialogs.log.empty());  // nothing was changed
+      const auto draw = [&] {
+        e.window.Abrir("ab");
+        e.Drag({{100, 100}});
+        return DrawingText(e.state);
+      };
+      const std::string drawn = draw();
+      QVERIFY(!lose());  // an empty script cancels
+      QCOMPARE(e.dialogs.log.size(), 1U);
+      QVERIFY(e.dialogs.log[0].starts_with(
+          "AskToSave|Editor Ascii|El dibujo tiene cambios que no se han guardado ni"));
+      e.dialogs.respuestas = {Respuesta::Guardar, Respuesta::Guardar, Respuesta::Descartar};
+      QVERIFY2(!lose(), "no file was chosen");
+      QCOMPARE(DrawingText(e.state), drawn);
+      QVERIFY(e.window.isVisible());
+      e.dialogs.paths = {e.folder.File("g.txt")};
+      QVERIFY(lose());
+      QCOMPARE(LeerArchivo(e.folder.File("g.txt")), drawn + "\r\n");
+      draw();
+      QVERIFY(lose());
+      QCOMPARE(DrawingText(e.state), reopen ? "cd" : drawn);
+      draw();
+      e.Trigger("mnuEnviar");
+      QVERIFY(lose());
+    }
   }
-}
 
-void FrmEditorTest::SaysOnceWhatDoesNotFit() {
-  Editor e("ab\r\n" + std::string(320, 'x'));
-  auto& warning = Find<QLabel>(e.window, "lblNoCabe");
-  QVERIFY(warning.isVisible());
-  QVERIFY(warning.text().startsWith("El texto tiene 320 columnas y 2 líneas, y aquí caben 99 y 74."));
-  e.Trigger("mnuCLS");
-  QVERIFY(!warning.isVisible());
-  e.Trigger("mnuDeshacer");
-  QVERIFY(warning.isVisible());
-  e.window.Abrir("ab");
-  QVERIFY(!warning.isVisible());
-  const QSize screen = e.window.screen()->availableSize();  // 800 x 800 here
-  QVERIFY(e.window.frameSize().width() <= screen.width() && e.window.frameSize().height() <= screen.height());
-  QVERIFY(e.window.minimumSizeHint().width() <= 600 && e.window.minimumSizeHint().height() <= 500);
-}
+  void TheQuestionStandsOverTheEditor() {
+    QWidget other;
+    QtDialogs dialogs;
+    dialogs.SetOwner(&other);
+    Editor e;
+    for (const auto& [press, answer] : {std::pair{"", Respuesta::Cancelar},
+                                        {"Guardar", Respuesta::Guardar},
+                                        {"Descartar", Respuesta::Descartar},
+                                        {"Cancelar", Respuesta::Cancelar}}) {
+      QString seen;
+      QTimer::singleShot(0, [&, button = QString(press)] {
+        auto& box = *qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        seen = box.parentWidget()->objectName() + " " + box.defaultButton()->text();
+        for (QAbstractButton* b : box.buttons())
+          if (b->text() == button) b->click();
+        box.close();
+      });
+      QApplication::setActiveWindow(&e.window);
+      QCOMPARE(dialogs.AskToSave("texto", "título"), answer);
+      QCOMPARE(seen, "frmEditor Guardar");
+    }
+  }
 
-void FrmEditorTest::SurfaceShowsInk() {
-  Editor e;
-  const auto ink = [&](Cell c) {
-    const Point p = PointFromCell(c);
-    const QImage shown = e.surface.grab(QRect(p.x, p.y, CellWidth, CellHeight)).toImage();
-    int n = 0;
-    for (int y = 0; y < shown.height(); ++y)
-      for (int x = 0; x < shown.width(); ++x) n += shown.pixelColor(x, y) == QColor(Qt::black);
-    return n;
-  };
-  QCOMPARE(ink({3, 3}), 0);
-  e.Drag({{20, 30}});
-  QVERIFY(ink({3, 3}) > 8);
-  e.Trigger("Borrar");
-  e.Drag({{20, 30}});
-  QCOMPARE(ink({3, 3}), 0);
-}
+  void SaysOnceWhatDoesNotFit() {
+    Editor e("ab\r\n" + std::string(320, 'x'));
+    auto& warning = Find<QLabel>(e.window, "lblNoCabe");
+    QVERIFY(warning.isVisible());
+    QVERIFY(warning.text().startsWith("El texto tiene 320 columnas y 2 líneas, y aquí caben 99 y 74."));
+    e.Trigger("mnuCLS");
+    QVERIFY(!warning.isVisible());
+    e.Trigger("mnuDeshacer");
+    QVERIFY(warning.isVisible());
+    e.window.Abrir("ab");
+    QVERIFY(!warning.isVisible());
+    const QSize screen = e.window.screen()->availableSize();  // 800 x 800 here
+    QVERIFY(e.window.frameSize().width() <= screen.width() &&
+            e.window.frameSize().height() <= screen.height());
+    QVERIFY(e.window.minimumSizeHint().width() <= 600 && e.window.minimumSizeHint().height() <= 500);
+  }
+
+  void SurfaceShowsInk() {
+    Editor e;
+    const auto cell = [&] { return e.surface.grab(QRect(16, 24, CellWidth, CellHeight)).toImage(); };
+    const QImage blank = cell();
+    e.Drag({{20, 30}});
+    QVERIFY(cell() != blank);
+    e.Trigger("Borrar");
+    e.Drag({{20, 30}});
+    QCOMPARE(cell(), blank);
+  }
+};
 
 QTEST_MAIN(FrmEditorTest)
 #include "FrmEditorTest.moc"

@@ -27,29 +27,22 @@ const std::string kShapes[] = {"",
                                "\nuno\ndos\n",
                                "a\rb\r\nc\r\r",
                                "a\r\n\nb\n\r\nc",
-                               "a\tb\x1F\x01\r\n\xA0\xAD\xFF",
-                               std::string(300, 'x'),
-                               std::string(100, 'x') + "\r\n" + std::string(99, 'y'),
-                               Large(),
-                               Large() + "\r\n\r\n"};
+                               "a\tb\x1F\x01\r\n\xA0\xAD\xFF"};
+
+// A row with a character in the last column, and one that leaves it free.
+const std::string kWide = std::string(100, 'x') + "\r\n" + std::string(99, 'y');
 
 std::string Opened(BasEditor& e, const std::string& text) {
   AbrirTexto(e, text);
   return DrawingText(e);
 }
 
-// Where the character of a cell stands in an opened text; nothing for a cell that the text has not.
-std::optional<std::size_t> Place(const std::string& text, Cell at) {
-  Cell c{1, 1};
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '\r') {
-      c = {1, c.row + 1};
-      continue;
-    }
-    if (c == at) return i;
-    ++c.column;
-  }
-  return std::nullopt;
+// Where the character of a cell stands in an opened text; its size for a cell that the text has not.
+std::size_t Place(const std::string& text, Cell at) {
+  std::size_t i = 0;
+  for (Cell c{1, 1}; i < text.size() && !(c == at && text[i] != '\r'); ++i)
+    c = text[i] == '\r' ? Cell{1, c.row + 1} : Cell{c.column + 1, c.row};
+  return i;
 }
 
 }  // namespace
@@ -57,16 +50,17 @@ std::optional<std::size_t> Place(const std::string& text, Cell at) {
 TEST(TextoDelEditor, WhatIsNotChangedComesBackByteForByte) {
   BasEditor e;  // one for all: nothing of the text before may stay
   for (const std::string& text : kShapes) EXPECT_EQ(Opened(e, text), text);
+  for (const std::string& text : {Large(), Large() + "\r\n\r\n", kWide}) EXPECT_EQ(Opened(e, text), text);
   std::mt19937 random(1);
   for (int i = 0; i < 300; ++i) {
     std::string text;
     for (auto n = random() % 400; n > 0; --n) text += "\r\n\r\nab  \t"[random() % 9];
     ASSERT_EQ(Opened(e, text), text);
     const Cell c{2 + static_cast<int>(random() % 99), 1 + static_cast<int>(random() % 74)};
-    const auto at = Place(text, c);
-    if (!at || text[*at] == '\n') continue;
+    const std::size_t at = Place(text, c);
+    if (at == text.size() || text[at] == '\n') continue;
     PintarCaracter(e, c.column, c.row, '#');
-    text[*at] = '#';
+    text[at] = '#';
     ASSERT_EQ(DrawingText(e), text) << "one cell: " << c.column << "," << c.row;
   }
 }
@@ -110,7 +104,7 @@ TEST(TextoDelEditor, WhatTheSurfaceDoesNotShowStays) {
   EXPECT_EQ(e.Abierto->columnas, 320);
   EXPECT_EQ(e.Abierto->lineas, 111);
   for (const auto& [text, fits] : {std::pair{Large(), false},
-                                   {std::string(100, 'x') + "\r\n" + std::string(99, 'x'), true},
+                                   {kWide, true},
                                    {"a\r\n" + std::string(100, 'x'), false},
                                    {std::string(74, '\r') + "\n\r\n", true},
                                    {std::string(74, '\r') + "\nx", false}}) {
@@ -124,13 +118,11 @@ TEST(TextoDelEditor, WhatTheSurfaceDoesNotShowStays) {
 
 TEST(TextoDelEditor, NewDrawingsHoldWhatIsSeen) {
   BasEditor e;
-  AbrirTexto(e, std::string(100, 'x') + "\r\n" + std::string(99, 'y'));
+  AbrirTexto(e, kWide);
   BorrarTodo(e);
   EXPECT_EQ(e.Grid.At({100, 1}), 'x') << "the last column stays in the grid, unseen";
   EXPECT_EQ(DrawingText(e), "");
-  PaintText(e,
-            "  a \r\nb\r\n\r\nc\x1F"
-            "d");
+  PaintText(e, "  a \r\nb\r\n\r\nc\037d");
   EXPECT_EQ(DrawingText(e), "  a\r\n b\r\n\r\n c d");
   PintarCaracter(e, 100, 2, 'z');
   EXPECT_EQ(DrawingText(e), "  a\r\n b" + std::string(97, ' ') + "z\r\n\r\n c d");

@@ -49,11 +49,10 @@ TEST_F(AgregarFuentesTest, NeitherFontTakesTheOthersName) {
   const std::string theirs = File("Programa/Sombra.flf", "la del programa");
   EXPECT_EQ(Add({File("Sombra.flf", StandardFont())}),
             "Se ha añadido \"Sombra.flf\" como \"Sombra 2\": ya hay otra fuente \"Sombra\".!\n");
-  EXPECT_EQ(Add({File("otra/Sombra.TLF", other)}),
-            "Se ha añadido \"otra/Sombra.TLF\" como \"Sombra 3\": ya hay otra fuente \"Sombra\".!\n");
-  EXPECT_EQ(Add({folder.File("Sombra.flf"), File("Luz.flf", other)}),
-            "\"Sombra.flf\" ya está entre las fuentes como \"Sombra 2\".!\nSe ha añadido \"Luz.flf\" como "
-            "\"Luz\".\n");
+  EXPECT_EQ(Add({File("otra/Sombra.TLF", other), folder.File("Sombra.flf"), File("Luz.flf", other)}),
+            "Se ha añadido \"otra/Sombra.TLF\" como \"Sombra 3\": ya hay otra fuente \"Sombra\".!\n"
+            "\"Sombra.flf\" ya está entre las fuentes como \"Sombra 2\".!\n"
+            "Se ha añadido \"Luz.flf\" como \"Luz\".\n");
   EXPECT_EQ(LeerArchivo(theirs), "la del programa");
   EXPECT_EQ(LeerArchivo(folder.File("Programa/Sombra 2.flf")), ReescribirFuente(StandardFont(), "f").bytes);
   EXPECT_EQ(Listed(), "Luz Sombra 3 Sombra 2 ");
@@ -63,23 +62,21 @@ TEST_F(AgregarFuentesTest, NeitherFontTakesTheOthersName) {
 }
 
 TEST_F(AgregarFuentesTest, SaysWhatIsNotAsItWas) {
-  EXPECT_EQ(
-      Add({File("a.flf", StandardFont("█@\n▀▒@@\nfin\n"))}),
-      "Se ha añadido \"a.flf\" como \"a\". 3 caracteres de su dibujo se han reemplazado por otros parecidos. "
-      "La última línea no es de ningún carácter y se ha pasado por alto.!\n");
-  EXPECT_EQ(Add({folder.File("no-esta.flf")}), "No se ha podido leer \"no-esta.flf\": no existe.!\n");
+  const std::string file = File("a.flf", StandardFont("█@\n▀▒@@\nfin\n"));
   fs::create_directory(folder.File("vacía"));
-  EXPECT_EQ(Add({folder.File("vacía")}), "En \"vacía\" no hay ninguna fuente FIGlet.!\n");
-  const std::size_t before = Listed().size();
+  EXPECT_EQ(
+      Add({file, folder.File("no-esta.flf"), folder.File("vacía")}),
+      "En \"vacía\" no hay ninguna fuente FIGlet.!\n"
+      "Se ha añadido \"a.flf\" como \"a\". 3 caracteres de su dibujo se han reemplazado por otros parecidos. "
+      "La última línea no es de ningún carácter y se ha pasado por alto.!\n"
+      "No se ha podido leer \"no-esta.flf\": no existe.!\n");
   for (const char* name : {"a[1]", "a]", "a|b", "a;b", "#a", "a\nb", "a\rb", "日本", "\xFF", ""}) {
-    const std::string file = std::string("malos/") + name + ".flf";
-    EXPECT_TRUE(Add({File(file, StandardFont())})
-                    .starts_with("No se ha añadido \"" + file + "\": el catálogo no admite"))
-        << name;
+    const std::string bad = std::string("malos/") + name + ".flf";
+    EXPECT_TRUE(
+        Add({File(bad, StandardFont())}).starts_with("No se ha añadido \"" + bad + "\": el catálogo no"));
   }
-  EXPECT_EQ(Listed().size(), before);
-  std::vector<FuenteAgregada> many(25);
-  for (FuenteAgregada& f : many) f.frase = "x.";
+  EXPECT_EQ(Listed(), "a ");
+  std::vector<FuenteAgregada> many(25, {FuenteAgregada::kAgregada, "", "", 0, "x.", true});
   many[3].hayQueDecirlo = false;
   const std::string text = ResumenDeFuentes(many);
   EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 20);
@@ -87,7 +84,8 @@ TEST_F(AgregarFuentesTest, SaysWhatIsNotAsItWas) {
 }
 
 TEST_F(AgregarFuentesTest, EveryFontOfAZipAndOfAFolder) {
-  const std::string chosen = File("z.zip", "PK\x03\x04"), font = StandardFont();
+  const std::string chosen = File("z.zip", "PK\x03\x04"), font = StandardFont(), added = "Se ha añadido \"",
+                    refused = "No se ha añadido \"z.zip";
   zip = {{"LEEME.txt", "Fuentes", ""},
          {"serie/uno.flf", font, ""},
          {"serie\\dos.TLF", font + "x", ""},
@@ -96,35 +94,29 @@ TEST_F(AgregarFuentesTest, EveryFontOfAZipAndOfAFolder) {
          {"foto.png", "", "está cifrado"},
          {"cuatro.flf", "no", ""}};
   EXPECT_EQ(Add({chosen}),
-            "Se ha añadido \"z.zip: serie/uno.flf\" como \"uno\".\n"
-            "Se ha añadido \"z.zip: serie\\dos.TLF\" como \"dos\". La última línea no es de ningún carácter "
-            "y se ha "
-            "pasado por alto.!\n"
-            "No se ha añadido \"z.zip\": \"tres.flf\" está dañado.!\n"
-            "No se ha añadido \"z.zip: cuatro.flf\": línea 1: no empieza como una fuente FIGlet (flf2).!\n");
+            added + "z.zip: serie/uno.flf\" como \"uno\".\n" + added +
+                "z.zip: serie\\dos.TLF\" como \"dos\". La última línea no es de ningún carácter y "
+                "se ha pasado por alto.!\n" +
+                refused + "\": \"tres.flf\" está dañado.!\n" + refused +
+                ": cuatro.flf\": línea 1: no empieza como una fuente FIGlet (flf2).!\n");
   zip = {{"sin nombre", font, ""}};
-  EXPECT_EQ(Add({File("cinco.flf", "PK\x03\x04")}),
-            "Se ha añadido \"cinco.flf: sin nombre\" como \"cinco\".\n");
+  EXPECT_EQ(Add({File("cinco.flf", "PK\x03\x04")}), added + "cinco.flf: sin nombre\" como \"cinco\".\n");
   zip.clear();
-  EXPECT_EQ(Add({chosen}),
-            "No se ha añadido \"z.zip\": el archivo zip no contiene ninguna fuente FIGlet.!\n");
+  EXPECT_EQ(Add({chosen}), refused + "\": el archivo zip no contiene ninguna fuente FIGlet.!\n");
   for (const char* name : {"carpeta/b.flf", "carpeta/a.tlf", "carpeta/LEEME"}) File(name, font);
   EXPECT_EQ(Add({folder.File("carpeta")}),
-            "Se ha añadido \"carpeta/a.tlf\" como \"a\".\nSe ha añadido \"carpeta/b.flf\" como \"b\".\n");
+            added + "carpeta/a.tlf\" como \"a\".\n" + added + "carpeta/b.flf\" como \"b\".\n");
 }
 
 TEST_F(AgregarFuentesTest, ThirtyProcessesAtOnceLoseNothing) {
-  std::vector<pid_t> children;
   for (int i = 0; i < 30; ++i) {
     const std::string file = File(std::to_string(i) + "/F.flf", StandardFont(std::to_string(i) + "@\nx@@\n"));
-    const pid_t child = ::fork();
-    if (child == 0) {
-      Add({file});
-      ::_exit(0);
-    }
-    children.push_back(child);
+    if (::fork() > 0) continue;
+    Add({file});
+    ::_exit(0);
   }
-  for (const pid_t child : children) ::waitpid(child, nullptr, 0);
+  while (::wait(nullptr) > 0) {
+  }
   const std::string listed = Listed();
   EXPECT_EQ(std::count(listed.begin(), listed.end(), 'F'), 30) << listed;
   EXPECT_EQ(FillFontList(folders).size(), 30U);

@@ -59,103 +59,99 @@ class FrmFigletTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void BannersFollowTheTextAndTheFont();
-  void ListAndTreeLoadFonts();
-  void InformationAndAlignment();
-  void AddedFontsAreListedAtOnce();
-};
-
-void FrmFigletTest::BannersFollowTheTextAndTheFont() {
-  Panel p;
-  QCOMPARE(p.panel->Cuantas(), 2);
-  p.panel->PrimeraVez();
-  const std::string banner = "P1i1x1m1o1s1a1\r\nP2i2x2m2o2s2a2\r\n\r\n\r\n";
-  QCOMPARE(p.banners, (Strings{"", banner}));
-  QCOMPARE(p.font.Banner, banner);
-  p.panel->PrimeraVez();
-  QCOMPARE(p.banners.size(), 2U);  // later showings load nothing
-  auto& text = p.Get<AreaDeTexto>("txtFigText");
-  text.PonerTexto("");
-  QTest::keyClicks(&text, "ab");
-  QTest::keyClick(&text, Qt::Key_Return);
-  QCOMPARE(Strings(p.banners.begin() + 2, p.banners.end()),
-           (Strings{"", "a1\r\na2\r\n", "a1b1\r\na2b2\r\n", "a1b1\r\na2b2\r\n\r\n\r\n"}));
-}
-
-void FrmFigletTest::ListAndTreeLoadFonts() {
-  Panel p;
-  auto& list = p.Get<QListWidget>("lsvFuentesFig");
-  auto& tree = p.Get<QTreeWidget>("tvwFigFonts");
-  QCOMPARE(list.item(0)->text() + list.item(1)->text(), "alfa.flfbeta.flf");
-  p.Click(list, list.item(1));
-  QCOMPARE(p.font.Comment, "\r\nLa segunda");
-  p.Click(list, list.item(0));
-  QCOMPARE(p.font.Comment, "\r\nComentario");
-  p.Get<QAction>("Lista agrupada por categorías").trigger();
-  QVERIFY(tree.isVisible() && !list.isVisible() && !p.Get<QAction>("Lista simple").isChecked());
-  tree.expandAll();
-  auto* category = tree.topLevelItem(0);
-  p.Click(tree, category);
-  QCOMPARE(p.font.Comment, "\r\nComentario");  // only fonts react
-  p.Click(tree, category->child(0)->child(0));
-  QCOMPARE(p.font.Comment, "\r\nLa segunda");
-  p.Click(tree, category->child(0)->child(1));
-  QCOMPARE(p.font.Height, "1");  // a missing file fails silently
-  QVERIFY(p.dialogs.log.empty());
-  p.Get<QAction>("Lista simple").trigger();
-  QVERIFY(!tree.isVisible() && list.isVisible());
-}
-
-void FrmFigletTest::InformationAndAlignment() {
-  Panel p;
-  p.panel->PrimeraVez();
-  QTimer::singleShot(0, [] {
-    auto& about = *QApplication::activeModalWidget();
-    QCOMPARE(about.windowTitle(), "Información sobre la fuente");
-    auto& text = Find<AreaDeTexto>(about, "txtAbout");
-    QCOMPARE(text.Texto(), "\r\nComentario");
-    QTest::mouseClick(text.viewport(), Qt::LeftButton);
-    QVERIFY(!about.isVisible());
-  });
-  p.Get<QToolButton>("cmdInfoFIG").click();
-  const std::size_t drawn = p.banners.size();
-  QSignalSpy aligned(p.panel.get(), &frmFiglet::AlineacionCambiada);
-  QVERIFY(p.Get<QAction>("Izquierda").isChecked());
-  for (const auto& [key, value] :
-       {std::pair{"Centrado", Qt::AlignHCenter}, {"Derecha", Qt::AlignRight}, {"Izquierda", Qt::AlignLeft}}) {
-    p.Get<QAction>(key).trigger();
-    QCOMPARE(aligned.takeFirst().at(0).value<Qt::Alignment>(), Qt::Alignment(value));
-    const auto shown = p.Get<AreaDeTexto>("txtFigText").document()->defaultTextOption().alignment();
-    QVERIFY(shown.testFlag(value));
-    for (const char* other : {"Izquierda", "Centrado", "Derecha"})
-      QCOMPARE(p.Get<QAction>(other).isChecked(), std::string(other) == key);
+  void BannersFollowTheTextAndTheFont() {
+    Panel p;
+    p.panel->PrimeraVez();
+    const std::string banner = "P1i1x1m1o1s1a1\r\nP2i2x2m2o2s2a2\r\n\r\n\r\n";
+    QCOMPARE(p.banners, (Strings{"", banner}));
+    QCOMPARE(p.font.Banner, banner);
+    p.banners.clear();
+    p.panel->PrimeraVez();  // later showings load nothing
+    auto& text = p.Get<AreaDeTexto>("txtFigText");
+    text.PonerTexto("");
+    QTest::keyClicks(&text, "ab");
+    QTest::keyClick(&text, Qt::Key_Return);
+    QCOMPARE(p.banners, (Strings{"", "a1\r\na2\r\n", "a1b1\r\na2b2\r\n", "a1b1\r\na2b2\r\n\r\n\r\n"}));
   }
-  QCOMPARE(p.banners.size(), drawn);
-}
 
-void FrmFigletTest::AddedFontsAreListedAtOnce() {
-  Panel p;
-  QSignalSpy count(p.panel.get(), &frmFiglet::ListaCambiada);
-  p.dialogs.paths = {p.Write("nueva.flf", test::StandardFont()), p.Write("rota.flf", "no")};
-  p.Get<QAction>("mnuAgregarFuentes").trigger();
-  QCOMPARE(p.dialogs.log.back(), "Fail|Añadir fuentes FIGlet|No se ha añadido \"" +
-                                     p.folder.File("rota.flf") +
-                                     "\": línea 1: no empieza como una fuente FIGlet (flf2).");
-  QCOMPARE(count.takeFirst().at(0).toInt(), 3);
-  QCOMPARE(p.Get<QTreeWidget>("tvwFigFonts").topLevelItem(1)->child(0)->child(0)->text(0), "nueva");
+  void ListAndTreeLoadFonts() {
+    Panel p;
+    auto& list = p.Get<QListWidget>("lsvFuentesFig");
+    auto& tree = p.Get<QTreeWidget>("tvwFigFonts");
+    QCOMPARE(list.item(0)->text() + list.item(1)->text(), "alfa.flfbeta.flf");
+    for (const auto& [row, comment] : {std::pair{1, "\r\nLa segunda"}, {0, "\r\nComentario"}}) {
+      p.Click(list, list.item(row));
+      QCOMPARE(p.font.Comment, comment);
+    }
+    QVERIFY(!tree.isVisible() && list.isVisible());
+    p.Get<QAction>("Lista agrupada por categorías").trigger();
+    QVERIFY(tree.isVisible() && !list.isVisible() && !p.Get<QAction>("Lista simple").isChecked());
+    tree.expandAll();
+    auto* sub = tree.topLevelItem(0)->child(0);
+    // Only fonts react; a missing file leaves what a load begins with.
+    for (const auto& [item, comment] : {std::pair{tree.topLevelItem(0), "\r\nComentario"},
+                                        {sub, "\r\nComentario"},
+                                        {sub->child(0), "\r\nLa segunda"},
+                                        {sub->child(1), ""}}) {
+      p.Click(tree, item);
+      QCOMPARE(p.font.Comment, comment);
+    }
+    QVERIFY(p.dialogs.log.empty());
+    p.Get<QAction>("Lista simple").trigger();
+    QVERIFY(!tree.isVisible() && list.isVisible());
+  }
 
-  std::filesystem::create_directory(p.folder.File("serie"));
-  for (const char* name : {"serie/uno.flf", "serie/dos.flf"}) p.Write(name, test::StandardFont());
-  p.dialogs.log.clear();
-  p.dialogs.paths = {p.folder.File("serie"), p.folder.File("serie")};
-  p.Get<QAction>("mnuAgregarCarpeta").trigger();
-  QCOMPARE(p.dialogs.log, Strings{"ChooseFolder|Añadir fuentes FIGlet"});
-  QCOMPARE(p.panel->Cuantas(), 5);
-  p.Get<QAction>("mnuAgregarCarpeta").trigger();
-  QVERIFY(p.dialogs.log.back().starts_with("Inform|Añadir fuentes FIGlet|\"" +
-                                           p.folder.File("serie/dos.flf") +
-                                           "\" ya está entre las fuentes como \"dos\"."));
-}
+  void InformationAndAlignment() {
+    Panel p;
+    p.panel->PrimeraVez();
+    QTimer::singleShot(0, [] {
+      auto& about = *QApplication::activeModalWidget();
+      QCOMPARE(about.windowTitle(), "Información sobre la fuente");
+      auto& text = Find<AreaDeTexto>(about, "txtAbout");
+      QCOMPARE(text.Texto(), "\r\nComentario");
+      QTest::mouseClick(text.viewport(), Qt::LeftButton);
+      QVERIFY(!about.isVisible());
+    });
+    p.Get<QToolButton>("cmdInfoFIG").click();
+    p.banners.clear();
+    QSignalSpy aligned(p.panel.get(), &frmFiglet::AlineacionCambiada);
+    QVERIFY(p.Get<QAction>("Izquierda").isChecked());
+    for (const auto& [key, value] : {std::pair{"Centrado", Qt::AlignHCenter},
+                                     {"Derecha", Qt::AlignRight},
+                                     {"Izquierda", Qt::AlignLeft}}) {
+      p.Get<QAction>(key).trigger();
+      QCOMPARE(aligned.takeFirst().at(0).value<Qt::Alignment>(), Qt::Alignment(value));
+      QVERIFY(p.Get<AreaDeTexto>("txtFigText").document()->defaultTextOption().alignment().testFlag(value));
+      for (const char* other : {"Izquierda", "Centrado", "Derecha"})
+        QCOMPARE(p.Get<QAction>(other).isChecked(), std::string(other) == key);
+    }
+    QVERIFY(p.banners.empty());
+  }
+
+  void AddedFontsAreListedAtOnce() {
+    Panel p;
+    QSignalSpy count(p.panel.get(), &frmFiglet::ListaCambiada);
+    p.dialogs.paths = {p.Write("nueva.flf", test::StandardFont()), p.Write("rota.flf", "no")};
+    p.Get<QAction>("mnuAgregarFuentes").trigger();
+    const std::string title = "|Añadir fuentes FIGlet|", folder = p.folder.Path() / "serie";
+    QCOMPARE(p.dialogs.log.back(), "Fail" + title + "No se ha añadido \"" + p.folder.File("rota.flf") +
+                                       "\": línea 1: no empieza como una fuente FIGlet (flf2).");
+    QCOMPARE(count.takeFirst().at(0).toInt(), 3);
+    auto& tree = p.Get<QTreeWidget>("tvwFigFonts");
+    QCOMPARE(tree.topLevelItemCount(), 2);
+    QCOMPARE(tree.topLevelItem(1)->child(0)->child(0)->text(0), "nueva");
+
+    std::filesystem::create_directory(folder);
+    for (const char* name : {"serie/uno.flf", "serie/dos.flf"}) p.Write(name, test::StandardFont());
+    p.dialogs.log.clear();
+    p.dialogs.paths = {"", folder, folder};
+    for (int i = 0; i < 3; ++i) p.Get<QAction>("mnuAgregarCarpeta").trigger();
+    QCOMPARE(p.dialogs.log.size(), 4U);  // three questions and one summary
+    QCOMPARE(p.panel->Cuantas(), 5);
+    QVERIFY(p.dialogs.log.back().starts_with("Inform" + title + "\"" + folder +
+                                             "/dos.flf\" ya está entre las fuentes como \"dos\"."));
+  }
+};
 
 QTEST_MAIN(FrmFigletTest)
 #include "FrmFigletTest.moc"

@@ -1,9 +1,6 @@
 // Any bytes as a standard font.
-#include <cstdint>
-
 #include "tests/fuzz/Fuente.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  RewriteAny({reinterpret_cast<const char*>(data), size});
-  return 0;
+void Fuzz(std::string_view bytes) {
+  RewriteAny(bytes);
 }

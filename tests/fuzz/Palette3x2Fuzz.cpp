@@ -1,21 +1,10 @@
 // Any bytes as the pattern file: a palette or its one failure. A palette of what can be read says the same
 // once it is written out and read again.
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-
 #include "conversion/Palette3x2.h"
+#include "tests/fuzz/Fuzz.h"
 
-using namespace pixmosa;
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  Palette3x2 palette;
-  try {
-    palette = ParsePalette3x2({reinterpret_cast<const char*>(data), size});
-  } catch (const Palette3x2Error&) {
-    return 0;
-  }
+void Fuzz(std::string_view bytes) try {
+  const Palette3x2 palette = ParsePalette3x2(bytes);
   std::string file;
   for (std::size_t p = 0; p < palette.Characters.size(); ++p) {
     if (!palette.Characters[p]) continue;
@@ -26,6 +15,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     file += *palette.Characters[p];
     file += "\r\n\r\n";
   }
-  if (ParsePalette3x2(file).Characters != palette.Characters) std::abort();
-  return 0;
+  try {
+    Check(ParsePalette3x2(file).Characters == palette.Characters);
+  } catch (const Palette3x2Error&) {
+    Check(false);
+  }
+} catch (const Palette3x2Error&) {
 }

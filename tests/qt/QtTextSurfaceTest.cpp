@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/qt/QtFont.h"
@@ -20,13 +21,9 @@ int Ink(const Picture& cell) {
 
 }  // namespace
 
-class QtTextSurfaceTest : public testing::Test {
- protected:
-  QtTextSurfaceTest() { test::NeedGuiApplication(); }
+TEST(QtTextSurface, EveryCharacterIsInkOrPaperInsideItsCell) {
+  test::NeedGuiApplication();
   QtTextSurface surface;
-};
-
-TEST_F(QtTextSurfaceTest, EveryCharacterIsInkOrPaperInsideItsCell) {
   const Font font{"DejaVu Sans Mono", 12};
   const Extent cell = surface.GetTextSize(font, "A");
   EXPECT_GE(cell.height, 16);
@@ -34,21 +31,21 @@ TEST_F(QtTextSurfaceTest, EveryCharacterIsInkOrPaperInsideItsCell) {
   const Picture all = surface.PrintCharacters(font, cell, 32, 255);
   EXPECT_EQ(all.Size(), (Extent{cell.width, 224 * cell.height}));
   EXPECT_GT(Ink(all), 1000);
-  for (const int blank : {32, 127, 129, 160})
-    EXPECT_EQ(Ink(surface.PrintCharacters(font, cell, blank, blank)), 0);
   const auto ink = [&](int c) { return Ink(surface.PrintCharacters(font, cell, c, c)); };
+  for (const int blank : {32, 127, 129, 160}) EXPECT_EQ(ink(blank), 0);
   EXPECT_GT(ink('@'), ink('.'));
   EXPECT_EQ(ink(0xAD), ink('-')) << "the soft hyphen shows as a hyphen";
   EXPECT_GT(ink(0x80), 0) << "the euro sign of the code page";
 }
 
-TEST_F(QtTextSurfaceTest, StandInsForMissingFonts) {
+TEST(QtTextSurface, StandsInForMissingFonts) {
+  test::NeedGuiApplication();
+  QtTextSurface surface;
   if (!FontInstalled("Lucida Console")) {
     EXPECT_EQ(FamilyFor("Lucida Console"), "DejaVu Sans Mono");
     EXPECT_EQ(surface.GetTextSize({}, "A"), surface.GetTextSize({"DejaVu Sans Mono", 6}, "A"));
   }
   const auto fonts = surface.ListFixedFonts();
-  EXPECT_NE(std::find(fonts.begin(), fonts.end(), "DejaVu Sans Mono"), fonts.end());
-  EXPECT_EQ(std::find(fonts.begin(), fonts.end(), "DejaVu Sans"), fonts.end())
-      << "proportional fonts stay out";
+  EXPECT_THAT(fonts, testing::Contains("DejaVu Sans Mono"));
+  EXPECT_THAT(fonts, testing::Not(testing::Contains("DejaVu Sans"))) << "proportional fonts stay out";
 }
