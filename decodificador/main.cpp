@@ -9,8 +9,8 @@
 #include <QGuiApplication>
 #include <QImageReader>
 
-#include "platform/decodificador/Contenido.h"
 #include "decodificador/Encierro.h"
+#include "platform/decodificador/Contenido.h"
 #include "platform/decodificador/Respuesta.h"
 #include "platform/qt/QtPicture.h"
 #include "platform/wmf/Metafile.h"
