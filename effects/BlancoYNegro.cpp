@@ -18,7 +18,9 @@ void FilaUmbral(const std::uint32_t* __restrict s, std::uint32_t* __restrict d, 
                 std::int32_t tr, std::int32_t tg, std::int32_t tb) {
   for (std::size_t x = 0; x < n; ++x) {
     const std::uint32_t p = s[x];
-    d[x] = BlancoONegro(p, !((Rojo(p) < tr) & (Verde(p) < tg) & (Azul(p) < tb)));
+    // Whole numbers, and no branch: a row passes as vectors.
+    const int red = Rojo(p) < tr, green = Verde(p) < tg, blue = Azul(p) < tb;
+    d[x] = BlancoONegro(p, (red & green & blue) == 0);
   }
 }
 

@@ -38,7 +38,8 @@ TEST_F(BasEditorTest, OnlyValidCellsArePainted) {
   EXPECT_EQ(Rows(e.Grid, 1, 3, 3), (Strings{"abc", "\nde", "f  "})) << "LF is a character";
   EXPECT_EQ(Rows(e.Grid, 73, 75, 1), (Strings{"y", "z", " "}));
   EraseCell(e, {1, 2});
-  EraseCell(e, {300, 300});
+  EraseCell(e, {101, -1});
+  EXPECT_EQ(e.Screen.At({0, 0}), 'a') << "the same place of the table";
   EXPECT_EQ(Rows(e.Screen, 2, 2, 3), Strings{" de"});
   EXPECT_EQ(Rows(e.Grid, 2, 2, 3), Strings{"\nde"}) << "the eraser leaves the grid";
   e.AllChanged = false;
@@ -84,10 +85,10 @@ TEST_F(BasEditorTest, FillsTheRegionAndNothingElse) {
       side{"       ", " +---+ ", " o###| ", " o###| ", " +---+ ", "       "};
   for (const auto& [from, with, rows] :
        {Row{{4, 3}, '#', filled},
-        {{2, 3}, 'o', side},     // two bars between corners
-        {{2, 2}, 'o', side},     // alone among others
-        {{50, 50}, ' ', side},   // the character that is there
-        {{-3, 900}, 'o', side},  // outside
+        {{2, 3}, 'o', side},    // two bars between corners
+        {{2, 2}, 'o', side},    // alone among others
+        {{50, 50}, ' ', side},  // the character that is there
+        {{101, 3}, 'o', side},  // outside
         {{50, 75}, '.', {".......", ".+---+.", ".o###|.", ".o###|.", ".+---+.", "......."}}}) {
     e.CurrentChar = with;
     FloodFill(e, from);
