@@ -15,12 +15,12 @@ class BasEditorTest : public testing::Test {
 
 TEST_F(BasEditorTest, PointerPositionsRoundHalfToEven) {
   // A point, its cell, its nearest corner of cells.
-  constexpr int kRows[][6] = {
+  constexpr int kPuntos[][6] = {
       {0, 0, 0, 0, 0, 0},           {4, 6, 1, 1, 0, 0},           {8, 12, 2, 2, 8, 12},
       {12, 18, 2, 2, 16, 24},       {16, 24, 2, 2, 16, 24},       {24, 36, 4, 4, 24, 36},
       {32, 48, 4, 4, 32, 48},       {7, 11, 1, 1, 8, 12},         {1, 1, 1, 1, 0, 0},
       {-12, 899, -1, 75, -16, 900}, {799, 900, 100, 76, 800, 900}};
-  for (const auto& r : kRows) {
+  for (const auto& r : kPuntos) {
     EXPECT_EQ(CellFromPoint({r[0], r[1]}), (Cell{r[2], r[3]})) << r[0];
     EXPECT_EQ(SnapToLattice({r[0], r[1]}), (Point{r[4], r[5]})) << r[0];
   }
