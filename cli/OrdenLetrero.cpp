@@ -26,7 +26,7 @@ fs::path FuenteDe(const Argumentos& arguments) {
   }
   std::error_code ec;
   if (fs::exists(*asked, ec)) return *asked;
-  const fs::path named = ArchivoDeFuente(folders, asked->ends_with(".flf") ? *asked : *asked + ".flf");
+  fs::path named = ArchivoDeFuente(folders, asked->ends_with(".flf") ? *asked : *asked + ".flf");
   if (!fs::exists(named, ec)) throw ErrorDeTrabajo("No hay ninguna fuente FIGlet \"" + *asked + "\".");
   return named;
 }

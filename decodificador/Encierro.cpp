@@ -14,6 +14,10 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#ifdef __clang__
+#pragma clang diagnostic ignored "-Wc99-extensions"  // the filter library's macros
+#endif
+
 namespace pixmosa {
 namespace {
 

@@ -72,9 +72,9 @@ void Brillo(PixelBuffers& b, std::int32_t a) {
 // three parts of every pixel.
 void Saturacion(PixelBuffers& b, std::int32_t a) {
   const float factor = std::clamp(a, -100, 100) / 100.0;
-  std::vector<TablaDeBytes> tables;
+  std::vector<TablaDeBytes> tables(256);
   for (int gray = 0; gray < 256; ++gray)
-    tables.push_back(Tabular([=](int c) { return (c - gray) * double{factor} + c; }));
+    tables[gray] = Tabular([=](int c) { return (c - gray) * double{factor} + c; });
   RecorrerFilas(b, [&](const std::uint32_t* s, std::uint32_t* d, auto) {
     for (std::size_t x = 0; x < b.Columnas(); ++x) d[x] = PorTabla(s[x], tables[Tercio(SumaRGB(s[x]))]);
   });

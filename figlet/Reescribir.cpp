@@ -36,7 +36,8 @@ std::size_t CountLines(std::string_view text) {
 // Whether a font is in the reader's own form, end marks included, to its last line.
 bool IsOwn(std::string_view font, const CabeceraDeFuente& header) {
   std::int64_t line = 0;
-  const std::int64_t first = std::int64_t{header.comments} + 1, last = first + kBlocks * header.height;
+  const std::int64_t first = std::int64_t{header.comments} + 1,
+                     last = first + std::int64_t{kBlocks} * header.height;
   for (; !font.empty(); ++line) {
     const std::size_t end = font.find("\r\n");
     if (end == std::string_view::npos || line >= last) return false;

@@ -56,6 +56,7 @@ pid_t Lanzar(const std::filesystem::path& program, int socket) {
   char* argv[] = {path.data(), nullptr};
   std::vector<std::string> lines = Entorno();
   std::vector<char*> environment;
+  environment.reserve(lines.size() + 1);
   for (std::string& line : lines) environment.push_back(line.data());
   environment.push_back(nullptr);
   pid_t pid = -1;
@@ -129,7 +130,7 @@ std::filesystem::path ProgramaDecodificador() {
   constexpr const char* kName = "pixmosa-decodificador";
   std::error_code ec;
   const fs::path folder = fs::read_symlink("/proc/self/exe", ec).parent_path();
-  const fs::path beside = folder / kName;
+  fs::path beside = folder / kName;
   if (fs::exists(beside, ec)) return beside;
   return folder.parent_path() / "libexec" / "pixmosa" / kName;
 }
