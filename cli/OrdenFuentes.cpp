@@ -1,11 +1,11 @@
 #include <filesystem>
 
 #include "cli/Ordenes.h"
+#include "figlet/AgregarFuentes.h"
 #include "figlet/Catalogo.h"
 #include "platform/CodePage.h"
 #include "platform/ProgramFolder.h"
 #include "platform/zip/Descomprimir.h"
-#include "programa/AgregarFuentes.h"
 
 namespace pixmosa::cli {
 namespace {

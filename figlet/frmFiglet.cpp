@@ -15,13 +15,13 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "figlet/AgregarFuentes.h"
 #include "figlet/frmFigAbout.h"
 #include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Menus.h"
 #include "platform/qt/Named.h"
 #include "platform/qt/QtText.h"
 #include "platform/zip/Descomprimir.h"
-#include "programa/AgregarFuentes.h"
 
 namespace pixmosa {
 namespace {

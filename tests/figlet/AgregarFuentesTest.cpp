@@ -3,11 +3,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "figlet/AgregarFuentes.h"
 #include "figlet/Catalogo.h"
 #include "figlet/Reescribir.h"
 #include "platform/AtomicFile.h"
 #include "platform/ProgramFolder.h"
-#include "programa/AgregarFuentes.h"
 #include "tests/support/FigletFont.h"
 #include "tests/support/TestFolder.h"
 

@@ -1,4 +1,4 @@
-#include "programa/AgregarFuentes.h"
+#include "figlet/AgregarFuentes.h"
 
 #include <algorithm>
 #include <optional>
