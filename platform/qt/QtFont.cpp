@@ -34,4 +34,13 @@ QFont QtFontOf(const Font& font) {
   return f;
 }
 
+QFont SmoothQtFontOf(const Font& font, int scale) {
+  QFont f(FamilyFor(font.name));
+  f.setPixelSize(std::max(1, PixelHeight(font)) * scale);
+  f.setStyleStrategy(QFont::PreferAntialias);
+  f.setHintingPreference(QFont::PreferNoHinting);
+  f.setKerning(false);
+  return f;
+}
+
 }  // namespace pixmosa

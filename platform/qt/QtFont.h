@@ -19,4 +19,8 @@ QString FamilyFor(const std::string& name);
 // The font for drawing: N / 0.75 pixels high, no anti-aliasing, no glyphs lent by other families.
 QFont QtFontOf(const Font& font);
 
+// The same with smoothing and without hints, so that a character has the same shape at every scale; glyphs
+// that the family lacks are lent by others.
+QFont SmoothQtFontOf(const Font& font, int scale);
+
 }  // namespace pixmosa

@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <numeric>
 
 #include "platform/qt/QtFont.h"
 #include "platform/qt/QtTextSurface.h"
@@ -48,4 +50,29 @@ TEST(QtTextSurface, StandsInForMissingFonts) {
   const auto fonts = surface.ListFixedFonts();
   EXPECT_THAT(fonts, testing::Contains("DejaVu Sans Mono"));
   EXPECT_THAT(fonts, testing::Not(testing::Contains("DejaVu Sans"))) << "proportional fonts stay out";
+}
+
+TEST(QtTextSurface, DrawsSmoothCharactersAndOutlinesOverThePrintedOnes) {
+  test::NeedGuiApplication();
+  QtTextSurface surface;
+  const Font font{"DejaVu Sans Mono", 24};
+  const Extent cell = surface.GetTextSize(font, "A");
+  const auto area = static_cast<std::size_t>(cell.width) * cell.height;
+  const auto share = [](const std::vector<std::uint8_t>& ink) {
+    return std::accumulate(ink.begin(), ink.end(), 0.0) / 255 / ink.size();
+  };
+  for (const char32_t c : std::u32string_view(U"#gW")) {
+    const double printed =
+        Ink(surface.PrintCharacters(font, cell, static_cast<int>(c), static_cast<int>(c))) * 1.0 / area;
+    const auto one = surface.PrintSmooth(font, cell, 1, {&c, 1}),
+               three = surface.PrintSmooth(font, cell, 3, {&c, 1});
+    ASSERT_EQ(one.size(), area);
+    ASSERT_EQ(three.size(), 9 * area);
+    EXPECT_NEAR(share(one), printed, 0.04);
+    EXPECT_NEAR(share(three), share(one), 0.02) << "the same shape at every scale";
+    EXPECT_TRUE(std::any_of(one.begin(), one.end(), [](int v) { return v > 0 && v < 255; })) << "smooth";
+    EXPECT_EQ(surface.Outline(font, cell, c)[0], 'M');
+  }
+  EXPECT_EQ(share(surface.PrintSmooth(font, cell, 1, U" \x81\x7f")), 0);
+  EXPECT_EQ(surface.Outline(font, cell, U' '), "");
 }

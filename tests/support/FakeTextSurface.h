@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,28 @@ class FakeTextSurface final : public TextSurface {
       to += size.width * size.height;
     }
     return p;
+  }
+
+  // Ink of a pixel of a smooth character, 0..255; without it the same pixels as printed.
+  std::function<int(char32_t character, int x, int y)> smooth{};
+
+  std::vector<std::uint8_t> PrintSmooth(const Font&, Extent size, int scale,
+                                        std::u32string_view characters) override {
+    std::vector<std::uint8_t> all;
+    for (const char32_t c : characters)
+      for (int y = 0; y < size.height * scale; ++y)
+        for (int x = 0; x < size.width * scale; ++x) {
+          const int u = x / scale, v = y / scale;
+          const bool black = c < 256 && v * size.width + u < ink[c];
+          all.push_back(static_cast<std::uint8_t>(smooth ? smooth(c, u, v) : black ? 255 : 0));
+        }
+    return all;
+  }
+
+  std::string Outline(const Font&, Extent size, char32_t c) override {
+    if (c == U' ') return {};
+    const std::string w = std::to_string(size.width), h = std::to_string(size.height);
+    return "M0 0L" + w + " 0L" + w + " " + h + "L0 " + h + "Z";
   }
 
   std::vector<std::string> ListFixedFonts() override { return {"DejaVu Sans Mono"}; }
