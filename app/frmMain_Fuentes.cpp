@@ -45,7 +45,7 @@ void frmMain::AskRegenerateAfterFontChange() {
   if (!desktop_.dialogos.Ask("Se ha cambiado la fuente. Para un resultado óptimo es conveniente"
                              "crear de nuevo el AsciiArt\r\n¿Desea generarlo ahora?"))
     return;
-  if (HayImagen(p_)) Generar(kGrayscale);
+  if (HayImagen(p_)) Generar(p_.ajustes.conversion);
 }
 
 }  // namespace pixmosa

@@ -19,7 +19,7 @@ void frmMain::Play() {
       if (desktop_.dialogos.Ask("Antes debe cargar una imagen\r\n¿Desea cargarla ahora?")) CargarImagen();
       break;
     case Trabajo::Texto:
-      if (const int method = MetodoDe(p_.modo); QuiereElTexto(method)) Generar(method);
+      if (const int method = MetodoDe(p_); QuiereElTexto(method)) Generar(method);
       break;
     case Trabajo::AnimArt:
       AnimArtDeGif();
@@ -78,7 +78,7 @@ void frmMain::MostrarImagen() {
 }
 
 void frmMain::AvisarSiHaSalidoEnBlanco(int method) {
-  if (method == kGrayscale || p_.basAscii.ProducedText.find_first_not_of(" \r\n") != std::string::npos)
+  if (method == kGrayscale || EsDeFormas(method) || p_.basAscii.ProducedText.find_first_not_of(" \r\n") != std::string::npos)
     return;
   Decir(
       QStringLiteral("El dibujo ha salido en blanco: este modo necesita una imagen en blanco y negro puros."),

@@ -68,6 +68,7 @@ void frmMain::CrearLetreros(QVBoxLayout* area) {
 
 void frmMain::PonerLetrero(const std::string& banner) {
   p_.basAscii.ProducedText = banner;
+  p_.basAscii.ProducedUtf8.clear();
   txtAscii_->PonerTexto(banner);
   txtAscii_->Alinear(alineacion_);
 }

@@ -64,16 +64,16 @@ void frmOpcAlgoritmo::Conectar() {
   connect(cboPaletas_, &QComboBox::currentIndexChanged, this,
           Con(dialogs_, [this](int palette) { PonerPaleta(program_, palette); }));
   // Choosing the item that is chosen already counts as well: it brings the grayscale text back.
-  connect(cboPaletas_, &QComboBox::currentIndexChanged, this, [this] { emit TextoCaducado(kGrayscale); });
-  connect(cboPaletas_, &QComboBox::activated, this, [this] { emit TextoCaducado(kGrayscale); });
+  connect(cboPaletas_, &QComboBox::currentIndexChanged, this, [this] { emit TextoCaducado(program_.ajustes.conversion); });
+  connect(cboPaletas_, &QComboBox::activated, this, [this] { emit TextoCaducado(program_.ajustes.conversion); });
   connect(chkAsciiNegativo_, &QCheckBox::toggled, this, Con(dialogs_, [this](bool negative) {
             PonerNegativo(program_, negative);
-            emit TextoCaducado(kGrayscale);
+            emit TextoCaducado(program_.ajustes.conversion);
           }));
   connect(sldLuminosidad_, &QSlider::valueChanged, this, [this](int value) {
     PonerLuminosidad(program_, value);
     program_.vistaPrevia = false;
-    emit TextoCaducado(kGrayscale);
+    emit TextoCaducado(program_.ajustes.conversion);
   });
   connect(label1_, &QAbstractButton::clicked, this, [this] { sldLuminosidad_->setValue(0); });
   connect(sldTamaño_, &QSlider::valueChanged, this, &frmOpcAlgoritmo::TamañoCambiado);
@@ -128,7 +128,7 @@ void frmOpcAlgoritmo::MostrarPaneles() {
 void frmOpcAlgoritmo::TamañoCambiado(int value) {
   PonerTamaño(program_, value);
   program_.vistaPrevia = false;
-  emit TextoCaducado(MetodoDe(program_.modo));
+  emit TextoCaducado(MetodoDe(program_));
 }
 
 void frmOpcAlgoritmo::SaltarATamaño(int value) {

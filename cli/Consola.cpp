@@ -70,13 +70,17 @@ Picture Consola::LeerImagen(const std::string& operand) {
   return picture;
 }
 
-Picture Consola::LeerImagenReducida(const std::string& operand, const std::function<Extent(Extent)>& size) {
+Picture Consola::LeerImagenReducida(const std::string& operand, Lectura how,
+                                    const std::function<Extent(Extent)>& size) {
+  const bool stretch = how == Lectura::Estirada;
   if (operand == "-") {
     const Picture whole = LeerImagen(operand);
-    return Stretch(whole, size(whole.Size()));
+    const Extent wanted = size(whole.Size());
+    return stretch ? Stretch(whole, wanted) : whole;
   }
   std::string warning;
-  Picture picture = Imagenes().ReadStretched(operand, size, &warning);
+  Picture picture = stretch ? Imagenes().ReadStretched(operand, size, &warning)
+                            : Imagenes().ReadReduced(operand, size, &warning);
   if (!warning.empty()) Avisar(warning);
   return picture;
 }
@@ -90,13 +94,13 @@ void Consola::Escribir(std::string_view utf8) {
     throw ErrorDeTrabajo("No se ha podido escribir en la salida estándar: " + RazonDelError(errno) + ".");
 }
 
-void Consola::EscribirTexto(std::string_view text) {
+void Consola::EscribirLineas(std::string_view text) {
   std::string lines;
   lines.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i)
     if (text[i] != '\r' || text.substr(i, 2) != "\r\n") lines += text[i];
   if (isatty(STDOUT_FILENO) && !lines.ends_with('\n')) lines += '\n';
-  Escribir(Utf8OfBytes(lines));
+  Escribir(lines);
 }
 
 void Consola::Avisar(std::string_view sentence) {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "cli/Argumentos.h"
-#include "programa/Programa.h"
+#include "programa/Generar.h"
 
 namespace pixmosa::cli {
 
@@ -32,7 +32,9 @@ class Consola {
   Picture LeerImagen(const std::string& operand);
 
   // Stretch(LeerImagen(operand), size(its size)), quicker where the format allows.
-  Picture LeerImagenReducida(const std::string& operand, const std::function<Extent(Extent)>& size);
+  // PictureCodec::ReadReduced where `how` says so.
+  Picture LeerImagenReducida(const std::string& operand, Lectura how,
+                             const std::function<Extent(Extent)>& size);
 
   // The bytes of an operand; "-" is standard input. Throws FileError or ErrorDeTrabajo.
   std::string LeerBytes(const std::string& operand);
@@ -40,8 +42,8 @@ class Consola {
   // Writes to standard output as it stands. Throws ErrorDeTrabajo.
   void Escribir(std::string_view utf8);
 
-  // Produced text (8-bit code page, CR LF) as UTF-8 with LF line ends; a terminal gets its last line ended.
-  void EscribirTexto(std::string_view text);
+  // Rows with CR LF between them as rows with LF; a terminal gets its last line ended.
+  void EscribirLineas(std::string_view utf8);
 
   // One line "pixmosa-cli: sentence." on standard error, in place of a progress line that is shown.
   void Avisar(std::string_view sentence);

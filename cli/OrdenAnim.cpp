@@ -61,6 +61,7 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   arguments.ExigirOperandos(1, 1, "el GIF o la carpeta");
   const std::string operand = arguments.Operandos()[0], file = arguments.Exigir("-o");
   Programa p = PrepararPrograma(consola, arguments);
+  ExigirCaracteres(p);
   const Serie all = SerieDe(p, consola, operand);
   if (all.cuantos == 0) throw ErrorDeTrabajo("No hay fotogramas en \"" + operand + "\".");
   const Serie chosen = Elegidos(all, Numeros(arguments, all.cuantos));
@@ -88,6 +89,13 @@ Orden OrdenAnim() {
           "pixmosa-cli anim baile.gif -o baile.html --columnas 80",
           Juntar({{"-o", Tipo::Texto, "PAGINA.html", "la página que se escribe"},
                   OpcionDeSobrescribir(),
+                  {"--metodo",
+                   Tipo::Eleccion,
+                   "",
+                   "el método; si falta, grises",
+                   0,
+                   0,
+                   {kMetodos[kGrayscale], kMetodos[kTono], kMetodos[kFormas]}},
                   {"--fotogramas", Tipo::Texto, "LISTA", "los que se muestran, como 2,5,7; si falta, todos"}},
                  OpcionesDeTexto()),
           Hacer};

@@ -10,24 +10,21 @@
 namespace pixmosa::cli {
 namespace {
 
-// The names of the methods, in the order of their numbers.
-const std::vector<const char*> kMetodos = {"grises", "bordes", "antialias"};
-
-int MetodoDe(const Argumentos& arguments) {
-  const std::string name = arguments.Texto("--metodo").value_or(kMetodos[0]);
-  return static_cast<int>(std::find(kMetodos.begin(), kMetodos.end(), name) - kMetodos.begin());
-}
-
 void Convertir(Consola& consola, Programa& p, const std::string& operand, int method) try {
   GenerarDe(
-      p, [&](const std::function<Extent(Extent)>& size) { return consola.LeerImagenReducida(operand, size); },
+      p,
+      [&](Lectura how, const std::function<Extent(Extent)>& size) {
+        return consola.LeerImagenReducida(operand, how, size);
+      },
       method);
 } catch (const TextoExcesivo& e) {
   throw TextoExcesivo(e.columnas, e.filas, operand);
 }
 
 std::string Guardado(const Programa& p) {
-  return TextoGuardado(p.ajustes.font, p.basAscii.ProducedText);
+  const BasAscii& ascii = p.basAscii;
+  return ascii.ProducedUtf8.empty() ? TextoGuardado(p.ajustes.font, ascii.ProducedText)
+                                    : TextoGuardadoUtf8(p.ajustes.font, ascii.ProducedUtf8);
 }
 
 int Hacer(Consola& consola, const Argumentos& arguments) {
@@ -39,6 +36,7 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
 
   const int method = MetodoDe(arguments);
   Programa p = PrepararPrograma(consola, arguments);
+  ExigirCaracteres(p);
   if (method == kAntiAlias) CargarPaleta3x2(p);
   if (folder)
     return ConvertirACarpeta(consola, arguments, pictures, ".txt",
@@ -50,7 +48,7 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   if (file) {
     EscribirArchivo(*file, Guardado(p));
   } else {
-    consola.EscribirTexto(p.basAscii.ProducedText);
+    consola.EscribirLineas(TextoEnUtf8(p.basAscii));
   }
   return 0;
 }
@@ -66,7 +64,13 @@ Orden OrdenAscii() {
       Juntar({{"-o", Tipo::Texto, "TEXTO.txt", "archivo donde se guarda; si falta, la salida estándar"},
               {"--carpeta", Tipo::Texto, "DIR", "carpeta donde se guarda un NOMBRE.txt de cada imagen"},
               OpcionDeSobrescribir(),
-              {"--metodo", Tipo::Eleccion, "", "el método; si falta, grises", 0, 0, kMetodos},
+              {"--metodo",
+               Tipo::Eleccion,
+               "",
+               "el método; si falta, grises",
+               0,
+               0,
+               {std::begin(kMetodos), std::end(kMetodos)}},
               {"--relleno", Tipo::Interruptor, "", "con bordes: rellena de \":\" el interior de las formas"}},
              OpcionesDeTexto()),
       Hacer};

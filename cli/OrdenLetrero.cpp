@@ -55,7 +55,7 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
     // What the window would save: its header names the program's own font.
     EscribirArchivo(*target, TextoGuardado(Font{}, banner));
   } else {
-    consola.EscribirTexto(banner);
+    consola.EscribirLineas(Utf8OfBytes(banner));
   }
   return 0;
 }

@@ -51,9 +51,9 @@ int Despachar(Consola& consola, std::span<const std::string> words) {
 }  // namespace
 
 std::span<const Orden> Ordenes() {
-  static const std::vector<Orden> orders = {OrdenAscii(),   OrdenTabla(),      OrdenEfecto(),
-                                            OrdenWeb(),     OrdenFotogramas(), OrdenAnim(),
-                                            OrdenLetrero(), OrdenFuentes(),    OrdenEstadisticas()};
+  static const std::vector<Orden> orders = {
+      OrdenAscii(), OrdenTabla(),   OrdenEfecto(),  OrdenWeb(),          OrdenFotogramas(),
+      OrdenAnim(),  OrdenLetrero(), OrdenFuentes(), OrdenEstadisticas(), OrdenComparar()};
   return orders;
 }
 

@@ -8,6 +8,7 @@ namespace pixmosa::cli {
 Orden OrdenAscii();
 Orden OrdenTabla();
 Orden OrdenEfecto();
+Orden OrdenComparar();
 Orden OrdenWeb();
 Orden OrdenFotogramas();
 Orden OrdenAnim();

@@ -15,4 +15,7 @@ std::string PanelTamaño(const Font& font);
 // The file's bytes: a header line that names the font, CR LF, the text (8-bit code page), CR LF.
 std::string TextoGuardado(const Font& font, std::string_view text);
 
+// The same in UTF-8, for a text with characters that the code page lacks.
+std::string TextoGuardadoUtf8(const Font& font, std::string_view utf8);
+
 }  // namespace pixmosa

@@ -5,6 +5,7 @@
 
 #include "conversion/ConvertAntiAlias.h"
 #include "conversion/ConvertEdges.h"
+#include "platform/CodePage.h"
 #include "platform/Pixel.h"
 #include "platform/Stretch.h"
 
@@ -30,7 +31,10 @@ std::vector<int> CountColour(const Picture& cells, int count, Colour colour) {
 }  // namespace
 
 void RebuildCharacterTables(BasAscii& ascii, const AsciiSettings& settings, TextSurface& surface) {
-  const CharacterPalette& palette = kPalettes.at(settings.palette);
+  ascii.Elegidos.clear();
+  for (const char32_t c : settings.caracteres)
+    if (const auto code = ByteOfUnicode(c)) ascii.Elegidos += static_cast<char>(*code);
+  const CharacterPalette& palette = kPalettes.at(ascii.Elegidos.empty() ? settings.palette : 0);
   ascii.PaletteFirst = palette.first;
   ascii.PaletteLast = palette.last;
   ascii.CharBrightness.fill(0);
@@ -40,13 +44,25 @@ void RebuildCharacterTables(BasAscii& ascii, const AsciiSettings& settings, Text
   BuildGrayLookup(ascii);
 }
 
+void PrepararRepertorio(BasAscii& ascii, const AsciiSettings& settings, TextSurface& surface) {
+  if (!ascii.Medidos.caracteres.empty()) return;
+  const CharacterPalette& palette = kPalettes.at(settings.palette);
+  const std::u32string characters =
+      settings.caracteres.empty() ? CaracteresDeCodigos(palette.first, palette.last) : settings.caracteres;
+  ascii.Medidos = MedirRepertorio(surface, settings.font, {ascii.CellWidth, ascii.CellHeight}, characters,
+                                  ascii.CountedColour == kBlack);
+}
+
 void MeasureCharacterSet(BasAscii& ascii, const Font& font, TextSurface& surface) {
+  ascii.Medidos = {};
   ascii.BrightnessMax = -1.0F;
   ascii.BrightnessMin = 256.0F;
   const Extent cell = surface.GetTextSize(font, "A");
   ascii.CellWidth = cell.width;
   ascii.CellHeight = cell.height;
-  std::fill_n(ascii.CharBrightness.begin(), kControlCodes, kNeverChosen);
+  const bool chosen = !ascii.Elegidos.empty();
+  std::fill_n(ascii.CharBrightness.begin(), chosen ? ascii.CharBrightness.size() : kControlCodes,
+              kNeverChosen);
 
   const int first = Truncate(ascii.PaletteFirst), last = Truncate(ascii.PaletteLast);
   const std::vector<int> hits =
@@ -54,6 +70,7 @@ void MeasureCharacterSet(BasAscii& ascii, const Font& font, TextSurface& surface
   // One column and one row outside the cell belong to the area, though none of their pixels can count.
   const float area = (cell.width + 1) * (cell.height + 1);
   for (int code = first; code <= last; ++code) {
+    if (chosen && ascii.Elegidos.find(static_cast<char>(code)) == std::string::npos) continue;
     const float b = hits[code - first] / area * 255.0F;
     ascii.CharBrightness[code] = b;
     ascii.BrightnessMax = std::max(ascii.BrightnessMax, b);
@@ -93,14 +110,17 @@ TextoExcesivo::TextoExcesivo(double columns, double rows, const std::string& nam
 Extent ResizedExtent(const BasAscii& ascii, Extent source, int method) {
   const int across = method == kAntiAlias ? 3 : 1, columns = across * ascii.AsciiColumns;
   const float width = source.width, perColumn = width / columns;
-  const float cellHeight = ascii.CellHeight, cell = cellHeight / ascii.CellWidth;
+  const float cellHeight = ascii.CellHeight, own = cellHeight / ascii.CellWidth;
+  const float cell = ascii.Proporcion > 0 ? static_cast<float>(ascii.Proporcion) : own;
   const float height = source.height / perColumn / cell;
   const double rows = height / across;
-  if (rows * ascii.AsciiColumns > kMasCaracteres) throw TextoExcesivo(ascii.AsciiColumns, rows);
+  if (rows * ascii.AsciiColumns > (EsDeFormas(method) ? kMasCaracteresDeFormas : kMasCaracteres))
+    throw TextoExcesivo(ascii.AsciiColumns, rows);
   return {columns, std::max(1, RoundHalfEven(height))};
 }
 
 bool ConvertResized(BasAscii& ascii, const AsciiSettings& settings, const Picture& resized, int method) {
+  if (method >= kGrayscale && method <= kAntiAlias) ascii.ProducedUtf8.clear();
   switch (method) {
     case kGrayscale:
       ascii.ProducedText = ConvertGrayscale(ascii, settings.luminosity, resized);
@@ -116,8 +136,38 @@ bool ConvertResized(BasAscii& ascii, const AsciiSettings& settings, const Pictur
   }
 }
 
+void ConvertirFormas(BasAscii& ascii, const AsciiSettings& settings, const Picture& picture, Extent size,
+                     int method) {
+  const auto convert = method == kTono ? ConvertTono : ConvertFormas;
+  const std::u32string text = convert(ascii.Medidos, settings.formas, settings.luminosity, picture, size);
+  std::string bytes, utf8;
+  bool unicode = false;
+  bytes.reserve(text.size() + 2 * static_cast<std::size_t>(size.height));
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (i > 0 && i % static_cast<std::size_t>(size.width) == 0) bytes += "\r\n";
+    const auto code = ByteOfUnicode(text[i]);
+    bytes += static_cast<char>(code.value_or('?'));
+    unicode = unicode || !code;
+  }
+  for (std::size_t i = 0; unicode && i < text.size(); ++i) {
+    if (i > 0 && i % static_cast<std::size_t>(size.width) == 0) utf8 += "\r\n";
+    AppendUtf8(utf8, text[i]);
+  }
+  ascii.ProducedText = std::move(bytes);
+  ascii.ProducedUtf8 = std::move(utf8);
+}
+
+std::string TextoEnUtf8(const BasAscii& ascii) {
+  return ascii.ProducedUtf8.empty() ? Utf8OfBytes(ascii.ProducedText) : ascii.ProducedUtf8;
+}
+
 bool GenerateAscii(BasAscii& ascii, const AsciiSettings& settings, const Picture& source, int method) {
-  if (method < kGrayscale || method > kAntiAlias) return false;
+  if (method < kGrayscale || method > kFormas) return false;
+  if (EsDeFormas(method)) {
+    if (ascii.Medidos.caracteres.empty()) return false;
+    ConvertirFormas(ascii, settings, source, ResizedExtent(ascii, source.Size(), method), method);
+    return true;
+  }
   return ConvertResized(ascii, settings, Stretch(source, ResizedExtent(ascii, source.Size(), method)),
                         method);
 }

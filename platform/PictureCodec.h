@@ -40,6 +40,12 @@ class PictureCodec {
   virtual Picture ReadStretched(const std::filesystem::path& file, const std::function<Extent(Extent)>& size,
                                 std::string* aviso = nullptr) = 0;
 
+  // Read(file), or where the format allows that quickly, the same picture with the means of 2 x 2, 4 x 4 or
+  // 8 x 8 of its pixels in their place, still of `size(the whole picture's size)` pixels each way at least.
+  // Throws PictureError.
+  virtual Picture ReadReduced(const std::filesystem::path& file, const std::function<Extent(Extent)>& size,
+                              std::string* aviso = nullptr) = 0;
+
   // The size that a file's first bytes declare, upright, without decoding anything; empty where only decoding
   // tells it, and for what is no picture.
   virtual Extent Size(std::string_view bytes) = 0;

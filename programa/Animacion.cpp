@@ -1,6 +1,7 @@
 #include "programa/Animacion.h"
 
 #include "platform/CodePage.h"
+#include "programa/Generar.h"
 #include "web/AnimArt.h"
 
 namespace pixmosa {
@@ -23,7 +24,7 @@ std::string PonerFotograma(Programa& p, const Serie& frames, std::size_t k) {
   } catch (const std::exception& e) {
     failure = FraseDe(e);  // the frame before stays, and with it its text
   }
-  if (HayImagen(p)) GenerateAscii(p.basAscii, p.ajustes, p.imagen.picMain, kGrayscale);
+  if (HayImagen(p)) Generar(p, p.ajustes.conversion);
   return failure;
 }
 

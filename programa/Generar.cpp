@@ -1,5 +1,7 @@
 #include "programa/Generar.h"
 
+#include "conversion/Malla.h"
+
 namespace pixmosa {
 
 Trabajo QueGenerar(const Programa& p) {
@@ -19,8 +21,9 @@ Trabajo QueGenerar(const Programa& p) {
   return Trabajo::Ninguno;
 }
 
-int MetodoDe(Modo mode) {
-  return mode <= kModoAntialias ? static_cast<int>(mode) : -1;
+int MetodoDe(const Programa& p) {
+  if (p.modo == kModoGrises) return p.ajustes.conversion;
+  return p.modo <= kModoAntialias ? static_cast<int>(p.modo) : -1;
 }
 
 std::optional<Extent> TextoEnorme(const Programa& p, int method) {
@@ -33,11 +36,24 @@ std::optional<Extent> TextoEnorme(const Programa& p, int method) {
 }
 
 bool Generar(Programa& p, int method) {
+  if (EsDeFormas(method)) PrepararRepertorio(p.basAscii, p.ajustes, p.superficie);
   return GenerateAscii(p.basAscii, p.ajustes, p.imagen.picMain, method);
 }
 
 void GenerarDe(Programa& p, const LeerReducida& read, int method) {
-  const Picture resized = read([&](Extent source) { return ResizedExtent(p.basAscii, source, method); });
+  Extent text;
+  if (EsDeFormas(method)) {
+    // As many pixels as the light of every subcell is made of.
+    const Picture picture = read(Lectura::Reducida, [&](Extent source) {
+      text = ResizedExtent(p.basAscii, source, method);
+      return Extent{kMuestrasDeParte * kSubAncho * text.width, kMuestrasDeParte * kSubAlto * text.height};
+    });
+    PrepararRepertorio(p.basAscii, p.ajustes, p.superficie);
+    ConvertirFormas(p.basAscii, p.ajustes, picture, text, method);
+    return;
+  }
+  const Picture resized =
+      read(Lectura::Estirada, [&](Extent source) { return ResizedExtent(p.basAscii, source, method); });
   ConvertResized(p.basAscii, p.ajustes, resized, method);
 }
 

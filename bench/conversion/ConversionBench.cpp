@@ -56,6 +56,19 @@ void CharacterTables(benchmark::State& state) {
 }
 BENCHMARK(CharacterTables)->Unit(benchmark::kMillisecond);
 
+// The characters drawn smooth and measured.
+void SmoothCharacters(benchmark::State& state) {
+  test::NeedGuiApplication();
+  QtTextSurface surface;
+  BasAscii ascii;
+  RebuildCharacterTables(ascii, {}, surface);
+  for (auto _ : state) {
+    ascii.Medidos = {};
+    PrepararRepertorio(ascii, {}, surface);
+  }
+}
+BENCHMARK(SmoothCharacters)->Unit(benchmark::kMillisecond);
+
 void Generation(benchmark::State& state) {
   test::NeedGuiApplication();
   QtTextSurface surface;
@@ -64,13 +77,18 @@ void Generation(benchmark::State& state) {
   ascii.Palette3x2.Characters.fill('#');
   ascii.AsciiColumns = state.range(0);
   const int method = state.range(1);
-  const Picture& source = method == kGrayscale ? Photograph() : Drawing();
+  const Picture& source = method == kGrayscale || EsDeFormas(method) ? Photograph() : Drawing();
+  PrepararRepertorio(ascii, {}, surface);
   for (auto _ : state) GenerateAscii(ascii, {}, source, method);
 }
 BENCHMARK(Generation)
     ->ArgNames({"columns", "method"})
     ->Args({250, kGrayscale})
     ->Args({1000, kGrayscale})
+    ->Args({80, kFormas})
+    ->Args({250, kFormas})
+    ->Args({1000, kFormas})
+    ->Args({250, kTono})
     ->Args({250, kEdges})
     ->Args({250, kAntiAlias})
     ->Args({1000, kAntiAlias})

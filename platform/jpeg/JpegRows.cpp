@@ -46,6 +46,23 @@ class Reader {
 
   Extent Size() const { return {static_cast<int>(info_.image_width), static_cast<int>(info_.image_height)}; }
 
+  // The whole picture, one pixel for each `reduction` x `reduction`, the last ones for what is left.
+  std::optional<Picture> ReadWhole(unsigned reduction) {
+    if (setjmp(errors_.back)) return std::nullopt;
+    info_.scale_num = 1;
+    info_.scale_denom = reduction;
+    info_.out_color_space = JCS_EXT_BGRX;
+    jpeg_start_decompress(&info_);
+    picture_ = Picture(static_cast<int>(info_.output_width), static_cast<int>(info_.output_height));
+    std::uint32_t* to = picture_.Writable();
+    while (info_.output_scanline < info_.output_height) {
+      auto* line = reinterpret_cast<JSAMPROW>(to + std::size_t{info_.output_scanline} * info_.output_width);
+      if (jpeg_read_scanlines(&info_, &line, 1) != 1) return std::nullopt;
+    }
+    for (std::size_t i = 0; i < picture_.PixelCount(); ++i) to[i] = Opaco(to[i]);
+    return errors_.base.num_warnings == 0 ? std::optional(picture_) : std::nullopt;
+  }
+
   // Decodes the rows `ys` (ascending, repeats allowed) and takes the columns `xs` of each.
   bool ReadRows(const std::vector<int>& ys, const std::vector<int>& xs, std::uint32_t* to) {
     row_.resize(info_.image_width);
@@ -75,14 +92,32 @@ class Reader {
   ErrorManager errors_{};
   jpeg_decompress_struct info_{};
   std::vector<std::uint32_t> row_;
+  Picture picture_;
 };
+
+// Whole, upright, and not made to keep a decoder busy.
+bool Conviene(std::string_view bytes) {
+  return EsJpeg(bytes) && !JpegQuizaGirado(bytes) && JpegLlegaAlFinal(bytes) &&
+         JpegPasadas(bytes) <= kMasPasadas;
+}
 
 }  // namespace
 
+std::optional<Picture> ReadJpegReduced(std::string_view bytes, const std::function<Extent(Extent)>& size) {
+  if (!Conviene(bytes)) return std::nullopt;
+  Reader reader(bytes);
+  if (!reader.ReadHeader()) return std::nullopt;
+  const Extent source = reader.Size(), wanted = size(source);
+  if (wanted.width < 1 || wanted.height < 1) return std::nullopt;
+  int reduction = 8;
+  while (reduction > 1 &&
+         (source.width / reduction < wanted.width || source.height / reduction < wanted.height))
+    reduction /= 2;
+  return reader.ReadWhole(static_cast<unsigned>(reduction));
+}
+
 std::optional<Picture> ReadJpegStretched(std::string_view bytes, const std::function<Extent(Extent)>& size) {
-  if (!EsJpeg(bytes) || JpegQuizaGirado(bytes) || !JpegLlegaAlFinal(bytes) ||
-      JpegPasadas(bytes) > kMasPasadas)
-    return std::nullopt;
+  if (!Conviene(bytes)) return std::nullopt;
   Reader reader(bytes);
   if (!reader.ReadHeader()) return std::nullopt;
   const Extent source = reader.Size(), wanted = size(source);

@@ -14,4 +14,8 @@ namespace pixmosa {
 // general reader then takes it or says what is wrong.
 std::optional<Picture> ReadJpegStretched(std::string_view bytes, const std::function<Extent(Extent)>& size);
 
+// The picture decoded at a half, a quarter or an eighth of its size (each pixel the mean of those in its
+// place), the smallest that still has size(its size) pixels each way; whole where none has. Nothing as above.
+std::optional<Picture> ReadJpegReduced(std::string_view bytes, const std::function<Extent(Extent)>& size);
+
 }  // namespace pixmosa

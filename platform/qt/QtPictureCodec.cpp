@@ -200,21 +200,34 @@ Picture QtPictureCodec::Read(const std::filesystem::path& file, std::string* avi
   }
 }
 
-Picture QtPictureCodec::ReadStretched(const std::filesystem::path& file,
-                                      const std::function<Extent(Extent)>& size, std::string* aviso) {
+Picture QtPictureCodec::ReadQuickly(const std::filesystem::path& file, QuickReader* quick,
+                                    const std::function<Extent(Extent)>& size, std::string* aviso,
+                                    const std::function<Picture(const Picture&)>& otherwise) {
   try {
     if (aviso) aviso->clear();
     const std::string bytes = LeerArchivo(file, kMasBytesDeImagen);
-    if (std::optional<Picture> quick = ReadJpegStretched(
-            bytes, [&](Extent source) { return FitsMemory(source) ? size(source) : Extent{}; }))
-      return *quick;
-    const Picture whole = ReadBytes(bytes, file.string(), aviso);
-    return Stretch(whole, size(whole.Size()));
+    const auto bounded = [&](Extent source) { return FitsMemory(source) ? size(source) : Extent{}; };
+    if (std::optional<Picture> picture = quick(bytes, bounded)) return *picture;
+    return otherwise(ReadBytes(bytes, file.string(), aviso));
   } catch (const FileError& e) {
     throw PictureError(e.what());
   } catch (const std::bad_alloc&) {
     FailMemory(file.string());
   }
+}
+
+Picture QtPictureCodec::ReadStretched(const std::filesystem::path& file,
+                                      const std::function<Extent(Extent)>& size, std::string* aviso) {
+  return ReadQuickly(file, ReadJpegStretched, size, aviso,
+                     [&](const Picture& whole) { return Stretch(whole, size(whole.Size())); });
+}
+
+Picture QtPictureCodec::ReadReduced(const std::filesystem::path& file,
+                                    const std::function<Extent(Extent)>& size, std::string* aviso) {
+  return ReadQuickly(file, ReadJpegReduced, size, aviso, [&](const Picture& whole) {
+    size(whole.Size());
+    return whole;
+  });
 }
 
 Extent QtPictureCodec::Size(std::string_view bytes) {

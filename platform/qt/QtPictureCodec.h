@@ -3,6 +3,7 @@
 // QCoreApplication for the readers to be found.
 #pragma once
 
+#include <optional>
 #include <utility>
 
 #include "platform/PictureCodec.h"
@@ -17,6 +18,8 @@ class QtPictureCodec final : public PictureCodec {
 
   Picture Read(const std::filesystem::path& file, std::string* aviso = nullptr) override;
   Picture ReadBytes(std::string_view bytes, const std::string& name, std::string* aviso = nullptr) override;
+  Picture ReadReduced(const std::filesystem::path& file, const std::function<Extent(Extent)>& size,
+                      std::string* aviso = nullptr) override;
   Picture ReadStretched(const std::filesystem::path& file, const std::function<Extent(Extent)>& size,
                         std::string* aviso = nullptr) override;
   Extent Size(std::string_view bytes) override;
@@ -25,6 +28,11 @@ class QtPictureCodec final : public PictureCodec {
   std::vector<std::string> FormatosLegibles() override;
 
  private:
+  using QuickReader = std::optional<Picture>(std::string_view, const std::function<Extent(Extent)>&);
+  // `quick` where it can, bounded; else `otherwise` of the whole picture.
+  Picture ReadQuickly(const std::filesystem::path& file, QuickReader* quick,
+                      const std::function<Extent(Extent)>& size, std::string* aviso,
+                      const std::function<Picture(const Picture&)>& otherwise);
   Picture LeerAparte(std::string_view bytes, const std::string& name);
 
   std::function<void()> mientras_;

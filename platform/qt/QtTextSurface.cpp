@@ -80,6 +80,7 @@ std::vector<std::uint8_t> QtTextSurface::PrintSmooth(const Font& font, Extent ce
 std::string QtTextSurface::Outline(const Font& font, Extent, char32_t character) {
   QPainterPath path;
   path.addText(0, QFontMetrics(QtFontOf(font)).ascent(), SmoothQtFontOf(font, 1), Drawable(character));
+  if (path.elementCount() < 2) return {};
   std::string data;
   const auto put = [&data](char command, int first, int points, const QPainterPath& p) {
     data += command;
@@ -97,7 +98,7 @@ std::string QtTextSurface::Outline(const Font& font, Extent, char32_t character)
       put(type == QPainterPath::MoveToElement ? 'M' : 'L', i, 1, path);
     }
   }
-  return data.empty() ? data : data + 'Z';
+  return data + 'Z';
 }
 
 std::vector<std::string> QtTextSurface::ListFixedFonts() {

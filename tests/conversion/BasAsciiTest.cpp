@@ -104,7 +104,7 @@ TEST(Grayscale, RowsLuminosityAndDriver) {
   ascii.CellWidth = ascii.CellHeight = 1;
   ascii.AsciiColumns = 4;
   ascii.ProducedText = "antes";
-  EXPECT_FALSE(GenerateAscii(ascii, {}, Grays({{255}}), 3));
+  EXPECT_FALSE(GenerateAscii(ascii, {}, Grays({{255}}), 5));
   EXPECT_EQ(ascii.ProducedText, "antes");
   EXPECT_TRUE(GenerateAscii(ascii, {}, Grays({{255, 100}, {100, 255}}), kGrayscale));
   EXPECT_EQ(ascii.ProducedText, "..++\r\n..++\r\n++..\r\n++..");

@@ -130,8 +130,12 @@ TEST_F(ProgramaTest, WhatPlayRuns) {
   for (int mode = 0; mode < 6; ++mode) {
     p.modo = static_cast<Modo>(mode);
     EXPECT_EQ(QueGenerar(p), expected[mode]) << mode;
-    EXPECT_EQ(MetodoDe(p.modo), mode < 3 ? mode : -1);
+    EXPECT_EQ(MetodoDe(p), mode < 3 ? mode : -1);
   }
+  p.modo = kModoGrises;
+  p.ajustes.conversion = kFormas;
+  EXPECT_EQ(MetodoDe(p), kFormas) << "the grayscale mode has three conversions";
+  p.modo = kModoCopiaExacta;
   p.animArt = true;
   EXPECT_EQ(QueGenerar(p), WebArt) << "only the grayscale mode animates";
   p.modo = kModoGrises;

@@ -19,6 +19,11 @@ class FakePictureCodec final : public PictureCodec {
   Picture ReadBytes(std::string_view, const std::string& name, std::string* = nullptr) override {
     return Named(name);
   }
+  Picture ReadReduced(const std::filesystem::path& file, const std::function<Extent(Extent)>& size,
+                      std::string* = nullptr) override {
+    size(Read(file).Size());
+    return Read(file);
+  }
   Picture ReadStretched(const std::filesystem::path& file, const std::function<Extent(Extent)>& size,
                         std::string* = nullptr) override {
     const Picture whole = Read(file);

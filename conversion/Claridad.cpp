@@ -1,0 +1,27 @@
+#include "conversion/Claridad.h"
+
+#include <cmath>
+
+namespace pixmosa {
+namespace {
+
+constexpr double kRecta = 9.033, kHasta = 0.00886;
+
+}  // namespace
+
+double Claridad(double light) {
+  return light < kHasta ? kRecta * light : 1.16 * std::cbrt(light) - 0.16;
+}
+
+double LuzDeClaridad(double lightness) {
+  if (lightness < kRecta * kHasta) return lightness / kRecta;
+  const double root = (lightness + 0.16) / 1.16;
+  return root * root * root;
+}
+
+double LuzDeParte(int part) {
+  const double v = part / 255.0;
+  return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+}
+
+}  // namespace pixmosa
