@@ -24,7 +24,11 @@ Serie SerieDe(Programa& p, Consola& consola, const std::string& operand) {
 
 // The frames of a series with these numbers, from 0.
 Serie Elegidos(const Serie& all, const std::vector<std::size_t>& numbers) {
-  return {numbers.size(), [all, numbers](std::size_t k) { return all.leer(numbers[k]); }, {}, all.cadaUna};
+  return {numbers.size(),
+          [all, numbers](std::size_t k) { return all.leer(numbers[k]); },
+          {},
+          all.cadaUna,
+          [all, numbers](std::size_t k) { return all.nombreDe(numbers[k]); }};
 }
 
 // The chosen frames (0-based), ascending; all without the option.

@@ -10,9 +10,12 @@ namespace {
 struct Cancelada {};
 
 Serie SerieDeArchivos(const Programa& p, std::vector<std::filesystem::path> files, std::string name) {
-  const std::size_t count = files.size();
-  return {count, [&codec = p.codec, files = std::move(files)](std::size_t k) { return codec.Read(files[k]); },
-          std::move(name)};
+  const auto shared = std::make_shared<const std::vector<std::filesystem::path>>(std::move(files));
+  return {shared->size(),
+          [&codec = p.codec, shared](std::size_t k) { return codec.Read((*shared)[k]); },
+          std::move(name),
+          {},
+          [shared](std::size_t k) { return (*shared)[k].string(); }};
 }
 
 // The frame becomes the working picture; why it could not, or nothing.
@@ -23,7 +26,12 @@ std::string PonerFotograma(Programa& p, const Serie& frames, std::size_t k) {
   } catch (const std::exception& e) {
     failure = FraseDe(e);  // the frame before stays, and with it its text
   }
-  if (HayImagen(p)) GenerateAscii(p.basAscii, p.ajustes, p.imagen.picMain, kGrayscale);
+  if (!HayImagen(p)) return failure;
+  try {
+    GenerateAscii(p.basAscii, p.ajustes, p.imagen.picMain, kGrayscale);
+  } catch (const TextoExcesivo& e) {
+    throw TextoExcesivo(e.columnas, e.filas, frames.nombreDe(k));
+  }
   return failure;
 }
 
@@ -47,13 +55,14 @@ Serie SerieDeOrigen(Programa& p, const std::shared_ptr<OrigenGif>& gif, const st
   } catch (const PictureError&) {
     // Its frames may still be read one by one.
   }
+  const auto called = [name](std::size_t k) { return name + ", fotograma " + NumeroDeFotograma(k + 1); };
   return {cut->positions.size(),
-          [&codec = p.codec, gif, cut, name](std::size_t k) {
-            const std::string frame = name + ", fotograma " + NumeroDeFotograma(k + 1);
-            return codec.ReadBytes(FrameFile(*gif, *cut, k), frame);
+          [&codec = p.codec, gif, cut, called](std::size_t k) {
+            return codec.ReadBytes(FrameFile(*gif, *cut, k), called(k));
           },
           {},
-          p.codec.Size(gif->Leer(0))};
+          p.codec.Size(gif->Leer(0)),
+          called};
 }
 
 bool EscribirAnimacion(Programa& p, const Serie& frames, const std::filesystem::path& file,

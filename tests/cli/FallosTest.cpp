@@ -18,6 +18,8 @@ class FallosTest : public testing::Test {
     std::filesystem::copy(foto, folder.File("dibujo.txt"));  // the file of its own text
     std::filesystem::create_symlink("foto.png", folder.File("enlace.png"));
     std::filesystem::create_directory(folder.File("vacia"));
+    std::filesystem::create_directory(folder.File("serie"));
+    ImageOf(Picture(1, 386'547)).save(QString::fromStdString(folder.File("serie/alta.bmp")));
     EscribirArchivo(folder.File("mala.flf"), "x");
     for (const char* name : {"a.gif", "z.gif", "Fotograma 02.bmp"})
       EscribirArchivo(folder.File(name), test::Gif({1, 0, 1}));
@@ -122,6 +124,20 @@ TEST_F(FallosTest, OneSentenceEach) {
   EXPECT_NE(LeerArchivo(foto), before);
   const std::string err = Shell("p efecto foto.png 2 -o x.gif", here).err;
   EXPECT_NE(err.find("\"x.gif\" debe terminar en .png, .bmp, .jpg, .jpeg"), std::string::npos) << err;
+}
+
+TEST_F(FallosTest, TextsThatNobodyReadsAreNamed) {
+  for (const char* order :
+       {"ascii serie/alta.bmp", "ascii serie/alta.bmp --metodo antialias", "anim serie"}) {
+    const Resultado r = Shell("p " + std::string(order) + " -o n.png --columnas 20000", here);
+    EXPECT_EQ(r.status, 1) << order;
+    EXPECT_TRUE(
+        r.err.starts_with("pixmosa-cli: El texto de \"serie/alta.bmp\" sería demasiado grande: 20000 x "))
+        << r.err;
+    EXPECT_TRUE(r.err.ends_with(" caracteres.\n") && std::count(r.err.begin(), r.err.end(), '\n') == 1)
+        << r.err;
+    EXPECT_FALSE(std::filesystem::exists(folder.File("n.png"))) << order;
+  }
 }
 
 TEST_F(FallosTest, SentencesTakeThePlaceOfTheProgressLine) {
