@@ -140,6 +140,21 @@ TEST_F(FallosTest, TextsThatNobodyReadsAreNamed) {
   }
 }
 
+TEST_F(FallosTest, LibrariesSayNothingOfTheirOwn) {
+  EscribirArchivo(folder.File("qt.conf"), "[Paths]\nPlugins=/no/hay\n");
+  for (const auto& [commands, status, sentence] : std::vector<std::tuple<const char*, int, const char*>>{
+           {"FONTCONFIG_FILE=\"$PWD/foto.png\" p tabla", 0, ""},
+           {"HOME=/proc XDG_CACHE_HOME=/proc QT_DEBUG_PLUGINS=1 LC_ALL=C p tabla", 0, ""},
+           {"unset HOME XDG_RUNTIME_DIR; p tabla", 0, ""},
+           {"cp \"$0\" .; ./pixmosa-cli tabla", 1,
+            "pixmosa-cli: No se ha podido poner en marcha Qt, que dibuja las letras y lee las imágenes: su "
+            "instalación está incompleta o falta memoria.\n"}}) {
+    const Resultado r = Shell(commands, here);
+    EXPECT_EQ(r.status, status) << commands;
+    EXPECT_EQ(r.err, sentence) << commands;
+  }
+}
+
 TEST_F(FallosTest, SentencesTakeThePlaceOfTheProgressLine) {
   const std::string clear = "\r\033[K";
   EXPECT_EQ(Shell(R"(script -qec "'$0' ascii nada foto.png --carpeta x/y" /dev/null)", here).out,
