@@ -13,6 +13,7 @@
 #include "platform/qt/QtPicture.h"
 #include "platform/qt/QtPictureCodec.h"
 #include "tests/support/DrawnPicture.h"
+#include "tests/support/Gif.h"
 #include "tests/support/GuiApplication.h"
 #include "tests/support/Metafile.h"
 #include "tests/support/TestFolder.h"
@@ -117,6 +118,17 @@ TEST_F(QtPictureCodecTest, MetafilesIconsAndTransparentPixelsAreDrawn) {
                                  {3, codec.Encode(Picture::Filled(3, 3, kBlack), "png")}});
   EXPECT_EQ(codec.Size(icon), (Extent{3, 3}));
   EXPECT_EQ(codec.ReadBytes(icon, "x").Size(), (Extent{3, 3})) << "the largest";
+}
+
+// A GIF whose screen of 4 x 3 its first picture covers with one red pixel, at 2, 1.
+TEST_F(QtPictureCodecTest, AroundAGifsFirstPictureIsWhite) {
+  std::string gif = test::Gif({2, 0}).replace(6, 4, std::string("\4\0\3\0", 4));
+  gif.replace(test::GifHeader().size() + 8 + 1, 4, std::string("\2\0\1\0", 4));
+  const Picture p = codec.ReadBytes(gif, "x");
+  ASSERT_EQ(p.Size(), (Extent{4, 3}));
+  for (int y = 0; y < 3; ++y)
+    for (int x = 0; x < 4; ++x)
+      EXPECT_EQ(p.ColourAt(x, y), x == 2 && y == 1 ? Rgb(255, 0, 0) : kWhite) << x << ' ' << y;
 }
 
 TEST_F(QtPictureCodecTest, VectorPicturesReachNoFileButFonts) {
