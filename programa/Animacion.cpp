@@ -6,6 +6,9 @@
 namespace pixmosa {
 namespace {
 
+constexpr std::int64_t kMasPixeles = 1'000'000'000;  // in all the frames
+constexpr std::size_t kPrincipio = 1024;             // bytes of a file that tell its picture's size
+
 // Ends the writing of a page from inside; never leaves this file.
 struct Cancelada {};
 
@@ -23,8 +26,8 @@ std::string PonerFotograma(Programa& p, const Serie& frames, std::size_t k) {
   std::string failure;
   try {
     p.imagen.Asignar(frames.leer(k));
-  } catch (const std::exception& e) {
-    failure = FraseDe(e);  // the frame before stays, and with it its text
+  } catch (const ErrorDelPrograma& e) {
+    failure = e.what();  // the frame before stays, and with it its text
   }
   if (!HayImagen(p)) return failure;
   try {
@@ -37,11 +40,27 @@ std::string PonerFotograma(Programa& p, const Serie& frames, std::size_t k) {
 
 }  // namespace
 
+std::string Exceso(const Serie& frames) {
+  const auto count = static_cast<std::int64_t>(frames.cuantos);
+  const Extent size = frames.cadaUna;
+  if (count == 0 || std::int64_t{size.width} * size.height <= kMasPixeles / count) return {};
+  return std::to_string(count) + " fotogramas de " + std::to_string(size.width) + " x " +
+         std::to_string(size.height) + " píxeles";
+}
+
 Serie SerieDeGif(const Programa& p) {
   std::vector<std::filesystem::path> files;
   for (const std::string& number : p.basGif.Seleccionados)
     files.push_back(ArchivoDeFotograma(p.basGif.carpeta, number));
-  return SerieDeArchivos(p, std::move(files), NombreDeImagen(p));
+  Extent each;
+  try {
+    if (!files.empty()) each = p.codec.Size(OrigenGif::DeArchivo(files[0]).Leer(0, kPrincipio));
+  } catch (const FileError&) {
+    // Reading the frames says so, one by one.
+  }
+  Serie frames = SerieDeArchivos(p, std::move(files), NombreDeImagen(p));
+  frames.cadaUna = each;
+  return frames;
 }
 
 Serie SerieDeCarpeta(const Programa& p, const std::filesystem::path& folder) {

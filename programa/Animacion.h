@@ -21,6 +21,11 @@ struct Serie {
   std::function<std::string(std::size_t)> nombreDe{};  // what each is called in messages
 };
 
+// What is too much of a series whose pictures' size is known, for a sentence such as "El GIF " + name +
+// " es demasiado grande: " + this; nothing where it is not. A few bytes can ask for a great many pixels, and
+// what would keep the program busy for far more than ten seconds is refused.
+std::string Exceso(const Serie& frames);
+
 // The chosen frames of the last GIF, from their files.
 Serie SerieDeGif(const Programa& p);
 
