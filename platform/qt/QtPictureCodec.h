@@ -25,7 +25,7 @@ class QtPictureCodec final : public PictureCodec {
   std::vector<std::string> FormatosLegibles() override;
 
  private:
-  Picture LeerAparte(std::string_view bytes, const std::string& name);
+  Picture LeerAparte(std::string_view bytes, const std::string& name, std::string* aviso);
 
   std::function<void()> mientras_;
   std::filesystem::path decodificador_;

@@ -132,8 +132,9 @@ TEST_F(QtPictureCodecTest, AroundAGifsFirstPictureIsWhite) {
 }
 
 TEST_F(QtPictureCodecTest, VectorPicturesReachNoFileButFonts) {
+  std::string notice;
   const auto inked = [&](const std::string& content) {
-    const Picture p = codec.ReadBytes(Svg(content), "x");
+    const Picture p = codec.ReadBytes(Svg(content), "x", &notice);
     EXPECT_EQ(p.Size(), (Extent{20, 10}));
     return std::any_of(p.Pixels(), p.Pixels() + p.PixelCount(),
                        [](std::uint32_t v) { return v != 0xFFFFFFFF; });
@@ -143,11 +144,19 @@ TEST_F(QtPictureCodecTest, VectorPicturesReachNoFileButFonts) {
   const auto image = [](const std::string& href) {
     return R"(<image width="20" height="10" xlink:href=")" + href + R"("/>)";
   };
+  // So large that the library draws it by threads.
+  EXPECT_EQ(codec.Read(PIXMOSA_SOURCE_DIR "/data/muestra.svg").Size(), (Extent{960, 720}));
   EXPECT_TRUE(inked(R"(<text y="9">M</text>)"));
   EXPECT_TRUE(
       inked(image("data:image/png;base64," + QByteArray::fromStdString(png).toBase64().toStdString())));
-  for (const std::string& href : {file, "file://" + file, "/usr/share/fonts/../../.." + file})
+  EXPECT_EQ(notice, "");
+  const std::string torn = QByteArray::fromStdString(png.substr(0, 50)).toBase64().toStdString();
+  for (const std::string& href :
+       {file, "file://" + file, "/usr/share/fonts/../../.." + file, "data:image/png;base64," + torn}) {
     EXPECT_FALSE(inked(image(href))) << href;
+    EXPECT_EQ(notice,
+              "La imagen \"x\" puede estar incompleta: no se ha podido dibujar todo lo que contiene.");
+  }
 }
 
 TEST_F(QtPictureCodecTest, SaysWhatIsWrong) {
