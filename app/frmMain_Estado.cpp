@@ -16,6 +16,7 @@ namespace pixmosa {
 
 void frmMain::CrearEstados() {
   lblEnlace_ = named<QLabel>("lblEnlace");
+  lblEnlace_->setTextFormat(Qt::RichText);
   lblEnlace_->setTextInteractionFlags(Qt::TextBrowserInteraction);
   lblEnlace_->setMinimumWidth(1);
   statusBar()->addWidget(lblEnlace_, 1);

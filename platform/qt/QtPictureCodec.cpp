@@ -149,9 +149,7 @@ Picture QtPictureCodec::LeerAparte(std::string_view bytes, const std::string& na
       Decodificar(decodificador_.empty() ? ProgramaDecodificador() : decodificador_, bytes, mientras_);
   switch (d.razon) {
     case Razon::Parcial:
-      if (aviso)
-        *aviso = "La imagen \"" + name +
-                 "\" puede estar incompleta: no se ha podido dibujar todo lo que contiene.";
+      if (aviso) *aviso = "No se ha podido dibujar todo lo que contiene la imagen \"" + name + "\".";
       [[fallthrough]];
     case Razon::Hecha:
       CheckSize(name, d.imagen.Size());
