@@ -33,11 +33,11 @@ void frmMain::GenerarWebArt() {
                              " MB, más de lo que abren muchos navegadores.\r\n¿Desea escribirla?"))
     return;
   bool written = false;
-  Ocupar(true);
-  progreso_.Repintar();
   Intentar(
       desktop_.dialogos,
       [&] {
+        Ocupar(true);
+        progreso_.Repintar();
         written = EscribirWebArt(p_.basWeb, settings, p_.imagen.picMain, file, [this] {
           progreso_.Yield();
           return !cancelada_ && !cerrarDespues_;
@@ -100,12 +100,12 @@ void frmMain::GenerarAnimArt(const Serie& frames) {
   const std::string file = Recortada(
       desktop_.dialogos.SaveFile("Guardar el AnimArt", "Archivo HTML|*.html", "html", frames.nombre));
   if (file.empty()) return;
-  Ocupar(true);
   bool written = false;
   int unreadable = 0;
   Intentar(
       desktop_.dialogos,
       [&] {
+        Ocupar(true);
         written = EscribirAnimacion(p_, frames, file, [&](std::size_t k, const std::string& failure) {
           if (!failure.empty()) ++unreadable;
           return SeguirAnimacion(k, frames.cuantos);

@@ -64,7 +64,7 @@ class MemoriaTest : public QObject {
     m.dialogs.paths = {file, file};
     const Strings said = m.Without("Play");
     QCOMPARE(said.size(), 2U);
-    QCOMPARE(said[1], "Fail|Error al guardar|" + kNone);
+    QCOMPARE(QString::fromStdString(said[1]), QString::fromStdString("Fail|Error al guardar|" + kNone));
     QVERIFY(LeerArchivo(file) == "antes" && !m.Busy());
     QCOMPARE(m.program.imagen.picMain.Pixels(), before.Pixels());
     m.Trigger("Play");
@@ -83,7 +83,7 @@ class MemoriaTest : public QObject {
     m.dialogs.paths = {file, file};
     const Strings said = m.Without("Play");
     QCOMPARE(said.size(), 2U);
-    QCOMPARE(said[1], "Fail|Error al guardar|" + kNone);
+    QCOMPARE(QString::fromStdString(said[1]), QString::fromStdString("Fail|Error al guardar|" + kNone));
     QVERIFY(!std::filesystem::exists(file) && !m.Busy());
     QCOMPARE(m.program.imagen.picUndo.Pixels(), undo.Pixels());
     QCOMPARE(m.program.imagen.picMain.Size(), (Extent{1, 1}));
