@@ -72,7 +72,7 @@ TEST(Encierro, WhatTheKernelRefusesIsNotTheFilesFault) {
       seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), number, 0);
       if (wall == std::string("seccomp"))
         seccomp_rule_add(filter, SCMP_ACT_ERRNO(EINVAL), SCMP_SYS(prctl), 1,
-                         SCMP_A0(SCMP_CMP_EQ, PR_SET_SECCOMP));
+                         scmp_arg_cmp{0, SCMP_CMP_EQ, PR_SET_SECCOMP, 0});
       if (seccomp_load(filter) != 0) ::_exit(100);
       ::_exit(static_cast<int>(Decodificar(ProgramaDecodificador(), bytes).razon));
     }
