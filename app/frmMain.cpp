@@ -149,7 +149,8 @@ void frmMain::CrearBarraDeEstado() {
   panelFuente_ = panel("Fuente");
   panelFiglet_ = panel("Figlet");
   panelTamaño_ = panel("Tamaño");
-  panel("Modo")->setText("MODO ASCIIART");
+  panelModo_ = panel("Modo");
+  panelModo_->setText("MODO ASCIIART");
 }
 
 void frmMain::CrearPaneles() {

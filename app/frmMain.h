@@ -52,6 +52,7 @@ class frmMain final : public QMainWindow {
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   // --- frmMain.cpp, frmMain_Menus.cpp: what there is ---
@@ -117,6 +118,7 @@ class frmMain final : public QMainWindow {
 
   // --- frmMain_Estado.cpp: the left part of the status bar, and what long work shows ---
   void Decir(const QString& text, const QString& link = {}, std::function<void()> follow = {});
+  void HacerSitio();       // the panels at its right give way to a sentence that would be cut
   void Ocupar(bool busy);  // while a long work lets events in: nothing else can be started
   void Cancelar();
   void NombrarArchivo(const QString& what, const std::string& file);
@@ -146,6 +148,7 @@ class frmMain final : public QMainWindow {
   QLabel* panelFuente_ = nullptr;
   QLabel* panelFiglet_ = nullptr;
   QLabel* panelTamaño_ = nullptr;
+  QLabel* panelModo_ = nullptr;
   frmPreview* preview_ = nullptr;
   frmEditor* editor_ = nullptr;
   frmFiglet* figlet_ = nullptr;

@@ -13,9 +13,15 @@
 #include "platform/qt/QtText.h"
 
 namespace pixmosa {
+namespace {
+
+constexpr int kAnchoDeNombre = 240;  // pixels of a file's name in a sentence
+
+}  // namespace
 
 void frmMain::CrearEstados() {
   lblEnlace_ = named<QLabel>("lblEnlace");
+  lblEnlace_->setTextFormat(Qt::RichText);
   lblEnlace_->setTextInteractionFlags(Qt::TextBrowserInteraction);
   lblEnlace_->setMinimumWidth(1);
   statusBar()->addWidget(lblEnlace_, 1);
@@ -37,11 +43,28 @@ void frmMain::Decir(const QString& text, const QString& link, std::function<void
   const QString anchor = link.isEmpty() ? QString() : " <a href=\"#\">" + link.toHtmlEscaped() + "</a>";
   lblEnlace_->setText(text.toHtmlEscaped() + anchor);
   lblEnlace_->setToolTip(text);
+  HacerSitio();
+}
+
+void frmMain::HacerSitio() {
+  constexpr int kEntrePaneles = 8, kAsa = 32;
+  const bool silent = lblEnlace_->text().isEmpty();
+  int room = width() - kAsa - lblEnlace_->sizeHint().width() - panelModo_->sizeHint().width();
+  for (QLabel* panel : {panelTamaño_, panelFuente_, panelFiglet_}) {
+    room -= panel->sizeHint().width() + kEntrePaneles;
+    panel->setVisible(silent || room >= 0);
+  }
+}
+
+void frmMain::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  HacerSitio();
 }
 
 void frmMain::NombrarArchivo(const QString& what, const std::string& file) {
-  Decir(what + ": " + Q(std::filesystem::path(file).filename().string()) + ".", QStringLiteral("Abrir"),
-        [this, file] { AbrirPagina(file); });
+  const QString name = Q(std::filesystem::path(file).filename().string());
+  Decir(what + ": " + fontMetrics().elidedText(name, Qt::ElideMiddle, kAnchoDeNombre) + ".",
+        QStringLiteral("Abrir"), [this, file] { AbrirPagina(file); });
 }
 
 void frmMain::Ocupar(bool busy) {

@@ -33,11 +33,11 @@ void frmMain::GenerarWebArt() {
                              " MB, más de lo que abren muchos navegadores.\r\n¿Desea escribirla?"))
     return;
   bool written = false;
-  Ocupar(true);
-  progreso_.Repintar();
   Intentar(
       desktop_.dialogos,
       [&] {
+        Ocupar(true);
+        progreso_.Repintar();
         written = EscribirWebArt(p_.basWeb, settings, p_.imagen.picMain, file, [this] {
           progreso_.Yield();
           return !cancelada_ && !cerrarDespues_;
@@ -70,7 +70,14 @@ void frmMain::ElegirFotogramas() {
 }
 
 void frmMain::AnimArtDeGif() {
-  if (!p_.basGif.FramesList.empty()) GenerarAnimArt(SerieDeGif(p_));
+  if (p_.basGif.FramesList.empty()) return;
+  const Serie frames = SerieDeGif(p_);
+  if (const std::string excess = Exceso(frames); excess.empty()) {
+    GenerarAnimArt(frames);
+  } else {
+    desktop_.dialogos.Fail("El GIF \"" + frames.nombre + "\" es demasiado grande: " + excess +
+                           ". Elija menos fotogramas.");
+  }
 }
 
 void frmMain::AnimArtDirectorio() {
@@ -93,17 +100,23 @@ void frmMain::GenerarAnimArt(const Serie& frames) {
   const std::string file = Recortada(
       desktop_.dialogos.SaveFile("Guardar el AnimArt", "Archivo HTML|*.html", "html", frames.nombre));
   if (file.empty()) return;
-  Ocupar(true);
   bool written = false;
+  int unreadable = 0;
   Intentar(
       desktop_.dialogos,
       [&] {
-        written = EscribirAnimacion(p_, frames, file, [&](std::size_t k, const std::string&) {
+        Ocupar(true);
+        written = EscribirAnimacion(p_, frames, file, [&](std::size_t k, const std::string& failure) {
+          if (!failure.empty()) ++unreadable;
           return SeguirAnimacion(k, frames.cuantos);
         });
       },
       "Error al guardar");
-  TerminarPagina("Animación escrita", "Animación cancelada: no se ha escrito nada.", written, file);
+  const QString done = unreadable == 0 ? QStringLiteral("Animación escrita")
+                                       : QStringLiteral("Animación escrita (sin leer %1 de %2 fotogramas)")
+                                             .arg(unreadable)
+                                             .arg(frames.cuantos);
+  TerminarPagina(done, "Animación cancelada: no se ha escrito nada.", written, file);
 }
 
 bool frmMain::SeguirAnimacion(std::size_t k, std::size_t frames) {

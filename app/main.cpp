@@ -17,6 +17,7 @@
 #include "platform/qt/QtRegistry.h"
 #include "platform/qt/QtShell.h"
 #include "platform/qt/QtTextSurface.h"
+#include "platform/qt/UltimaFrase.h"
 #include "programa/Generar.h"
 
 namespace {
@@ -36,6 +37,10 @@ class Aplicacion final : public QApplication {
  private:
   pixmosa::Dialogs& dialogs_;
 };
+
+constexpr char kFallo[] = "pixmosa: El programa ha tenido que terminar por un fallo suyo.\n";
+constexpr char kSinQt[] =
+    "pixmosa: No se ha podido abrir la ventana: no hay pantalla, o la instalación de Qt está incompleta.\n";
 
 constexpr char kAyuda[] =
     "Uso: pixmosa [IMAGEN]\n\n"
@@ -58,6 +63,7 @@ const char* RespuestaDeTerminal(int argc, char** argv) {
 int main(int argc, char** argv) {
   using namespace pixmosa;
   if (const char* answer = RespuestaDeTerminal(argc, argv)) return std::fputs(answer, stdout) < 0 ? 1 : 0;
+  PonerUltimaFrase<kFallo, kSinQt>();
   QuitarTemporalesAlTerminar();
   QtDialogs dialogs;
   Aplicacion app(argc, argv, dialogs);

@@ -1,5 +1,7 @@
 #include "cli/Consola.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <set>
@@ -24,6 +26,15 @@ constexpr int kColumnasSinTerminal = 80;
 
 std::string LeerEntrada() {
   return LeerFlujo(stdin, "-", kMasBytesDeImagen);
+}
+
+// To the descriptor: the stream is the libraries', see main.cpp.
+void EscribirAviso(std::string_view text) {
+  while (!text.empty()) {
+    const ssize_t n = ::write(STDERR_FILENO, text.data(), text.size());
+    if (n <= 0 && errno != EINTR) return;
+    text.remove_prefix(static_cast<std::size_t>(std::max<ssize_t>(0, n)));
+  }
 }
 
 }  // namespace
@@ -107,18 +118,15 @@ void Consola::Avisar(std::string_view sentence) {
   std::string line = (hayProgreso_ ? "\r\033[K" : "") + ("pixmosa-cli: " + Visible(sentence));
   hayProgreso_ = false;
   if (!line.ends_with('.')) line += '.';
-  std::fputs((line + "\n").c_str(), stderr);
+  EscribirAviso(line + "\n");
 }
 
 void Consola::Progreso(std::string_view what, std::size_t n, std::size_t of) {
   if (!isatty(STDERR_FILENO)) return;
   hayProgreso_ = n != of;
-  if (n == of) {
-    std::fputs("\r\033[K", stderr);
-  } else {
-    std::fprintf(stderr, "\r\033[K%.*s %zu/%zu", static_cast<int>(what.size()), what.data(), n + 1, of);
-  }
-  std::fflush(stderr);
+  std::string line = "\r\033[K";
+  if (n != of) line += std::string(what) + " " + std::to_string(n + 1) + "/" + std::to_string(of);
+  EscribirAviso(line);
 }
 
 int Consola::AnchoDeTerminal() const {

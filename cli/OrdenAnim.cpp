@@ -12,8 +12,6 @@
 namespace pixmosa::cli {
 namespace {
 
-constexpr std::int64_t kMasPixeles = 4'000'000'000;  // in all the frames
-
 // The pictures of the operand: a folder, or a GIF, whose own picture is the one that stands before its
 // frames.
 Serie SerieDe(Programa& p, Consola& consola, const std::string& operand) {
@@ -24,7 +22,11 @@ Serie SerieDe(Programa& p, Consola& consola, const std::string& operand) {
 
 // The frames of a series with these numbers, from 0.
 Serie Elegidos(const Serie& all, const std::vector<std::size_t>& numbers) {
-  return {numbers.size(), [all, numbers](std::size_t k) { return all.leer(numbers[k]); }, {}, all.cadaUna};
+  return {numbers.size(),
+          [all, numbers](std::size_t k) { return all.leer(numbers[k]); },
+          {},
+          all.cadaUna,
+          [all, numbers](std::size_t k) { return all.nombreDe(numbers[k]); }};
 }
 
 // The chosen frames (0-based), ascending; all without the option.
@@ -47,16 +49,6 @@ std::vector<std::size_t> Numeros(const Argumentos& arguments, std::size_t count)
   return chosen;
 }
 
-// A few bytes can ask for a great many pixels: what would take minutes is refused.
-void ComprobarTrabajo(const Serie& chosen, const std::string& operand) {
-  const auto count = static_cast<std::int64_t>(chosen.cuantos);
-  const Extent size = chosen.cadaUna;
-  if (std::int64_t{size.width} * size.height <= kMasPixeles / count) return;
-  throw ErrorDeTrabajo("El GIF \"" + operand + "\" es demasiado grande: " + std::to_string(count) +
-                       " fotogramas de " + std::to_string(size.width) + " x " + std::to_string(size.height) +
-                       " píxeles. La opción --fotogramas elige menos.");
-}
-
 int Hacer(Consola& consola, const Argumentos& arguments) {
   arguments.ExigirOperandos(1, 1, "el GIF o la carpeta");
   const std::string operand = arguments.Operandos()[0], file = arguments.Exigir("-o");
@@ -65,7 +57,9 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   const Serie all = SerieDe(p, consola, operand);
   if (all.cuantos == 0) throw ErrorDeTrabajo("No hay fotogramas en \"" + operand + "\".");
   const Serie chosen = Elegidos(all, Numeros(arguments, all.cuantos));
-  ComprobarTrabajo(chosen, operand);
+  if (const std::string excess = Exceso(chosen); !excess.empty())
+    throw ErrorDeTrabajo("El GIF \"" + operand + "\" es demasiado grande: " + excess +
+                         ". La opción --fotogramas elige menos.");
   std::size_t unreadable = 0;
   const bool written = EscribirAnimacion(p, chosen, file, [&](std::size_t k, const std::string& failure) {
     consola.Progreso("Fotograma", k, chosen.cuantos);

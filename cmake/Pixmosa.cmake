@@ -48,9 +48,9 @@ function(pixmosa_test name)
                        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QT_LOGGING_RULES=qt.qpa.*=false")
 endfunction()
 
-# pixmosa_fuzzer(NAME SOURCE a.cpp CORPUS dir LINKS lib ...): a libFuzzer program; its test is a short run.
+# pixmosa_fuzzer(NAME SOURCE a.cpp CORPUS dir ... LINKS lib ...): a libFuzzer program; its test is a short run.
 function(pixmosa_fuzzer name)
-  cmake_parse_arguments(ARG "" "SOURCE;CORPUS" "LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "SOURCE" "CORPUS;LINKS" ${ARGN})
   if(NOT PIXMOSA_FUZZ)
     return()
   endif()

@@ -1,5 +1,6 @@
 #include "decodificador/Encierro.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -32,7 +33,7 @@ constexpr std::uint64_t kTodo =
     LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_MAKE_SOCK | LANDLOCK_ACCESS_FS_MAKE_FIFO |
     LANDLOCK_ACCESS_FS_MAKE_BLOCK | LANDLOCK_ACCESS_FS_MAKE_SYM;
 
-// What computing, memory, its own threads and reading open files need.
+// What computing, memory, its own threads (which libraries wake by pipes) and reading open files need.
 constexpr const char* kPermitidas[] = {"access",
                                        "arch_prctl",
                                        "brk",
@@ -41,6 +42,7 @@ constexpr const char* kPermitidas[] = {"access",
                                        "clock_nanosleep",
                                        "close",
                                        "dup",
+                                       "eventfd2",
                                        "exit",
                                        "exit_group",
                                        "fadvise64",
@@ -71,6 +73,7 @@ constexpr const char* kPermitidas[] = {"access",
                                        "munmap",
                                        "nanosleep",
                                        "newfstatat",
+                                       "pipe2",
                                        "poll",
                                        "pread64",
                                        "prlimit64",
@@ -151,22 +154,26 @@ bool Permitir(scmp_filter_ctx filter, bool reading) {
 }  // namespace
 
 bool Limitar() {
-  const auto limit = [](auto what, rlim_t most) {
-    const rlimit l{most, most};
+  const auto limit = [](auto what, rlim_t soft, rlim_t hard) {
+    rlimit l{};
+    if (::getrlimit(what, &l) != 0) return false;
+    l.rlim_max = std::min(l.rlim_max, hard);
+    l.rlim_cur = std::min({l.rlim_cur, l.rlim_max, soft});
     return ::setrlimit(what, &l) == 0;
   };
   ::signal(SIGXFSZ, SIG_IGN);  // a write that is refused need not end the process
   // The soft limit of processor time ends with its own signal, which tells the client why.
-  const rlimit time{kSegundos, kSegundos + 1};
-  return ::setrlimit(RLIMIT_CPU, &time) == 0 && limit(RLIMIT_AS, kMemoria) && limit(RLIMIT_FSIZE, 0) &&
-         limit(RLIMIT_NOFILE, kArchivos) && limit(RLIMIT_CORE, 0) &&
-         ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && ::prctl(PR_SET_PDEATHSIG, SIGKILL) == 0;
+  return limit(RLIMIT_CPU, kSegundos, kSegundos + 1) && limit(RLIMIT_AS, kMemoria, kMemoria) &&
+         limit(RLIMIT_FSIZE, 0, 0) && limit(RLIMIT_NOFILE, kArchivos, kArchivos) &&
+         limit(RLIMIT_CORE, 0, 0) && ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+         ::prctl(PR_SET_PDEATHSIG, SIGKILL) == 0;
 }
 
-bool Encerrar(const std::vector<std::filesystem::path>& carpetas) {
+Muros Encerrar(const std::vector<std::filesystem::path>& carpetas) {
   const bool reading = SoloCarpetas(carpetas);
   const std::unique_ptr<void, void (*)(void*)> filter(seccomp_init(SCMP_ACT_ERRNO(EACCES)), seccomp_release);
-  return filter && Permitir(filter.get(), reading) && seccomp_load(filter.get()) == 0;
+  if (!filter || !Permitir(filter.get(), reading) || seccomp_load(filter.get()) != 0) return Muros::Ninguno;
+  return reading ? Muros::Enteros : Muros::SinCarpetas;
 }
 
 std::vector<std::filesystem::path> CarpetasDeLetras() {

@@ -8,6 +8,7 @@
 #include <QBuffer>
 #include <QGuiApplication>
 #include <QImageReader>
+#include <QLoggingCategory>
 
 #include "decodificador/Encierro.h"
 #include "platform/decodificador/Contenido.h"
@@ -40,7 +41,7 @@ bool Escribir(const void* data, std::size_t size) {
 bool Responder(const Decodificada& d) {
   Cabecera c;
   c.razon = static_cast<std::uint32_t>(d.razon);
-  const Extent size = d.razon == Razon::Hecha ? d.imagen.Size() : d.declarada;
+  const Extent size = ConPixeles(d.razon) ? d.imagen.Size() : d.declarada;
   c.ancho = static_cast<std::uint32_t>(size.width);
   c.alto = static_cast<std::uint32_t>(size.height);
   return Escribir(&c, sizeof c) && Escribir(d.imagen.Pixels(), d.imagen.PixelCount() * sizeof(std::uint32_t));
@@ -72,12 +73,35 @@ void IrAlMayor(QImageReader& reader) {
   reader.jumpToImage(best);
 }
 
+// Whether a picture within the picture could not be read. Its reader says so by a message and by nothing
+// else, and whoever gets the messages reaches nothing but what is global.
+bool& HayHuecos() {
+  static bool any = false;
+  return any;
+}
+
+void AtenderMensaje(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type == QtFatalMsg) ::_exit(kNoArranca);
+  if (context.category == std::string_view("qt.svg") && text.startsWith(u"Could not create image"))
+    HayHuecos() = true;
+}
+
+// What has been read behind the walls that could be raised: a file is not to blame for what they lack.
+Decodificada Juzgar(Decodificada d, Muros walls, bool letters) {
+  const bool blind = walls == Muros::SinCarpetas && letters;
+  if (d.razon == Razon::Hecha && (HayHuecos() || blind)) d.razon = Razon::Parcial;
+  if (d.razon == Razon::Danada && blind) d.razon = Razon::Insegura;
+  return d;
+}
+
 Decodificada LeerConQt(const std::string& bytes) {
+  QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=true"));
   CargarLectores();
   QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
   QBuffer buffer(&data);
   buffer.open(QIODevice::ReadOnly);
-  if (!Encerrar(CarpetasDeLetras())) return {Razon::Caida};
+  const Muros walls = Encerrar(CarpetasDeLetras());
+  if (walls == Muros::Ninguno) return {Razon::Insegura};
   QImageReader reader(&buffer);
   QImageReader::setAllocationLimit(0);  // the process has a limit of its own
   reader.setDecideFormatFromContent(true);
@@ -88,24 +112,30 @@ Decodificada LeerConQt(const std::string& bytes) {
   if (size.isValid() && Pixeles(size) > kMasPixelesAparte)
     return {Razon::Grande, {}, {size.width(), size.height()}};
   if (size.isValid() && size.isEmpty()) return {Razon::Vacia};
+  const bool letters = reader.format().startsWith("svg");
   QImage image;
   if (!reader.read(&image)) {
     // What the system cannot give is not the file's fault.
     const bool room = !size.isValid() || !QImage(size, QImage::Format_ARGB32).isNull();
-    return {room ? Razon::Danada : Razon::SinMemoria};
+    return Juzgar({room ? Razon::Danada : Razon::SinMemoria}, walls, letters);
   }
   if (image.isNull()) return {Razon::Vacia};
   if (Pixeles(image.size()) > kMasPixelesAparte) return {Razon::Grande, {}, {image.width(), image.height()}};
-  return {Razon::Hecha, PictureOf(std::move(image)), {}};
+  return Juzgar({Razon::Hecha, PictureOf(std::move(image)), {}}, walls, letters);
 }
 
 Decodificada LeerMetafile(const std::string& bytes) {
-  if (!Encerrar(CarpetasDeLetras())) return {Razon::Caida};
+  const Muros walls = Encerrar(CarpetasDeLetras());
+  if (walls == Muros::Ninguno) return {Razon::Insegura};
   Picture picture = DibujarMetafile(bytes);
-  return picture.IsEmpty() ? Decodificada{Razon::Danada} : Decodificada{Razon::Hecha, std::move(picture), {}};
+  return Juzgar(
+      picture.IsEmpty() ? Decodificada{Razon::Danada} : Decodificada{Razon::Hecha, std::move(picture), {}},
+      walls, true);
 }
 
 Decodificada Leer(int argc, char** argv) {
+  if (!Limitar()) return {Razon::Insegura};
+  qInstallMessageHandler(AtenderMensaje);
   try {
     const std::string bytes = LeerEntrada();
     if (EsMetafile(bytes)) return LeerMetafile(bytes);
@@ -121,7 +151,6 @@ Decodificada Leer(int argc, char** argv) {
 }  // namespace pixmosa
 
 int main(int argc, char** argv) {
-  if (!pixmosa::Limitar()) return 1;
   const pixmosa::Decodificada d = pixmosa::Leer(argc, argv);
   // Without tidying up after readers that may have left anything behind.
   ::_exit(d.razon <= pixmosa::kUltimaRespondida && pixmosa::Responder(d) ? 0 : 1);

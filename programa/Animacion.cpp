@@ -7,13 +7,19 @@
 namespace pixmosa {
 namespace {
 
+constexpr std::int64_t kMasPixeles = 1'000'000'000;  // in all the frames
+constexpr std::size_t kPrincipio = 1024;             // bytes of a file that tell its picture's size
+
 // Ends the writing of a page from inside; never leaves this file.
 struct Cancelada {};
 
 Serie SerieDeArchivos(const Programa& p, std::vector<std::filesystem::path> files, std::string name) {
-  const std::size_t count = files.size();
-  return {count, [&codec = p.codec, files = std::move(files)](std::size_t k) { return codec.Read(files[k]); },
-          std::move(name)};
+  const auto shared = std::make_shared<const std::vector<std::filesystem::path>>(std::move(files));
+  return {shared->size(),
+          [&codec = p.codec, shared](std::size_t k) { return codec.Read((*shared)[k]); },
+          std::move(name),
+          {},
+          [shared](std::size_t k) { return (*shared)[k].string(); }};
 }
 
 // The frame becomes the working picture; why it could not, or nothing.
@@ -21,20 +27,41 @@ std::string PonerFotograma(Programa& p, const Serie& frames, std::size_t k) {
   std::string failure;
   try {
     p.imagen.Asignar(frames.leer(k));
-  } catch (const std::exception& e) {
-    failure = FraseDe(e);  // the frame before stays, and with it its text
+  } catch (const ErrorDelPrograma& e) {
+    failure = e.what();  // the frame before stays, and with it its text
   }
-  if (HayImagen(p)) Generar(p, p.ajustes.conversion);
+  if (!HayImagen(p)) return failure;
+  try {
+    Generar(p, p.ajustes.conversion);
+  } catch (const TextoExcesivo& e) {
+    throw TextoExcesivo(e.columnas, e.filas, frames.nombreDe(k));
+  }
   return failure;
 }
 
 }  // namespace
 
+std::string Exceso(const Serie& frames) {
+  const auto count = static_cast<std::int64_t>(frames.cuantos);
+  const Extent size = frames.cadaUna;
+  if (count == 0 || std::int64_t{size.width} * size.height <= kMasPixeles / count) return {};
+  return std::to_string(count) + " fotogramas de " + std::to_string(size.width) + " x " +
+         std::to_string(size.height) + " píxeles";
+}
+
 Serie SerieDeGif(const Programa& p) {
   std::vector<std::filesystem::path> files;
   for (const std::string& number : p.basGif.Seleccionados)
     files.push_back(ArchivoDeFotograma(p.basGif.carpeta, number));
-  return SerieDeArchivos(p, std::move(files), NombreDeImagen(p));
+  Extent each;
+  try {
+    if (!files.empty()) each = p.codec.Size(OrigenGif::DeArchivo(files[0]).Leer(0, kPrincipio));
+  } catch (const FileError&) {
+    // Reading the frames says so, one by one.
+  }
+  Serie frames = SerieDeArchivos(p, std::move(files), NombreDeImagen(p));
+  frames.cadaUna = each;
+  return frames;
 }
 
 Serie SerieDeCarpeta(const Programa& p, const std::filesystem::path& folder) {
@@ -48,13 +75,14 @@ Serie SerieDeOrigen(Programa& p, const std::shared_ptr<OrigenGif>& gif, const st
   } catch (const PictureError&) {
     // Its frames may still be read one by one.
   }
+  const auto called = [name](std::size_t k) { return name + ", fotograma " + NumeroDeFotograma(k + 1); };
   return {cut->positions.size(),
-          [&codec = p.codec, gif, cut, name](std::size_t k) {
-            const std::string frame = name + ", fotograma " + NumeroDeFotograma(k + 1);
-            return codec.ReadBytes(FrameFile(*gif, *cut, k), frame);
+          [&codec = p.codec, gif, cut, called](std::size_t k) {
+            return codec.ReadBytes(FrameFile(*gif, *cut, k), called(k));
           },
           {},
-          p.codec.Size(gif->Leer(0))};
+          p.codec.Size(gif->Leer(0)),
+          called};
 }
 
 bool EscribirAnimacion(Programa& p, const Serie& frames, const std::filesystem::path& file,

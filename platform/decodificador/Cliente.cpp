@@ -89,15 +89,18 @@ class Proceso {
   bool EnMarcha() const { return pid_ > 0; }
   int Enchufe() const { return socket_; }
 
-  // After its end of the socket closed: whether the limit of processor time ended it.
-  bool AcabadoPorTiempo() {
+  // After its end of the socket closed without an answer: what ended it.
+  Razon PorQueCayo() {
     for (int i = 0; i < 200; ++i, std::this_thread::sleep_for(milliseconds(1))) {
       int status = 0;
       if (::waitpid(pid_, &status, WNOHANG) != pid_) continue;
       pid_ = -1;
-      return WIFSIGNALED(status) && (WTERMSIG(status) == SIGXCPU || WTERMSIG(status) == SIGKILL);
+      // The limit of processor time.
+      if (WIFSIGNALED(status) && (WTERMSIG(status) == SIGXCPU || WTERMSIG(status) == SIGKILL))
+        return Razon::Tarde;
+      return WIFEXITED(status) && WEXITSTATUS(status) == kNoArranca ? Razon::Insegura : Razon::Caida;
     }
-    return false;
+    return Razon::Caida;
   }
 
  private:
@@ -158,7 +161,7 @@ Decodificada Decodificar(const std::filesystem::path& programa, std::string_view
     if (p.revents & (POLLIN | POLLHUP | POLLERR)) more = Recibir(process.Enchufe(), answer);
   }
   Decodificada result = answer.Tomar();
-  if (result.razon == Razon::Caida && process.AcabadoPorTiempo()) result.razon = Razon::Tarde;
+  if (result.razon == Razon::Caida) result.razon = process.PorQueCayo();
   return result;
 }
 

@@ -7,14 +7,14 @@ namespace pixmosa {
 bool Respuesta::CabeceraValida() const {
   if (cabecera_.marca != Cabecera::kMarca || cabecera_.razon > static_cast<std::uint32_t>(kUltimaRespondida))
     return false;
-  if (static_cast<Razon>(cabecera_.razon) != Razon::Hecha) return true;
+  if (!ConPixeles(static_cast<Razon>(cabecera_.razon))) return true;
   return cabecera_.ancho > 0 && cabecera_.alto > 0 && cabecera_.ancho <= kMasPixelesAparte &&
          cabecera_.alto <= kMasPixelesAparte / cabecera_.ancho;
 }
 
 std::span<std::byte> Respuesta::Hueco() {
   if (hay_ < sizeof cabecera_) return std::as_writable_bytes(std::span(&cabecera_, 1)).subspan(hay_);
-  if (!CabeceraValida() || static_cast<Razon>(cabecera_.razon) != Razon::Hecha) return {};
+  if (!CabeceraValida() || !ConPixeles(static_cast<Razon>(cabecera_.razon))) return {};
   if (imagen_.IsEmpty())
     imagen_ = Picture(static_cast<int>(cabecera_.ancho), static_cast<int>(cabecera_.alto));
   return std::as_writable_bytes(std::span(imagen_.Writable(), imagen_.PixelCount()))
@@ -24,7 +24,7 @@ std::span<std::byte> Respuesta::Hueco() {
 Decodificada Respuesta::Tomar() {
   if (hay_ < sizeof cabecera_ || !CabeceraValida() || !Hueco().empty()) return {};
   Decodificada d{static_cast<Razon>(cabecera_.razon), std::move(imagen_), {}};
-  if (d.razon == Razon::Hecha)
+  if (ConPixeles(d.razon))
     for (std::uint32_t& pixel : std::span(d.imagen.Writable(), d.imagen.PixelCount())) pixel |= 0xFF000000U;
   if (d.razon == Razon::Grande)
     d.declarada = {static_cast<int>(cabecera_.ancho & 0x7FFFFFFF),

@@ -21,12 +21,21 @@ enum class Razon : std::uint32_t {
   Vacia,       // a picture without pixels
   Grande,      // more pixels than kMasPixelesAparte
   SinMemoria,  // more memory than the process may have
+  Insegura,    // the system refuses the walls, or the process cannot start there: not the file's fault
+  Parcial,     // the pixels follow, but some picture or text in it could not be drawn
   // Only the client says these:
   Tarde,   // it took too long and was ended
   Caida,   // it ended without an answer
   Ausente  // it could not be started
 };
-constexpr Razon kUltimaRespondida = Razon::SinMemoria;
+constexpr Razon kUltimaRespondida = Razon::Parcial;
+
+constexpr bool ConPixeles(Razon r) {
+  return r == Razon::Hecha || r == Razon::Parcial;
+}
+
+// The process's status where it cannot start: also the loader's, where a library is missing or has no room.
+constexpr int kNoArranca = 127;
 
 struct Cabecera {
   static constexpr std::array<char, 4> kMarca = {'P', 'x', 'D', '1'};
@@ -37,7 +46,7 @@ static_assert(sizeof(Cabecera) == 16);
 
 struct Decodificada {
   Razon razon = Razon::Caida;
-  Picture imagen{};    // for Hecha
+  Picture imagen{};    // for Hecha and Parcial
   Extent declarada{};  // for Grande
 };
 

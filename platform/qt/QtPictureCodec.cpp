@@ -141,13 +141,16 @@ QtPictureCodec::QtPictureCodec(std::function<void()> mientras, std::filesystem::
   QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false\nqt.gui.icc=false\nqt.svg*=false"));
 }
 
-Picture QtPictureCodec::LeerAparte(std::string_view bytes, const std::string& name) {
+Picture QtPictureCodec::LeerAparte(std::string_view bytes, const std::string& name, std::string* aviso) {
   if (bytes.size() > kMasBytesAparte) Fail(name, "el archivo es demasiado grande para una imagen de su tipo");
   if (const std::optional<Extent> icon = TamanoDeIcono(bytes); icon && Pixels(*icon) > kMasPixelesAparte)
     FailSize(name, *icon);
   Decodificada d =
       Decodificar(decodificador_.empty() ? ProgramaDecodificador() : decodificador_, bytes, mientras_);
   switch (d.razon) {
+    case Razon::Parcial:
+      if (aviso) *aviso = "No se ha podido dibujar todo lo que contiene la imagen \"" + name + "\".";
+      [[fallthrough]];
     case Razon::Hecha:
       CheckSize(name, d.imagen.Size());
       return std::move(d.imagen);
@@ -161,6 +164,8 @@ Picture QtPictureCodec::LeerAparte(std::string_view bytes, const std::string& na
       FailSize(name, d.declarada);
     case Razon::SinMemoria:
       FailMemory(name);
+    case Razon::Insegura:
+      Fail(name, "este sistema no permite leer con seguridad las imágenes de su tipo");
     case Razon::Tarde:
       Fail(name, "leerla lleva demasiado tiempo");
     case Razon::Caida:
@@ -176,12 +181,12 @@ Picture QtPictureCodec::ReadBytes(std::string_view bytes, const std::string& nam
   if (bytes.empty()) Fail(name, "el archivo está vacío");
   if (bytes.size() > kMasBytesDeImagen) Fail(name, "el archivo es demasiado grande");
   try {
-    if (EsMetafile(bytes)) return LeerAparte(bytes, name);
+    if (EsMetafile(bytes)) return LeerAparte(bytes, name, aviso);
     if (EsPng(bytes)) return LeerPngEnCasa(bytes, name);
     Lector lector(bytes);
     if (lector.reader.format().isEmpty()) Fail(name, "no es una imagen de un formato conocido");
     if (!lector.EsDeCasa() || (EsJpeg(bytes) && JpegPasadas(bytes) > kMasPasadas))
-      return LeerAparte(bytes, name);
+      return LeerAparte(bytes, name, aviso);
     Picture picture = LeerEnCasa(lector, bytes, name);
     if (aviso && GifCortado(bytes)) *aviso = "La imagen \"" + name + "\" está incompleta.";
     return picture;

@@ -33,7 +33,7 @@ class QtPictureCodec final : public PictureCodec {
   Picture ReadQuickly(const std::filesystem::path& file, QuickReader* quick,
                       const std::function<Extent(Extent)>& size, std::string* aviso,
                       const std::function<Picture(const Picture&)>& otherwise);
-  Picture LeerAparte(std::string_view bytes, const std::string& name);
+  Picture LeerAparte(std::string_view bytes, const std::string& name, std::string* aviso);
 
   std::function<void()> mientras_;
   std::filesystem::path decodificador_;

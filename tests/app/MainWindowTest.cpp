@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QSlider>
 #include <QTest>
+#include <QTextDocument>
 #include <QTimer>
 #include <QWheelEvent>
 
@@ -48,6 +49,7 @@ class MainWindowTest : public QObject {
   void PreviewFollowsTheCheckBox();
   void FailedLoadsLeaveEverything_data();
   void FailedLoadsLeaveEverything();
+  void SaysWhatIsWrongWithAPictureThatLoads();
   void DroppedPictureLoads();
   void SavesTheEditedTextAndCopiesTheGenerated();
   void SaveSaysWhatIsWrong();
@@ -142,6 +144,26 @@ void MainWindowTest::FailedLoadsLeaveEverything() {
   QCOMPARE(m.program.imagen.picUndo.Pixels(), before.picUndo.Pixels());
   QCOMPARE(m.Text(), text);
   QVERIFY2(m.dialogs.details.back().find("no-existe.gif") != std::string::npos, "the reason stands below");
+}
+
+void MainWindowTest::SaysWhatIsWrongWithAPictureThatLoads() {
+  test::MainWindow m;
+  const std::string file = m.folder.File("a&b.svg");
+  EscribirArchivo(
+      file,
+      R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink" width="9" height="9">)"
+      R"(<image width="9" height="9" xlink:href="no"/></svg>)");
+  m.dialogs.paths = {file};
+  m.Trigger("CargarImagen");
+  const auto& label = Find<QLabel>(m.window, "lblEnlace");
+  QTextDocument shown;  // as the label shows it
+  if (label.textFormat() == Qt::RichText || Qt::mightBeRichText(label.text())) {
+    shown.setHtml(label.text());
+  } else {
+    shown.setPlainText(label.text());
+  }
+  QCOMPARE(shown.toPlainText().trimmed(),
+           QString("No se ha podido dibujar todo lo que contiene la imagen \"%1\".").arg(file.c_str()));
 }
 
 void MainWindowTest::DroppedPictureLoads() {

@@ -314,12 +314,17 @@ void ModesTest::BannersAreTheProducedText() {
 
 void ModesTest::EmptyOutlinesOfferBlackAndWhite() {
   test::MainWindow m;
+  m.window.resize(1008, 640);
   m.Load(test::Grays({{200, 200, 200, 200}, {200, 9, 9, 200}, {200, 200, 200, 200}, {200, 200, 200, 200}}));
   m.Trigger(kModos[kModoBordes]);
   m.Trigger("Play");
   auto& link = Find<QLabel>(m.window, "lblEnlace");
   QVERIFY(link.text().startsWith("El dibujo ha salido en blanco"));
+  auto& panel = Find<QLabel>(m.window, "Figlet");
+  QTest::qWait(1);
+  QVERIFY2(link.width() >= link.sizeHint().width() && !panel.isVisible(), "the link is within reach");
   emit link.linkActivated("#");
+  QVERIFY(panel.isVisible());
   QCOMPARE(test::Levels(m.program.imagen.picMain)[1], (std::vector<int>{255, 0, 0, 255}));
   QVERIFY(m.Text().find_first_not_of(" \r\n") != std::string::npos);
 }

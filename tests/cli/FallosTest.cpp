@@ -18,6 +18,8 @@ class FallosTest : public testing::Test {
     std::filesystem::copy(foto, folder.File("dibujo.txt"));  // the file of its own text
     std::filesystem::create_symlink("foto.png", folder.File("enlace.png"));
     std::filesystem::create_directory(folder.File("vacia"));
+    std::filesystem::create_directory(folder.File("serie"));
+    ImageOf(Picture(1, 386'547)).save(QString::fromStdString(folder.File("serie/alta.bmp")));
     EscribirArchivo(folder.File("mala.flf"), "x");
     for (const char* name : {"a.gif", "z.gif", "Fotograma 02.bmp"})
       EscribirArchivo(folder.File(name), test::Gif({1, 0, 1}));
@@ -82,8 +84,8 @@ TEST_F(FallosTest, OneSentenceEach) {
            {"p anim a.gif -o p.html --fotogramas 4", 2,
             "la opción --fotogramas espera números de 1 a 3, no \"4\""},
            {"p anim vacia -o p.html", 1, "No hay fotogramas en \"vacia\""},
-           {"p anim grande.gif -o p.html", 1,
-            "El GIF \"grande.gif\" es demasiado grande: 200 fotogramas de 5000 x 5000 píxeles. La opción "
+           {"p anim grande.gif -o p.html --fotogramas $(seq -s, 41)", 1,
+            "El GIF \"grande.gif\" es demasiado grande: 41 fotogramas de 5000 x 5000 píxeles. La opción "
             "--fotogramas elige menos"},
            {"p letrero x --figlet no-esta", 1, "No hay ninguna fuente FIGlet \"no-esta\""},
            {"p letrero x --figlet mala.flf", 1, "Error abriendo la fuente \"mala.flf\""},
@@ -122,6 +124,35 @@ TEST_F(FallosTest, OneSentenceEach) {
   EXPECT_NE(LeerArchivo(foto), before);
   const std::string err = Shell("p efecto foto.png 2 -o x.gif", here).err;
   EXPECT_NE(err.find("\"x.gif\" debe terminar en .png, .bmp, .jpg, .jpeg"), std::string::npos) << err;
+}
+
+TEST_F(FallosTest, TextsThatNobodyReadsAreNamed) {
+  for (const char* order :
+       {"ascii serie/alta.bmp", "ascii serie/alta.bmp --metodo antialias", "anim serie"}) {
+    const Resultado r = Shell("p " + std::string(order) + " -o n.png --columnas 20000", here);
+    EXPECT_EQ(r.status, 1) << order;
+    EXPECT_TRUE(
+        r.err.starts_with("pixmosa-cli: El texto de \"serie/alta.bmp\" sería demasiado grande: 20000 x "))
+        << r.err;
+    EXPECT_TRUE(r.err.ends_with(" caracteres.\n") && std::count(r.err.begin(), r.err.end(), '\n') == 1)
+        << r.err;
+    EXPECT_FALSE(std::filesystem::exists(folder.File("n.png"))) << order;
+  }
+}
+
+TEST_F(FallosTest, LibrariesSayNothingOfTheirOwn) {
+  EscribirArchivo(folder.File("qt.conf"), "[Paths]\nPlugins=/no/hay\n");
+  for (const auto& [commands, status, sentence] : std::vector<std::tuple<const char*, int, const char*>>{
+           {"FONTCONFIG_FILE=\"$PWD/foto.png\" p tabla", 0, ""},
+           {"HOME=/proc XDG_CACHE_HOME=/proc QT_DEBUG_PLUGINS=1 LC_ALL=C p tabla", 0, ""},
+           {"unset HOME XDG_RUNTIME_DIR; p tabla", 0, ""},
+           {"cp \"$0\" .; ./pixmosa-cli tabla", 1,
+            "pixmosa-cli: No se ha podido poner en marcha Qt, que dibuja las letras y lee las imágenes: su "
+            "instalación está incompleta o falta memoria.\n"}}) {
+    const Resultado r = Shell(commands, here);
+    EXPECT_EQ(r.status, status) << commands;
+    EXPECT_EQ(r.err, sentence) << commands;
+  }
 }
 
 TEST_F(FallosTest, SentencesTakeThePlaceOfTheProgressLine) {

@@ -22,6 +22,19 @@ TEST(Ordenes, EveryOrderIsExplainedWithAnExample) {
   }
 }
 
+TEST(Ventana, AnswersInATerminalWithoutADisplay) {
+  const Resultado help = test::RunProgram("pixmosa", {"foto.png", "--help"});
+  EXPECT_EQ(help.status, 0);
+  EXPECT_TRUE(help.out.starts_with("Uso: pixmosa [IMAGEN]\n")) << help.out;
+  EXPECT_EQ(test::RunProgram("pixmosa", {"--version"}).out, "pixmosa" + Cli({"--version"}).out.substr(11));
+  ::unsetenv("WAYLAND_DISPLAY");
+  const Resultado window = test::RunProgram("pixmosa", {});
+  EXPECT_EQ(window.status, 1);
+  EXPECT_EQ(window.err,
+            "pixmosa: No se ha podido abrir la ventana: no hay pantalla, o la instalación de Qt está "
+            "incompleta.\n");
+}
+
 TEST(OrdenTabla, FieldsReadBack) {
   const Resultado r = Cli({"tabla", "--paleta", "3", "--negativo"});
   ASSERT_EQ(r.status, 0);

@@ -6,8 +6,10 @@
 #include <string>
 #include <sys/wait.h>
 
+#include "platform/AtomicFile.h"
 #include "platform/decodificador/Cliente.h"
 #include "tests/support/Metafile.h"
+#include "tests/support/TestFolder.h"
 
 using namespace pixmosa;
 using namespace std::chrono_literals;
@@ -56,12 +58,16 @@ TEST(Respuesta, OnlyAWholeAnswerIsAPicture) {
 TEST(Decodificar, EveryWayToFailIsAnAnswerAndTheCallerLivesMeanwhile) {
   const std::string large(3 << 20, 'x'), endless = test::EndlessMetafile();
   const std::filesystem::path own = ProgramaDecodificador();
+  const test::TestFolder folder;
+  EscribirArchivo(folder.File("p"), "#!/bin/sh\nexit 127\n");
+  std::filesystem::permissions(folder.File("p"), std::filesystem::perms::owner_all);
   for (const auto& [program, input, reason] :
        std::vector<std::tuple<std::filesystem::path, std::string, Razon>>{
            {"/no-existe", "", Razon::Ausente},
-           {"/bin/false", large, Razon::Caida},  // ends without reading or answering
-           {"/bin/cat", large, Razon::Caida},    // answers what is no answer
-           {"/usr/bin/yes", "", Razon::Caida},   // answers without end
+           {"/bin/false", large, Razon::Caida},      // ends without reading or answering
+           {folder.File("p"), "", Razon::Insegura},  // ends as the loader does that misses a library
+           {"/bin/cat", large, Razon::Caida},        // answers what is no answer
+           {"/usr/bin/yes", "", Razon::Caida},       // answers without end
            {own, large, Razon::Desconocida}})
     EXPECT_EQ(Decodificar(program, input).razon, reason) << program;
   int calls = 0;

@@ -142,6 +142,12 @@ TEST_F(ProgramaTest, WhatPlayRuns) {
   EXPECT_EQ(QueGenerar(p), AnimArt);
 }
 
+TEST_F(ProgramaTest, AnimationsOfFarTooManyPixelsAreRefused) {
+  EXPECT_EQ(Exceso({.cuantos = 40, .cadaUna = {5000, 5000}}), "");
+  EXPECT_EQ(Exceso({.cuantos = 41, .cadaUna = {5000, 5000}}), "41 fotogramas de 5000 x 5000 píxeles");
+  EXPECT_EQ(Exceso({.cuantos = 1'000'000}), "") << "of no known size";
+}
+
 TEST_F(ProgramaTest, AnimationGoesThroughTheWorkingPicture) {
   codec.files = {{"1.bmp", Grays({{0, 255}})}, {"3.gif", Grays({{255, 0}})}};
   for (const char* name : {"1.bmp", "2.jpg", "3.gif"}) EscribirArchivo(folder.File(name), "");

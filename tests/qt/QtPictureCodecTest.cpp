@@ -13,6 +13,7 @@
 #include "platform/qt/QtPicture.h"
 #include "platform/qt/QtPictureCodec.h"
 #include "tests/support/DrawnPicture.h"
+#include "tests/support/Gif.h"
 #include "tests/support/GuiApplication.h"
 #include "tests/support/Metafile.h"
 #include "tests/support/TestFolder.h"
@@ -119,9 +120,21 @@ TEST_F(QtPictureCodecTest, MetafilesIconsAndTransparentPixelsAreDrawn) {
   EXPECT_EQ(codec.ReadBytes(icon, "x").Size(), (Extent{3, 3})) << "the largest";
 }
 
+// A GIF whose screen of 4 x 3 its first picture covers with one red pixel, at 2, 1.
+TEST_F(QtPictureCodecTest, AroundAGifsFirstPictureIsWhite) {
+  std::string gif = test::Gif({2, 0}).replace(6, 4, std::string("\4\0\3\0", 4));
+  gif.replace(test::GifHeader().size() + 8 + 1, 4, std::string("\2\0\1\0", 4));
+  const Picture p = codec.ReadBytes(gif, "x");
+  ASSERT_EQ(p.Size(), (Extent{4, 3}));
+  for (int y = 0; y < 3; ++y)
+    for (int x = 0; x < 4; ++x)
+      EXPECT_EQ(p.ColourAt(x, y), x == 2 && y == 1 ? Rgb(255, 0, 0) : kWhite) << x << ' ' << y;
+}
+
 TEST_F(QtPictureCodecTest, VectorPicturesReachNoFileButFonts) {
+  std::string notice;
   const auto inked = [&](const std::string& content) {
-    const Picture p = codec.ReadBytes(Svg(content), "x");
+    const Picture p = codec.ReadBytes(Svg(content), "x", &notice);
     EXPECT_EQ(p.Size(), (Extent{20, 10}));
     return std::any_of(p.Pixels(), p.Pixels() + p.PixelCount(),
                        [](std::uint32_t v) { return v != 0xFFFFFFFF; });
@@ -131,11 +144,18 @@ TEST_F(QtPictureCodecTest, VectorPicturesReachNoFileButFonts) {
   const auto image = [](const std::string& href) {
     return R"(<image width="20" height="10" xlink:href=")" + href + R"("/>)";
   };
+  // So large that the library draws it by threads.
+  EXPECT_EQ(codec.Read(PIXMOSA_SOURCE_DIR "/data/muestra.svg").Size(), (Extent{960, 720}));
   EXPECT_TRUE(inked(R"(<text y="9">M</text>)"));
   EXPECT_TRUE(
       inked(image("data:image/png;base64," + QByteArray::fromStdString(png).toBase64().toStdString())));
-  for (const std::string& href : {file, "file://" + file, "/usr/share/fonts/../../.." + file})
+  EXPECT_EQ(notice, "");
+  const std::string torn = QByteArray::fromStdString(png.substr(0, 50)).toBase64().toStdString();
+  for (const std::string& href :
+       {file, "file://" + file, "/usr/share/fonts/../../.." + file, "data:image/png;base64," + torn}) {
     EXPECT_FALSE(inked(image(href))) << href;
+    EXPECT_EQ(notice, "No se ha podido dibujar todo lo que contiene la imagen \"x\".");
+  }
 }
 
 TEST_F(QtPictureCodecTest, SaysWhatIsWrong) {

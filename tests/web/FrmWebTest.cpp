@@ -113,6 +113,17 @@ class FrmWebTest : public QObject {
     QVERIFY(!m.AnimArtEnabled() && !Find<QCheckBox>(m.window, "chkAnimArt").isChecked());
   }
 
+  void AGifOfFarTooManyPixelsIsNotAnimated() {
+    Window m;
+    m.LoadBytes("vasto.gif", Gif(std::vector<int>(41, 1)).replace(6, 4, "\x88\x13\x88\x13"));
+    Find<QCheckBox>(m.window, "chkAnimArt").setChecked(true);
+    m.dialogs.log.clear();
+    m.Trigger("Play");
+    QCOMPARE(m.dialogs.log,
+             Strings{"Fail||El GIF \"vasto\" es demasiado grande: 41 fotogramas de 5000 x 5000 "
+                     "píxeles. Elija menos fotogramas."});
+  }
+
   void SelectionDialogKeepsItsChoice() {
     Window m;
     m.LoadBytes("a.gif", Gif({0, 1, 2, 3, 0, 1, 2, 3, 0, 1, 2, 3}));
@@ -172,6 +183,9 @@ class FrmWebTest : public QObject {
     QCOMPARE(m.dialogs.log, (Strings{ask, ask, choose, ask, choose, kSaveAnim}));
     const std::string page = LeerArchivo(file);
     QVERIFY(page.find("var max_pics=3;") != std::string::npos);
+    QVERIFY(Find<QLabel>(m.window, "lblEnlace")
+                .text()
+                .startsWith("Animación escrita (sin leer 1 de 3 fotogramas)"));
     const std::size_t second = page.find("<div id=\"text2\">"), third = page.find("<div id=\"text3\">");
     QCOMPARE(page.substr(second + 16, third - second - 17), page.substr(third + 16, third - second - 17));
 
