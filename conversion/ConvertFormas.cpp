@@ -2,12 +2,35 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <map>
 
 #include "conversion/Claridad.h"
 #include "conversion/EleccionDeForma.h"
 #include "conversion/Tonos.h"
 
 namespace pixmosa {
+
+namespace {
+
+// The character of nearest lightness for every page light; ties to the lowest code.
+std::vector<char32_t> MasCercanos(const std::vector<CaracterMedido>& characters) {
+  std::map<double, char32_t> byLightness;  // of equal ones the first
+  for (const CaracterMedido& c : characters) byLightness.try_emplace(Claridad(c.media), c.caracter);
+  std::vector<char32_t> nearest;
+  auto at = byLightness.begin();
+  for (int x = 0; x <= kLuzDePagina; ++x) {
+    const double l = Claridad(static_cast<double>(x) / kLuzDePagina);
+    for (auto next = std::next(at); next != byLightness.end(); at = next++) {
+      const double nearer = std::fabs(at->first - l) - std::fabs(next->first - l);
+      if (nearer < 0 || (nearer == 0 && at->second < next->second)) break;
+    }
+    nearest.push_back(at->second);
+  }
+  return nearest;
+}
+
+}  // namespace
 
 Repertorio MedirRepertorio(TextSurface& surface, const Font& font, Extent cell,
                            std::u32string_view characters, bool negative) {
@@ -38,17 +61,7 @@ std::u32string ConvertFormas(const Repertorio& from, const AjustesDeFormas& sett
 
 std::u32string ConvertTono(const Repertorio& from, const AjustesDeFormas& settings, int luminosity,
                            const Picture& picture, Extent size) {
-  std::vector<double> lightness;
-  for (const CaracterMedido& c : from.caracteres) lightness.push_back(Claridad(c.media));
-  // The character of nearest lightness for every page light; ties to the lowest code.
-  std::vector<char32_t> nearest(kLuzDePagina + 1);
-  for (int x = 0; x <= kLuzDePagina; ++x) {
-    const double l = Claridad(static_cast<double>(x) / kLuzDePagina);
-    const auto best = std::min_element(lightness.begin(), lightness.end(), [l](double a, double b) {
-      return std::fabs(a - l) < std::fabs(b - l);
-    });
-    nearest[x] = from.caracteres[best - lightness.begin()].caracter;
-  }
+  const std::vector<char32_t> nearest = MasCercanos(from.caracteres);
   std::u32string text;
   for (const std::int16_t x : TonosDePagina(from, settings, luminosity, picture, size, 1, 1))
     text += nearest[x];

@@ -66,35 +66,35 @@ EleccionDeForma::EleccionDeForma(const std::vector<CaracterMedido>& characters, 
     if (k == 0) {
       grupos_.emplace_back();
       std::fill_n(grupos_.back().partida, kJuntos, kNunca);
-      grupos_.back().menor = static_cast<float>(c.media);
+      grupos_.back().menor = c.media;
+      grupos_.back().desvio = 0;
     }
     Grupo& group = grupos_.back();
     group.partida[k] = RoundHalfEven(formula.Partida(c) * unidad_);
     group.indice[k] = order[i];
-    group.mayor = static_cast<float>(c.media);
+    group.mayor = c.media;
     for (std::size_t s = 0; s < kSubceldas; ++s)
       group.peso[s][k] = static_cast<std::int16_t>(RoundHalfEven(formula.Peso(c, s) * unit));
-    desvio_ = std::max(desvio_, formula.Desvio(c) * unit);
+    group.desvio = std::max(group.desvio, formula.Desvio(c) * unit);
   }
 }
 
-PIXMOSA_CLONES void EleccionDeForma::Probar(const Grupo& group, const std::int16_t* light, Barato& best) {
+inline void EleccionDeForma::Probar(const Grupo& group, const std::int16_t* light, Barato& best) {
   std::int32_t cost[kJuntos];
   for (int i = 0; i < kJuntos; ++i) cost[i] = group.partida[i];
   for (int s = 0; s < kSubceldas; ++s)
     for (int i = 0; i < kJuntos; ++i) cost[i] -= group.peso[s][i] * light[s];
-  std::int32_t least = cost[0];
-  for (int i = 1; i < kJuntos; ++i) least = std::min(least, cost[i]);
+  std::int32_t least = kNunca, index = kNunca;
+  for (int i = 0; i < kJuntos; ++i) least = std::min(least, cost[i]);
   if (least > best.coste) return;
-  for (int i = 0; i < kJuntos; ++i)
-    if (cost[i] == least && (least < best.coste || group.indice[i] < best.indice))
-      best = {least, group.indice[i]};
+  for (int i = 0; i < kJuntos; ++i) index = std::min(index, cost[i] == least ? group.indice[i] : kNunca);
+  if (least < best.coste || index < best.indice) best = {least, index};
 }
 
 // The cost is unit ((m - mean x)^2 - (mean x)^2 + w mean(d^2)) less at most the product of the norms of the
-// weights and of the light about their means (Cauchy and Schwarz). So the groups are tried outward from the
-// cell's own light, until the squares alone exceed what was found.
-std::size_t EleccionDeForma::Mejor(std::span<const std::int16_t, kSubceldas> light) const {
+// weights and of the light about their means (Cauchy and Schwarz). So the groups are gone over outward from
+// the cell's own light, and those whose square alone exceeds what was found are left out.
+PIXMOSA_CLONES std::size_t EleccionDeForma::Mejor(std::span<const std::int16_t, kSubceldas> light) const {
   int sum = 0, squares = 0;
   for (const int x : light) {
     sum += x;
@@ -103,22 +103,20 @@ std::size_t EleccionDeForma::Mejor(std::span<const std::int16_t, kSubceldas> lig
   const double mean = sum / static_cast<double>(kSubceldas);
   const double spread = std::sqrt(std::max(0.0, squares - sum * mean));
   const double page = mean / kLuzDePagina;
-  const double slack = unidad_ * page * page + desvio_ * spread + kRedondeo;
-  const auto cannot = [&](double m, const Barato& best) {
-    return unidad_ * (m - page) * (m - page) - slack > best.coste;
+  const double own = unidad_ * page * page + kRedondeo;
+  // Beyond the nearest mean of a group, its own deviation is all that could make it cheaper.
+  const auto cannot = [&](double m, const Grupo& group, const Barato& best) {
+    return unidad_ * (m - page) * (m - page) - own - group.desvio * spread > best.coste;
   };
 
   Barato best{kNunca, kNunca};
   const auto middle =
       std::partition_point(grupos_.begin(), grupos_.end(), [&](const Grupo& g) { return g.mayor < page; });
-  for (auto up = middle; up != grupos_.end(); ++up) {
-    if (up->menor > page && cannot(up->menor, best)) break;
-    Probar(*up, light.data(), best);
-  }
+  for (auto up = middle; up != grupos_.end(); ++up)
+    if (up->menor <= page || !cannot(up->menor, *up, best)) Probar(*up, light.data(), best);
   for (auto down = middle; down != grupos_.begin();) {
     --down;
-    if (cannot(down->mayor, best)) break;
-    Probar(*down, light.data(), best);
+    if (!cannot(down->mayor, *down, best)) Probar(*down, light.data(), best);
   }
   return static_cast<std::size_t>(best.indice);
 }

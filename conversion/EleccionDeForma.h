@@ -32,16 +32,16 @@ class EleccionDeForma {
     std::int32_t partida[kJuntos];
     std::int16_t peso[kSubceldas][kJuntos];
     std::int32_t indice[kJuntos];
-    float menor, mayor;  // means
+    double menor, mayor;  // means
+    double desvio;        // the largest norm of a character's weights about their mean
   };
   struct Barato {
     std::int32_t coste, indice;
   };
 
-  static void Probar(const Grupo& group, const std::int16_t* light, Barato& best);
+  static inline void Probar(const Grupo& group, const std::int16_t* light, Barato& best);
 
   double unidad_;              // what a cost is multiplied by
-  double desvio_ = 0;          // the largest norm of a character's weights about their mean
   std::vector<Grupo> grupos_;  // by mean
 };
 

@@ -32,33 +32,34 @@ struct TablasDeLuz {
 // Where the `to` equal parts of `from` values lie. In units of 1 / to of a value, value i covers i * to up to
 // (i + 1) * to and part s covers s * from up to (s + 1) * from.
 struct Reparto {
-  // A part: values first..last, the first and the last by their share, those between whole.
+  // A part: values first..last, without what the first and the last lie outside of it.
   struct Parte {
     int first, last;
-    std::int64_t shareFirst, shareLast;
+    std::int64_t antes, despues;
   };
 
-  Reparto(int from, int to) : entero(to) {
+  Reparto(int from, int to) : entero(to), justo(from % to == 0) {
     const std::int64_t f = from, t = to;
     for (std::int64_t s = 0; s < t; ++s) {
       const std::int64_t begin = s * f, end = begin + f;
       const std::int64_t a = begin / t, b = (end - 1) / t;
-      partes.push_back(
-          {static_cast<int>(a), static_cast<int>(b), std::min(end, (a + 1) * t) - begin, end - b * t});
+      partes.push_back({static_cast<int>(a), static_cast<int>(b), begin - a * t, (b + 1) * t - end});
     }
   }
 
   // The sum over a part of value(i) times its share.
   template <typename Suma, typename Value>
   Suma De(const Parte& part, Value value) const {
-    if (part.first == part.last) return value(part.first) * static_cast<Suma>(part.shareFirst);
-    Suma between{};
-    for (int i = part.first + 1; i < part.last; ++i) between += value(i);
-    return value(part.first) * static_cast<Suma>(part.shareFirst) + between * static_cast<Suma>(entero) +
-           value(part.last) * static_cast<Suma>(part.shareLast);
+    Suma sum{};
+    for (int i = part.first; i <= part.last; ++i) sum += value(i);
+    sum *= static_cast<Suma>(entero);
+    if (justo) return sum;
+    return sum - value(part.first) * static_cast<Suma>(part.antes) -
+           value(part.last) * static_cast<Suma>(part.despues);
   }
 
   std::int64_t entero;  // the share of a whole value
+  bool justo;           // no value lies in two parts
   std::vector<Parte> partes;
 };
 
@@ -76,9 +77,8 @@ Malla Repartir(Extent from, Extent size, double whole, Row row) {
     std::fill(sums.begin(), sums.end(), Suma{});
     for (int y = part.first; y <= part.last; ++y) {
       if (y != have) row(have = y, parts);
-      const auto share = static_cast<Suma>(y == part.first  ? part.shareFirst
-                                           : y == part.last ? part.shareLast
-                                                            : down.entero);
+      const std::int64_t outside = (y == part.first ? part.antes : 0) + (y == part.last ? part.despues : 0);
+      const auto share = static_cast<Suma>(down.entero - outside);
       for (int x = 0; x < size.width; ++x) sums[x] += parts[x] * share;
     }
     std::transform(sums.begin(), sums.end(), mean.Fila(s).begin(),

@@ -13,7 +13,7 @@ namespace {
 // Deviations, in widths of a cell: of the blur that stands for each distance, and of a window.
 constexpr double kLejos = 1, kCerca = 0.5, kFino = 0, kVentana = 1;
 // The constants that keep a quotient of two small numbers from being noise, for lightness 0..1.
-constexpr double kC1 = 0.01 * 0.01, kC2 = 0.03 * 0.03;
+constexpr double kC1 = 0.01 * 0.01, kC2 = 0.01 * 0.01;
 
 struct Momentos {
   double media, desviacion;
@@ -73,7 +73,7 @@ double Estructura(const Vista& view, const Malla& picture, const Malla& text, do
     const double vx = std::max(0.0, aa.valores[i] - x * x), vy = std::max(0.0, bb.valores[i] - y * y);
     const double xy = ab.valores[i] - x * y;
     const double alike = (2 * x * y + kC1) * (2 * xy + kC2) / ((x * x + y * y + kC1) * (vx + vy + kC2));
-    const double weight = std::sqrt(vx) + 1e-6;
+    const double weight = vx + 1e-9;
     sum += weight * alike;
     weights += weight;
   }

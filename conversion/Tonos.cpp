@@ -23,7 +23,7 @@ class TablaDeClaridad {
   float De(float light) const { return tabla_[Truncate(light * kPasos + 0.5F)]; }
 
  private:
-  static constexpr int kPasos = 1 << 16;
+  static constexpr int kPasos = 1 << 14;
   std::array<float, kPasos + 1> tabla_{};
 };
 
@@ -32,9 +32,9 @@ Malla DeCeldas(const Malla& parts, int across, int down) {
   if (across == 1 && down == 1) return parts;
   Malla cells(parts.ancho / across, parts.alto / down);
   for (std::size_t y = 0; y < parts.alto; ++y) {
-    const auto from = parts.Fila(y);
-    const auto to = cells.Fila(y / down);
-    for (std::size_t x = 0; x < parts.ancho; ++x) to[x / across] += from[x];
+    const float* from = parts.Fila(y).data();
+    for (float& sum : cells.Fila(y / down))
+      for (int i = 0; i < across; ++i) sum += *from++;
   }
   for (float& v : cells.valores) v /= static_cast<float>(across * down);
   return cells;
@@ -95,13 +95,12 @@ std::vector<std::int16_t> TonosDePagina(const Repertorio& from, const AjustesDeF
   std::vector<std::int16_t> tones(l.valores.size());
   std::int16_t* to = tones.data();
   for (std::size_t y = 0; y < l.alto; ++y) {
-    const auto row = l.Fila(y);
-    const auto blurred = b.Fila(y / down);
-    for (std::size_t x = 0; x < l.ancho; ++x) {
-      const float v = row[x] + k * (row[x] - blurred[x / across]);
-      const float t = std::clamp((v - begin) * scale + offset, 0.0F, static_cast<float>(kLuzDePagina));
-      *to++ = page[Truncate(t)];
-    }
+    const float* v = l.Fila(y).data();
+    for (const float blurred : b.Fila(y / down))
+      for (int i = 0; i < across; ++i, ++v) {
+        const float t = (*v + k * (*v - blurred) - begin) * scale + offset;
+        *to++ = page[Truncate(std::clamp(t, 0.0F, static_cast<float>(kLuzDePagina)))];
+      }
   }
   return tones;
 }

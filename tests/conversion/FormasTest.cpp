@@ -110,7 +110,7 @@ TEST_F(Formas, AgreesWithTheFormula) {
   surface.smooth = [](char32_t c, int x, int y) {
     return static_cast<int>(c * 7919 + x * 31 + y * 57) * 97 % 256;
   };
-  const Repertorio r = Medir(U"\x21\x23\x25\x27\x29\x41\x43\x45\x51\x57");
+  const Repertorio r = Medir(CaracteresDeCodigos(33, 126));
   const Picture p = test::Noise({80, 80}, 3);
   const std::u32string text = ConvertFormas(r, {70, 0, false}, 0, p, {40, 20});
   double least = 1, most = 0;
