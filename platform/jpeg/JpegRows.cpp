@@ -51,7 +51,7 @@ class Reader {
     if (setjmp(errors_.back)) return std::nullopt;
     info_.scale_num = 1;
     info_.scale_denom = reduction;
-    info_.out_color_space = JCS_EXT_BGRX;
+    info_.out_color_space = JCS_EXT_BGRA;
     jpeg_start_decompress(&info_);
     picture_ = Picture(static_cast<int>(info_.output_width), static_cast<int>(info_.output_height));
     std::uint32_t* to = picture_.Writable();
@@ -59,7 +59,6 @@ class Reader {
       auto* line = reinterpret_cast<JSAMPROW>(to + std::size_t{info_.output_scanline} * info_.output_width);
       if (jpeg_read_scanlines(&info_, &line, 1) != 1) return std::nullopt;
     }
-    for (std::size_t i = 0; i < picture_.PixelCount(); ++i) to[i] = Opaco(to[i]);
     return errors_.base.num_warnings == 0 ? std::optional(picture_) : std::nullopt;
   }
 

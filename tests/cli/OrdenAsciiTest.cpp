@@ -1,4 +1,7 @@
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <map>
+#include <sstream>
 
 #include <QImage>
 
@@ -99,4 +102,78 @@ TEST_F(OrdenAsciiTest, OnlyBlocksNeedThePatternFile) {
               "pixmosa-cli: No se ha encontrado el archivo con la paleta 3x2. Restaurelo, o instale "
               "nuevamente la aplicación.\n");
   }
+}
+
+TEST_F(OrdenAsciiTest, MethodsNearerToThePictureKeepEveryRow) {
+  const auto rows = [](const std::string& text) { return std::count(text.begin(), text.end(), '\n') + 1; };
+  const auto expected = rows(Text("10", {}));
+  Save(picture, Picture::Filled(60, 60, kBlack));
+  for (const char* method : {"tono", "formas"}) {
+    const std::string dark = Text("10", {"--metodo", method, "--paleta", "1"});
+    EXPECT_EQ(rows(dark), expected) << method;
+    EXPECT_EQ(dark.find_first_not_of(std::string("\n") + dark[0]), std::string::npos)
+        << "a flat picture, one character";
+  }
+  EXPECT_EQ(rows(Text("10", {"--proporcion", "1", "--metodo", "formas"})), 10);
+  EXPECT_EQ(rows(Text("10", {"--proporcion=0,5"})), 20) << "for every method, with a comma as well";
+  EXPECT_EQ(Text("4", {"--caracteres", "ab"}).find_first_not_of("ab \n"), std::string::npos);
+
+  Picture ramp(256, 64);
+  for (int i = 0; i < 256 * 64; ++i) ramp.Writable()[i] = PixelOfColour(Rgb(i % 256, i % 256, i % 256));
+  Save(picture, ramp);
+  const std::string plain = Text("30", {"--metodo", "formas"});
+  for (const std::vector<std::string>& change : {std::vector<std::string>{"--nitidez", "100"},
+                                                 {"--contraste-local", "0"},
+                                                 {"--sin-ajuste"},
+                                                 {"--negativo"},
+                                                 {"--luminosidad", "40"},
+                                                 {"--metodo", "tono"}}) {
+    std::vector<std::string> words = {"--metodo", "formas"};
+    words.insert(words.end(), change.begin(), change.end());
+    if (change[0] == "--metodo") words.erase(words.begin(), words.begin() + 2);
+    EXPECT_NE(Text("30", words), plain) << change[0];
+  }
+}
+
+TEST_F(OrdenAsciiTest, CharactersBeyondTheCodePageAreUtf8) {
+  Save(picture, Picture::Filled(60, 60, kBlack));
+  const Resultado r =
+      Cli({"ascii", picture, "--columnas", "3", "--caracteres", "braille", "--metodo", "formas"});
+  EXPECT_EQ(r.out.substr(0, 2), "\xE2\xA3") << "U+28C0 to U+28FF";
+  for (const std::vector<std::string>& wrong : {std::vector<std::string>{"--caracteres", "cajas"},
+                                                {"--caracteres", " "},
+                                                {"--proporcion", "0"},
+                                                {"--proporcion", "2x"},
+                                                {"--nitidez", "101"},
+                                                {"--metodo", "otro"}}) {
+    std::vector<std::string> words = {"ascii", picture};
+    words.insert(words.end(), wrong.begin(), wrong.end());
+    EXPECT_EQ(Cli(words).status, 2) << wrong[0];
+  }
+}
+
+TEST_F(OrdenAsciiTest, CompararPutsTheNearestFirst) {
+  Picture p(300, 200);
+  for (int y = 0; y < 200; ++y)
+    for (int x = 0; x < 300; ++x) {
+      const int v = (x - 150) * (x - 150) + (y - 100) * (y - 100) < 6400 ? 220 - x / 3 : 40 + y / 2;
+      p.Writable()[y * 300 + x] = PixelOfColour(Rgb(v, v, v));
+    }
+  Save(picture, p);
+  const std::string text = folder.File("formas.txt");
+  EscribirArchivo(text, Text("60", {"--metodo", "formas"}));
+  const Resultado r = Cli({"comparar", picture, "--columnas", "60", "--texto", text});
+  std::istringstream lines(r.out);
+  std::map<std::string, double> scores;
+  double before = 100;
+  for (std::string line; std::getline(lines, line);) {
+    EXPECT_EQ(std::count(line.begin(), line.end(), '\t'), 5) << line;
+    const double score = std::stod(line.substr(line.find('\t') + 1));
+    EXPECT_LE(score, before);
+    scores[line.substr(0, line.find('\t'))] = before = score;
+  }
+  EXPECT_EQ(scores.size(), 4U);
+  EXPECT_EQ(scores["formas"], scores[text]);
+  EXPECT_GT(scores["formas"], scores["tono"]);
+  EXPECT_GT(scores["tono"], scores["grises"]);
 }

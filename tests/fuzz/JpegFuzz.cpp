@@ -8,6 +8,10 @@ void Fuzz(std::string_view bytes) {
   // What follows the end mark changes nothing.
   Check(!whole || JpegLlegaAlFinal(std::string(bytes) + "\xFF\xE1"));
   Check(!JpegQuizaGirado(bytes) || bytes.size() >= 20);
+  const auto reduced = ReadJpegReduced(bytes, [](Extent source) {
+    return std::int64_t{source.width} * source.height > 1 << 16 ? Extent{} : Extent{7, 5};
+  });
+  Check(!reduced || whole);
   const auto picture = ReadJpegStretched(bytes, [](Extent source) {
     Check(source.width >= 1 && source.height >= 1);
     return std::int64_t{source.width} * source.height > 1 << 16 ? Extent{} : Extent{7, 5};

@@ -4,6 +4,7 @@
 
 #include <QImage>
 
+#include "platform/Pixel.h"
 #include "platform/Random.h"
 #include "platform/Stretch.h"
 #include "platform/jpeg/JpegRows.h"
@@ -89,10 +90,37 @@ TEST(JpegRows, SamePixelsAsDecodingTheWhole) {
   }
 }
 
+TEST(JpegRows, ReducedByTheDecoderAsFarAsAsked) {
+  const std::string bytes = Compress(203, 98, {2, 2});
+  const Picture whole = Whole(bytes);
+  struct Row {
+    Extent wanted, got;
+  };
+  for (const Row& r : {Row{{25, 12}, {26, 13}},
+                       {{26, 12}, {51, 25}},
+                       {{25, 13}, {51, 25}},
+                       {{51, 2}, {102, 49}},
+                       {{102, 2}, {203, 98}},
+                       {{900, 900}, {203, 98}}}) {
+    const auto picture = ReadJpegReduced(bytes, [&](Extent) { return r.wanted; });
+    ASSERT_TRUE(picture);
+    EXPECT_EQ(picture->Size(), r.got) << r.wanted.width << " x " << r.wanted.height;
+    double sum = 0, expected = 0;
+    for (std::size_t i = 0; i < picture->PixelCount(); ++i) sum += SumaRGB(picture->Pixels()[i]);
+    for (std::size_t i = 0; i < whole.PixelCount(); ++i) expected += SumaRGB(whole.Pixels()[i]);
+    EXPECT_NEAR(sum / static_cast<double>(picture->PixelCount()),
+                expected / static_cast<double>(whole.PixelCount()), 6);
+  }
+  const auto whole1 = ReadJpegReduced(bytes, [](Extent size) { return size; });
+  EXPECT_TRUE(std::equal(whole.Pixels(), whole.Pixels() + whole.PixelCount(), whole1->Pixels()));
+}
+
 TEST(JpegRows, LeavesOthersToTheGeneralReader) {
   const std::string bytes = Compress(64, 64, {2, 2});
   const auto read = [](const std::string& file, Extent wanted = {1, 1}) {
-    return ReadJpegStretched(file, [&](Extent) { return wanted; }).has_value();
+    const bool reduced = ReadJpegReduced(file, [&](Extent) { return wanted; }).has_value();
+    EXPECT_EQ(ReadJpegStretched(file, [&](Extent) { return wanted; }).has_value(), reduced);
+    return reduced;
   };
   EXPECT_TRUE(read(bytes) && JpegLlegaAlFinal(bytes));
   EXPECT_FALSE(JpegLlegaAlFinal(bytes.substr(0, bytes.size() - 2)));
