@@ -43,6 +43,9 @@ class Consola {
   // Produced text (8-bit code page, CR LF) as UTF-8 with LF line ends; a terminal gets its last line ended.
   void EscribirTexto(std::string_view text);
 
+  // A file's bytes as they stand; a terminal gets its last line ended.
+  void EscribirLineas(std::string bytes);
+
   // One line "pixmosa-cli: sentence." on standard error, in place of a progress line that is shown.
   void Avisar(std::string_view sentence);
 

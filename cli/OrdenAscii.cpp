@@ -1,10 +1,14 @@
 #include <algorithm>
+#include <filesystem>
 
 #include "cli/Destino.h"
+#include "cli/OpcionesDeDibujo.h"
 #include "cli/OpcionesDeTexto.h"
 #include "cli/Ordenes.h"
 #include "conversion/TextoGuardado.h"
 #include "platform/AtomicFile.h"
+#include "platform/Stretch.h"
+#include "programa/Dibujar.h"
 #include "programa/Generar.h"
 
 namespace pixmosa::cli {
@@ -18,16 +22,35 @@ int MetodoDe(const Argumentos& arguments) {
   return static_cast<int>(std::find(kMetodos.begin(), kMetodos.end(), name) - kMetodos.begin());
 }
 
-void Convertir(Consola& consola, Programa& p, const std::string& operand, int method) try {
-  GenerarDe(
-      p, [&](const std::function<Extent(Extent)>& size) { return consola.LeerImagenReducida(operand, size); },
-      method);
+// `read` gives the stretched picture of the operand.
+void Convertir(Programa& p, const std::string& operand, int method, const LeerReducida& read) try {
+  GenerarDe(p, read, method);
 } catch (const TextoExcesivo& e) {
   throw TextoExcesivo(e.columnas, e.filas, operand);
 }
 
-std::string Guardado(const Programa& p) {
-  return TextoGuardado(p.ajustes.font, p.basAscii.ProducedText);
+void Convertir(Consola& consola, Programa& p, const std::string& operand, int method) {
+  Convertir(p, operand, method, [&](const auto& size) { return consola.LeerImagenReducida(operand, size); });
+}
+
+// The text and the colours from one reading of the whole picture.
+Dibujo ConvertirEnColor(Consola& consola, Programa& p, const std::string& operand, int method) {
+  const Picture whole = consola.LeerImagen(operand);
+  Picture resized;
+  Convertir(p, operand, method,
+            [&](const auto& size) { return resized = Stretch(whole, size(whole.Size())); });
+  return DibujoEnColor(p, whole, resized, method);
+}
+
+// The file's bytes.
+std::string Convertido(Consola& consola, Programa& p, const std::string& operand, int method,
+                       const Exportacion& output) {
+  const std::string name = operand == "-" ? "Pixmosa" : std::filesystem::path(operand).stem().string();
+  if (output.ConColor())
+    return output.Bytes(consola, p.ajustes.font, ConvertirEnColor(consola, p, operand, method), name);
+  Convertir(consola, p, operand, method);
+  if (output.EsTexto()) return TextoGuardado(p.ajustes.font, p.basAscii.ProducedText);
+  return output.Bytes(consola, p.ajustes.font, DibujoDe(p), name);
 }
 
 int Hacer(Consola& consola, const Argumentos& arguments) {
@@ -37,20 +60,22 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   if (file && folder) throw ErrorDeUso("las opciones -o y --carpeta no van juntas");
   if (pictures.size() > 1 && !folder) throw ErrorDeUso("varias imágenes necesitan la opción --carpeta");
 
+  const Exportacion output(arguments);
   const int method = MetodoDe(arguments);
   Programa p = PrepararPrograma(consola, arguments);
   if (method == kAntiAlias) CargarPaleta3x2(p);
   if (folder)
-    return ConvertirACarpeta(consola, arguments, pictures, ".txt",
+    return ConvertirACarpeta(consola, arguments, pictures, output.Terminacion(),
                              [&](const std::string& operand, const std::string& to) {
-                               Convertir(consola, p, operand, method);
-                               EscribirArchivo(to, Guardado(p));
+                               EscribirArchivo(to, Convertido(consola, p, operand, method, output));
                              });
-  Convertir(consola, p, pictures[0], method);
   if (file) {
-    EscribirArchivo(*file, Guardado(p));
-  } else {
+    EscribirArchivo(*file, Convertido(consola, p, pictures[0], method, output));
+  } else if (output.EsTexto()) {
+    Convertir(consola, p, pictures[0], method);
     consola.EscribirTexto(p.basAscii.ProducedText);
+  } else {
+    consola.EscribirLineas(Convertido(consola, p, pictures[0], method, output));
   }
   return 0;
 }
@@ -63,12 +88,14 @@ Orden OrdenAscii() {
       "IMAGEN...",
       "Convierte imágenes en texto.",
       "pixmosa-cli ascii foto.jpg --columnas 100",
-      Juntar({{"-o", Tipo::Texto, "TEXTO.txt", "archivo donde se guarda; si falta, la salida estándar"},
-              {"--carpeta", Tipo::Texto, "DIR", "carpeta donde se guarda un NOMBRE.txt de cada imagen"},
-              OpcionDeSobrescribir(),
-              {"--metodo", Tipo::Eleccion, "", "el método; si falta, grises", 0, 0, kMetodos},
-              {"--relleno", Tipo::Interruptor, "", "con bordes: rellena de \":\" el interior de las formas"}},
-             OpcionesDeTexto()),
+      Juntar(Juntar({{"-o", Tipo::Texto, "ARCHIVO", "archivo donde se guarda; si falta, la salida estándar"},
+                     {"--carpeta", Tipo::Texto, "DIR", "carpeta donde se guarda un archivo de cada imagen"},
+                     OpcionDeSobrescribir(),
+                     {"--metodo", Tipo::Eleccion, "", "el método; si falta, grises", 0, 0, kMetodos},
+                     {"--relleno", Tipo::Interruptor, "",
+                      "con bordes: rellena de \":\" el interior de las formas"}},
+                    OpcionesDeTexto()),
+             Juntar({OpcionDeColor()}, OpcionesDeDibujo())),
       Hacer};
 }
 
