@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/Dibujo.h"
+#include "platform/Errores.h"
 #include "platform/TextSurface.h"
 
 namespace pixmosa {

@@ -4,7 +4,6 @@
 
 #include "exportar/Escritores.h"
 #include "exportar/Texto.h"
-#include "platform/Errores.h"
 #include "platform/Pixel.h"
 
 namespace pixmosa {
