@@ -152,7 +152,8 @@ std::string ReglasDePagina(const OpcionesDeExportar& o) {
 // Where the reader's own colours rule, or paper has none, the text is plain.
 constexpr const char* kReglasLegibles =
     "@media (forced-colors:active){pre,pre *{background:none!important;color:CanvasText!important}}\n"
-    "@media print{html,pre,pre *{background:none!important;color:#000!important}}\n";
+    "@media print{html{background:#fff!important;color-scheme:light}"
+    "pre,pre *{background:none!important;color:#000!important}}\n";
 
 }  // namespace
 

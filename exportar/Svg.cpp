@@ -124,7 +124,9 @@ std::string EscribirSvg(const Dibujo& drawing, const OpcionesDeExportar& o, cons
     s += "<g" + Relleno(o.tinta) + " font-family=\"" + Escapado(CadenaCss(means.fuente.name)) +
          ",'DejaVu Sans Mono',Menlo,Consolas,monospace\" font-size=\"" +
          std::to_string(PixelHeight(means.fuente)) +
-         "\" style=\"white-space:pre;text-rendering:geometricPrecision;font-kerning:none;font-variant-ligatures:none\">\n";
+         "\" "
+         "style=\"white-space:pre;text-rendering:geometricPrecision;font-kerning:none;font-variant-ligatures:"
+         "none\">\n";
     for (std::size_t r = 0; r < drawing.filas.size(); ++r)
       AppendTexto(s, drawing.filas[r], r * height, base, o.color, width);
   }
