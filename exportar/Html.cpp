@@ -51,8 +51,22 @@ class Clases {
   std::string reglas_;
 };
 
+// Whether "&" and then `c` might be a reference.
+bool SigueReferencia(char32_t c) {
+  return c == U'#' || (c >= U'0' && c <= U'9') || ((c | 32) >= U'a' && (c | 32) <= U'z');
+}
+
+// In HTML an "&" stands as it is where nothing behind it makes it a reference, which is most of them: pages
+// keep small.
 void AppendCeldas(std::string& to, const Fila& row, const Tramo& run) {
-  for (std::size_t x = run.desde; x < run.hasta; ++x) AppendEscapado(to, Dibujable(row[x].caracter));
+  for (std::size_t x = run.desde; x < run.hasta; ++x) {
+    const char32_t c = Dibujable(row[x].caracter);
+    if (c == U'&' && (x + 1 == row.size() || !SigueReferencia(row[x + 1].caracter))) {
+      to += '&';
+    } else {
+      AppendEscapado(to, c);
+    }
+  }
 }
 
 // What stands in the <pre>: the rows, and with `classes` the spans of their colours.

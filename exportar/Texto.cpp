@@ -29,27 +29,27 @@ bool EsBlanco(char32_t c) {
 }
 
 void AppendEscapado(std::string& to, char32_t c) {
-  switch (c) {
-    case U'&':
-      to += "&amp;";
-      break;
-    case U'<':
-      to += "&lt;";
-      break;
-    case U'>':
-      to += "&gt;";
-      break;
-    case U'"':
-      to += "&quot;";
-      break;
-    default:
-      AppendUtf8(to, c);
+  if (c == U'&') {
+    to += "&amp;";
+  } else if (c == U'<') {
+    to += "&lt;";
+  } else if (c == U'>' && to.ends_with(']')) {
+    to += "&gt;";
+  } else {
+    AppendUtf8(to, c);
   }
 }
 
 std::string Escapado(std::string_view utf8) {
   std::string s;
-  while (!utf8.empty()) AppendEscapado(s, Dibujable(NextUtf8(utf8)));
+  while (!utf8.empty()) {
+    const char32_t c = Dibujable(NextUtf8(utf8));
+    if (c == U'"') {
+      s += "&quot;";
+    } else {
+      AppendEscapado(s, c);
+    }
+  }
   return s;
 }
 

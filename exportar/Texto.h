@@ -19,10 +19,10 @@ char32_t Dibujable(char32_t c);
 // Nothing is drawn in such a cell: its ink does not matter.
 bool EsBlanco(char32_t c);
 
-// One character in UTF-8; "&", "<", ">" and '"' as references.
+// One character of the text of an element in UTF-8, "&", "<" and what could end a section as references.
 void AppendEscapado(std::string& to, char32_t c);
 
-// The same of UTF-8.
+// The same of UTF-8, also for an attribute in double quotes.
 std::string Escapado(std::string_view utf8);
 
 // UTF-8 as a string of a style sheet, with its quotes.

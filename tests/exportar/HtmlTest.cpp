@@ -39,7 +39,7 @@ OpcionesDeExportar EnColor() {
 TEST(Html, TextContentIsTheRows) {
   const std::pair<const char*, const char*> rows[] = {
       {"ab\ncd", "ab\ncd"},
-      {"<a> & \"b\"", "<a> & \"b\""},
+      {"<a> & \"b\" &&lt;&#1&&9]]>", "<a> & \"b\" &&lt;&#1&&9]]>"},
       {"\n\nx\n", "\n\nx\n"},
       {"  \xC2\xA0 ", "  \xC2\xA0 "},
       {"\xC3\xB1\xE2\x96\x88", "ñ\u2588"},
@@ -60,12 +60,12 @@ TEST(Html, TextContentIsTheRows) {
 TEST(Html, PageSaysWhatItIs) {
   Taller t;
   OpcionesDeExportar o;
-  o.titulo = "</title> & ñ";
+  o.titulo = "</title> & \"ñ\"";
   o.papel = Rgb(0, 0, 60);
   const std::string page = t.Escribir("html", DibujoDeUtf8("abcdef\nx"), o);
   EXPECT_TRUE(page.starts_with("<!DOCTYPE html>\n<html lang=\"es\">\n<head>\n<meta charset=\"utf-8\">\n"));
   for (const char* part :
-       {"<title>&lt;/title&gt; &amp; ñ</title>", "<meta name=\"color-scheme\" content=\"dark\">",
+       {"<title>&lt;/title> &amp; &quot;ñ&quot;</title>", "<meta name=\"color-scheme\" content=\"dark\">",
         "default-src 'none'; img-src data:; style-src 'unsafe-inline'",
         "html{background:#00003c;color:#000000}", "width:calc(6*1ch)", "line-height:calc(1ch*5/4)",
         "font-family:\"Mono \\3c 1\\3e \","})
