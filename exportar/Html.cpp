@@ -57,14 +57,18 @@ bool SigueReferencia(char32_t c) {
 }
 
 // In HTML an "&" stands as it is where nothing behind it makes it a reference, which is most of them: pages
-// keep small.
+// keep small. What the usual fonts lack stands in a box of a cell's width.
 void AppendCeldas(std::string& to, const Fila& row, const Tramo& run) {
   for (std::size_t x = run.desde; x < run.hasta; ++x) {
     const char32_t c = Dibujable(row[x].caracter);
     if (c == U'&' && (x + 1 == row.size() || !SigueReferencia(row[x + 1].caracter))) {
       to += '&';
-    } else {
+    } else if (EsUsual(c)) {
       AppendEscapado(to, c);
+    } else {
+      to += "<i>";
+      AppendUtf8(to, c);
+      to += "</i>";
     }
   }
 }
@@ -131,7 +135,9 @@ std::string ReglasDeImagen(const Dibujo& drawing, const OpcionesDeExportar& o, c
     clip = "text,border-box";
   }
   std::string inks;
+  const bool hopeless = papers.size() + otherBytes > kBytesDePagina;
   for (const int step : kPasos) {
+    if (hopeless && step != std::end(kPasos)[-1]) continue;
     inks = Direccion(ImagenDeCeldas(drawing, &Celda::tinta, o.tinta, step), means);
     if (inks.size() + papers.size() + otherBytes <= kBytesDePagina) break;
   }
@@ -154,6 +160,7 @@ std::string ReglasDeTexto(const Dibujo& drawing, const Medios& means) {
          ");letter-spacing:0;white-space:pre;tab-size:1;direction:ltr;unicode-bidi:bidi-override;"
          "text-rendering:geometricPrecision;font-kerning:none;font-variant-ligatures:none;"
          "-webkit-text-size-adjust:none;text-size-adjust:none}\n"
+         "pre i{display:inline-flex;justify-content:center;width:1ch;font-style:normal}\n"
          "pre::after{content:\"\\200b\"}\n";  // gives an empty last row its height
 }
 

@@ -48,19 +48,31 @@ void AppendPapeles(std::string& to, const Fila& row, std::size_t y, Extent cell)
             Relleno(run.papel) + "/>\n";
 }
 
-// A row as text: its length is fixed, and every run starts at its column also where a viewer knows no fixed
-// length.
+bool EsTodoUsual(const Fila& row) {
+  return std::ranges::all_of(row, [](const Celda& c) { return EsUsual(Dibujable(c.caracter)); });
+}
+
+// Where a run starts, or where each of its characters stands.
+std::string Sitios(const Tramo& run, std::size_t width, bool each) {
+  std::string s = " x=\"" + Numero(run.desde * width);
+  for (std::size_t x = run.desde + 1; each && x < run.hasta; ++x) s += ' ' + Numero(x * width);
+  return s + '"';
+}
+
+// A row as text: its length is fixed, and every run of a colour starts at its column also where a viewer
+// knows no fixed length. Where characters may be of any width, each stands at its own.
 void AppendTexto(std::string& to, const Fila& row, std::size_t y, const std::string& base, bool color,
                  std::size_t width) {
   to += "<text transform=\"translate(0 " + Numero(y) + ")\" y=\"" + base + "\" xml:space=\"preserve\"";
   if (!row.empty())
     to += " textLength=\"" + Numero(row.size() * width) + "\" lengthAdjust=\"spacingAndGlyphs\"";
   to += '>';
+  const bool each = !EsTodoUsual(row);
   for (const Tramo& run : TramosDe(row, color)) {
-    const bool own = run.tinta != kNoColour;
-    if (own) to += "<tspan x=\"" + Numero(run.desde * width) + '"' + Relleno(run.tinta) + '>';
+    const bool span = each || run.tinta != kNoColour;
+    if (span) to += "<tspan" + Sitios(run, width, each) + Relleno(run.tinta) + '>';
     for (std::size_t x = run.desde; x < run.hasta; ++x) AppendEscapado(to, Dibujable(row[x].caracter));
-    if (own) to += "</tspan>";
+    if (span) to += "</tspan>";
   }
   to += "</text>\n";
 }

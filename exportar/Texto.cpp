@@ -28,6 +28,12 @@ bool EsBlanco(char32_t c) {
   return Dibujable(c) == U' ' || c == kEspacioFijo || c == kBrailleVacio;
 }
 
+bool EsUsual(char32_t c) {
+  constexpr std::u32string_view kLineas = U"─│┌┐└┘├┤┬┴┼", kBloques = U"▀▄█▌▐░▒▓";
+  return ByteOfUnicode(c) || (c >= 0x2550 && c <= 0x256C) || kLineas.find(c) != kLineas.npos ||
+         kBloques.find(c) != kBloques.npos;
+}
+
 void AppendEscapado(std::string& to, char32_t c) {
   if (c == U'&') {
     to += "&amp;";

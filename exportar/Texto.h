@@ -19,6 +19,10 @@ char32_t Dibujable(char32_t c);
 // Nothing is drawn in such a cell: its ink does not matter.
 bool EsBlanco(char32_t c);
 
+// The usual fixed-pitch fonts have the character, as wide as any other: those of the code page, and the lines
+// and blocks of the WGL4 set. Another one comes from wherever the reader finds it, of any width.
+bool EsUsual(char32_t c);
+
 // One character of the text of an element in UTF-8, "&", "<" and what could end a section as references.
 void AppendEscapado(std::string& to, char32_t c);
 

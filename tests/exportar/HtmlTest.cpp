@@ -57,6 +57,12 @@ TEST(Html, TextContentIsTheRows) {
     }
 }
 
+TEST(Html, WhatFontsLackHasABoxOfItsOwn) {
+  Taller t;
+  EXPECT_EQ(Dentro(t.Escribir("html", DibujoDeUtf8("a\u2588\u28FF\u2502\u2597"))),
+            "a\u2588<i>\u28FF</i>\u2502<i>\u2597</i>");
+}
+
 TEST(Html, PageSaysWhatItIs) {
   Taller t;
   OpcionesDeExportar o;

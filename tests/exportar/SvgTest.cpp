@@ -28,6 +28,9 @@ TEST(Svg, ARowIsATextOfFixedLength) {
         "<text transform=\"translate(0 5)\" y=\"5.00\" xml:space=\"preserve\"></text>\n", "> x</text>"})
     EXPECT_NE(svg.find(part), std::string::npos) << part << "\n" << svg;
   EXPECT_EQ(Veces(svg, "<text "), 3U);
+  EXPECT_NE(t.Escribir("svg", DibujoDeUtf8("ab\u28FF")).find("<tspan x=\"0 4 8\">ab\u28FF</tspan>"),
+            std::string::npos)
+      << "a braille cell is of any width";
   o.color = false;
   EXPECT_EQ(Veces(t.Escribir("svg", d, o), "<tspan"), 0U);
 }
