@@ -44,13 +44,15 @@ Dibujo ConvertirEnColor(Consola& consola, Programa& p, const std::string& operan
 
 // The file's bytes.
 std::string Convertido(Consola& consola, Programa& p, const std::string& operand, int method,
-                       const Exportacion& output) {
+                       const Exportacion& output) try {
   const std::string name = operand == "-" ? "Pixmosa" : std::filesystem::path(operand).stem().string();
   if (output.ConColor())
     return output.Bytes(consola, p.ajustes.font, ConvertirEnColor(consola, p, operand, method), name);
   Convertir(consola, p, operand, method);
   if (output.EsTexto()) return TextoGuardado(p.ajustes.font, p.basAscii.ProducedText);
   return output.Bytes(consola, p.ajustes.font, DibujoDe(p), name);
+} catch (const DibujoExcesivo& e) {
+  throw ErrorDeTrabajo("\"" + operand + "\": " + e.what());
 }
 
 int Hacer(Consola& consola, const Argumentos& arguments) {

@@ -12,6 +12,12 @@
 
 namespace pixmosa {
 
+// A drawing that a format has no room for; what() is a Spanish sentence in UTF-8.
+class DibujoExcesivo : public ErrorDelPrograma {
+ public:
+  using ErrorDelPrograma::ErrorDelPrograma;
+};
+
 enum class ColoresDeTerminal { Todos, Doscientos, Dieciseis };  // 24 bits, 256, 16
 
 struct OpcionesDeExportar {
@@ -36,7 +42,7 @@ struct Medios {
   std::function<std::string(std::string_view)> guardarTexto;
 };
 
-// The bytes of the whole file. Throws ErrorDelPrograma where the drawing is too large for the format.
+// The bytes of the whole file. Throws DibujoExcesivo.
 using Escritor = std::string (*)(const Dibujo&, const OpcionesDeExportar&, const Medios&);
 
 struct Formato {

@@ -20,9 +20,8 @@ Extent Medida(const Dibujo& drawing, Extent cell, int scale) {
   const double width = static_cast<double>(drawing.Columnas()) * cell.width * scale,
                height = static_cast<double>(drawing.filas.size()) * cell.height * scale;
   if (width * height > kMasPixeles)
-    throw ErrorDelPrograma("La imagen sería demasiado grande: " + std::to_string(std::int64_t(width)) +
-                           " x " + std::to_string(std::int64_t(height)) +
-                           " píxeles; el máximo son 400 millones.");
+    throw DibujoExcesivo("La imagen sería demasiado grande: " + std::to_string(std::int64_t(width)) + " x " +
+                         std::to_string(std::int64_t(height)) + " píxeles; el máximo son 400 millones.");
   return {std::max(1, Truncate(width)), std::max(1, Truncate(height))};
 }
 

@@ -25,8 +25,8 @@ std::vector<int> FilasConservadas(const Programa& p, const Picture& resized) {
 Dibujo DibujoDe(const Programa& p) {
   const std::size_t count = p.basAscii.ProducedText.size();
   if (count > kMasCeldas)
-    throw ErrorDelPrograma("El dibujo es demasiado grande para este formato: " + std::to_string(count) +
-                           " caracteres; el máximo son 40 millones.");
+    throw DibujoExcesivo("El dibujo es demasiado grande para este formato: " + std::to_string(count) +
+                         " caracteres; el máximo son 40 millones.");
   return DibujoDeTexto(p.basAscii.ProducedText);
 }
 

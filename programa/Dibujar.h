@@ -1,6 +1,7 @@
 // The produced text as a drawing of cells, which every export format takes.
 #pragma once
 
+#include "exportar/Formatos.h"
 #include "platform/Dibujo.h"
 #include "programa/Programa.h"
 
@@ -9,7 +10,7 @@ namespace pixmosa {
 // The most characters of a drawing: a cell is far more than a byte.
 inline constexpr std::size_t kMasCeldas = 40'000'000;
 
-// The produced text without colours. Throws ErrorDelPrograma for more than kMasCeldas characters.
+// The produced text without colours. Throws DibujoExcesivo for more than kMasCeldas characters.
 Dibujo DibujoDe(const Programa& p);
 
 // The same, every character in the mean colour of the part of `source` that it was made of. `resized` is what

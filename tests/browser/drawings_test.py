@@ -116,6 +116,8 @@ class Drawings(unittest.TestCase):
                 self.assertEqual(self.browser.run(PRE + "getSelection().selectAllChildren(p); return getSelection().toString()").rstrip("\n"), rows.rstrip("\n"))
                 height = self.browser.run(PRE + "return p.getBoundingClientRect().height / p.getBoundingClientRect().width")
                 self.assertAlmostEqual(height, 6 * CELL[1] / (8 * CELL[0]), delta=.02)
+                grown = PRE + "const h = p.offsetHeight; p.style.width = '20%'; return p.offsetHeight - h"
+                self.assertEqual(self.browser.run(grown), 0, "a row wraps")
         self.page(cells(8, 6, dark_above), "d.svg", "--columnas", "8", "--color")
         self.assertEqual(self.browser.run("return [...document.querySelectorAll('text')].map(t => t.textContent).join('\\n')"), self.text)
 

@@ -127,6 +127,7 @@ TEST_F(OrdenDibujoTest, WrongValuesAreSaid) {
   const Resultado r =
       Cli({"ascii", picture, "--columnas", "5000", "--escala", "8", "-o", folder.File("d.png")});
   EXPECT_EQ(r.status, 1);
-  EXPECT_NE(r.err.find("La imagen sería demasiado grande: "), std::string::npos) << r.err;
+  EXPECT_TRUE(r.err.starts_with("pixmosa-cli: \"" + picture + "\": La imagen sería demasiado grande: "))
+      << r.err;
   EXPECT_FALSE(std::filesystem::exists(folder.File("d.png")));
 }

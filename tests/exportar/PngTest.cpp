@@ -53,7 +53,7 @@ TEST(Png, TooManyPixelsAreRefused) {
   try {
     t.Escribir("png", d, o);
     ADD_FAILURE();
-  } catch (const ErrorDelPrograma& e) {
+  } catch (const DibujoExcesivo& e) {
     EXPECT_STREQ(e.what(),
                  "La imagen sería demasiado grande: 10000032 x 40 píxeles; el máximo son 400 millones.");
   }
