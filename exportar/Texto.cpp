@@ -52,6 +52,8 @@ std::string Escapado(std::string_view utf8) {
     const char32_t c = Dibujable(NextUtf8(utf8));
     if (c == U'"') {
       s += "&quot;";
+    } else if (c == U'>') {
+      s += "&gt;";
     } else {
       AppendEscapado(s, c);
     }

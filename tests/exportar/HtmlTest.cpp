@@ -71,7 +71,7 @@ TEST(Html, PageSaysWhatItIs) {
   const std::string page = t.Escribir("html", DibujoDeUtf8("abcdef\nx"), o);
   EXPECT_TRUE(page.starts_with("<!DOCTYPE html>\n<html lang=\"es\">\n<head>\n<meta charset=\"utf-8\">\n"));
   for (const char* part :
-       {"<title>&lt;/title> &amp; &quot;ñ&quot;</title>", "<meta name=\"color-scheme\" content=\"dark\">",
+       {"<title>&lt;/title&gt; &amp; &quot;ñ&quot;</title>", "<meta name=\"color-scheme\" content=\"dark\">",
         "default-src 'none'; img-src data:; style-src 'unsafe-inline'",
         "html{background:#00003c;color:#000000}", "width:calc(6*1ch)", "line-height:calc(1ch*5/4)",
         "font-family:\"Mono \\3c 1\\3e \","})

@@ -18,7 +18,7 @@ TEST(Svg, ARowIsATextOfFixedLength) {
   d.filas[2][1].papel = kVerde;
   const std::string svg = t.Escribir("svg", d, o);
   for (const char* part :
-       {"width=\"16\" height=\"15\" viewBox=\"0 0 16 15\">\n<title>&lt;1></title>\n"
+       {"width=\"16\" height=\"15\" viewBox=\"0 0 16 15\">\n<title>&lt;1&gt;</title>\n"
         "<rect width=\"16\" height=\"15\" fill=\"#ffffff\"/>\n"
         "<rect x=\"4\" y=\"10\" width=\"4\" height=\"5\" fill=\"#00ff00\"/>\n",
         "<g fill=\"#000000\" font-family=\"&quot;Mono \\3c 1\\3e &quot;,", " font-size=\"8\"",
