@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "conversion/TextoGuardado.h"
+#include "platform/png/Png.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -83,7 +84,7 @@ std::string Exportacion::Bytes(Consola& consola, const Font& font, const Dibujo&
                                const std::string& title) const {
   TextSurface& surface = consola.Superficie();
   const Medios means = {surface, font, surface.GetTextSize(font, "A"),
-                        [&](const Picture& picture) { return consola.Imagenes().Encode(picture, "png"); },
+                        [](const Picture& picture) { return EscribirPng(picture, Empaquetado::Pequeno); },
                         [&](std::string_view text) { return TextoGuardado(font, text); }};
   OpcionesDeExportar o = opciones;
   if (!conTitulo) o.titulo = title;

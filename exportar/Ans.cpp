@@ -95,7 +95,7 @@ class Lineas {
 
 }  // namespace
 
-std::string EscribirAns(const Dibujo& drawing, const OpcionesDeExportar& o, const Medios&) {
+std::string ComoAns(const Dibujo& drawing, const OpcionesDeExportar& o, const Medios&) {
   Lineas lines(o);
   for (const Fila& row : drawing.filas) {
     if (&row != drawing.filas.data()) lines.texto += '\n';

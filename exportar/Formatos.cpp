@@ -8,11 +8,11 @@ namespace pixmosa {
 namespace {
 
 constexpr Formato kFormatos[] = {
-    {"txt", "Texto", EscribirTxt},
-    {"html", "Página web", EscribirHtml},
-    {"svg", "Imagen vectorial SVG", EscribirSvg},
-    {"png", "Imagen PNG", EscribirPng},
-    {"ans", "Texto con colores para terminales", EscribirAns},
+    {"txt", "Texto", ComoTxt},
+    {"html", "Página web", ComoHtml},
+    {"svg", "Imagen vectorial SVG", ComoSvg},
+    {"png", "Imagen PNG", ComoPng},
+    {"ans", "Texto con colores para terminales", ComoAns},
 };
 
 char Minuscula(char c) {

@@ -178,7 +178,7 @@ constexpr const char* kReglasLegibles =
 
 }  // namespace
 
-std::string EscribirHtml(const Dibujo& drawing, const OpcionesDeExportar& o, const Medios& means) {
+std::string ComoHtml(const Dibujo& drawing, const OpcionesDeExportar& o, const Medios& means) {
   Clases classes;
   const bool papers = HayPapel(drawing);
   const bool image = (o.color || papers) && !o.sinImagenes && drawing.Columnas() > 0;

@@ -53,7 +53,7 @@ std::map<char32_t, std::vector<Sitio>> PorCaracter(const Dibujo& drawing) {
 
 }  // namespace
 
-std::string EscribirPng(const Dibujo& drawing, const OpcionesDeExportar& o, const Medios& means) {
+std::string ComoPng(const Dibujo& drawing, const OpcionesDeExportar& o, const Medios& means) {
   const Extent size = Medida(drawing, means.celda, o.escala);
   const Extent cell = {means.celda.width * o.escala, means.celda.height * o.escala};
   Picture picture = Picture::Filled(size.width, size.height, o.papel);

@@ -121,7 +121,7 @@ std::string Cabeza(const Dibujo& drawing, const OpcionesDeExportar& o, Extent ce
 
 }  // namespace
 
-std::string EscribirSvg(const Dibujo& drawing, const OpcionesDeExportar& o, const Medios& means) {
+std::string ComoSvg(const Dibujo& drawing, const OpcionesDeExportar& o, const Medios& means) {
   const std::size_t width = means.celda.width, height = means.celda.height;
   std::string s = Cabeza(drawing, o, means.celda);
   for (std::size_t r = 0; r < drawing.filas.size(); ++r)

@@ -22,7 +22,7 @@ std::optional<std::string> Bytes(const Dibujo& drawing) {
 
 }  // namespace
 
-std::string EscribirTxt(const Dibujo& drawing, const OpcionesDeExportar&, const Medios& means) {
+std::string ComoTxt(const Dibujo& drawing, const OpcionesDeExportar&, const Medios& means) {
   if (const std::optional<std::string> bytes = Bytes(drawing)) return means.guardarTexto(*bytes);
   std::string utf8;
   for (const Fila& row : drawing.filas) {

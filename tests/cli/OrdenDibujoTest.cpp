@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <QColor>
 #include <QImage>
 
+#include "platform/Dibujo.h"
 #include "platform/qt/QtPicture.h"
-#include "platform/qt/QtPictureCodec.h"
-#include "tests/support/DrawnPicture.h"
+#include "platform/qt/QtTextSurface.h"
+#include "tests/support/GuiApplication.h"
 #include "tests/support/RunProgram.h"
 
 using namespace pixmosa;
@@ -96,6 +98,31 @@ TEST_F(OrdenDibujoTest, OptionsReachTheWriters) {
     EXPECT_EQ(shown.width(), 4 * cell.width * scale);
     EXPECT_EQ(shown.height(), 4 * cell.height * scale);
   }
+}
+
+TEST_F(OrdenDibujoTest, PictureIsTheTextDrawnAgain) {
+  test::NeedGuiApplication();
+  QtTextSurface surface;
+  const std::string text = Cli({"ascii", picture, "--columnas=4"}).out;
+  Written("a.png", {"--escala", "3", "--tinta", "200,0,100", "--fondo", "255,255,0"});
+  const QImage shown(QString::fromStdString(folder.File("a.png")));
+  const Dibujo drawing = DibujoDeUtf8(text);
+  int drawn = 0;
+  for (int row = 0; row < 4; ++row)
+    for (int column = 0; column < static_cast<int>(drawing.filas[row].size()); ++column) {
+      const char32_t c = drawing.filas[row][column].caracter;
+      const std::vector<std::uint8_t> ink = surface.PrintSmooth({}, cell, 3, {&c, 1});
+      for (int i = 0; i < static_cast<int>(ink.size()); ++i) {
+        const QColor seen = shown.pixelColor(column * cell.width * 3 + i % (cell.width * 3),
+                                             row * cell.height * 3 + i / (cell.width * 3));
+        const double share = ink[i] / 255.0;
+        ASSERT_NEAR(seen.red(), 255 - 55 * share, 1);
+        ASSERT_NEAR(seen.green(), 255 - 255 * share, 1);
+        ASSERT_NEAR(seen.blue(), 100 * share, 1);
+        drawn += ink[i] == 255;
+      }
+    }
+  EXPECT_GT(drawn, 100);
 }
 
 TEST_F(OrdenDibujoTest, BannersAreDrawingsToo) {
