@@ -107,11 +107,12 @@ Colour Redondeado(Colour colour, int step) {
 // One pixel a cell of the colour that `part` is of it, `otherwise` where it has none. Where nothing shows it,
 // it repeats its neighbour, which takes fewer bytes.
 Picture ImagenDeCeldas(const Dibujo& drawing, Colour Celda::*part, Colour otherwise, int step) {
-  Picture p(static_cast<int>(drawing.Columnas()), static_cast<int>(drawing.filas.size()));
+  const std::size_t columns = drawing.Columnas();
+  Picture p(static_cast<int>(columns), static_cast<int>(drawing.filas.size()));
   std::uint32_t* to = p.Writable();
   Colour last = Redondeado(otherwise, step);
   for (const Fila& row : drawing.filas)
-    for (std::size_t x = 0; x < drawing.Columnas(); ++x) {
+    for (std::size_t x = 0; x < columns; ++x) {
       const bool shown = x < row.size() && (part == &Celda::papel || !EsBlanco(row[x].caracter));
       if (shown || part == &Celda::papel) {
         const Colour c = x < row.size() ? row[x].*part : kNoColour;
@@ -150,7 +151,8 @@ std::string ReglasDeImagen(const Dibujo& drawing, const OpcionesDeExportar& o, c
 // it. font-size-adjust makes every font, also one that stands in for a single character, 0.6 em wide, so that
 // the columns fill the window; where a browser lacks it, a font of another width fills somewhat less or more.
 std::string ReglasDeTexto(const Dibujo& drawing, const Medios& means) {
-  const std::string columns = std::to_string(std::max<std::size_t>(1, drawing.Columnas()));
+  const std::size_t most = drawing.Columnas();
+  const std::string columns = std::to_string(most > 0 ? most : 80);  // an empty page is no huge one
   return "body{margin:0;container-type:inline-size}\n"
          "pre{margin:2vw auto;width:calc(" +
          columns + "*1ch);font-family:" + CadenaCss(means.fuente.name) +
