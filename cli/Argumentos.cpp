@@ -1,6 +1,7 @@
 #include "cli/Argumentos.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <climits>
 
@@ -85,6 +86,21 @@ std::string Argumentos::Exigir(const std::string& option) const {
 int Argumentos::Entero(const std::string& option, int otherwise) const {
   const auto at = valores_.find(option);
   return at == valores_.end() ? otherwise : EnteroDeTexto(at->second, INT_MIN, INT_MAX).value_or(otherwise);
+}
+
+std::optional<Colour> Argumentos::Color(const std::string& option) const {
+  const std::optional<std::string> text = Texto(option);
+  if (!text) return std::nullopt;
+  std::array<int, 3> parts{};
+  const std::vector<std::string> words = Separar(*text);
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const auto part = EnteroDeTexto(words[i], 0, 255);
+    if (!part || words.size() != parts.size())
+      throw ErrorDeUso("la opción " + option + " espera tres números de 0 a 255, como 0,0,128, no " +
+                       Citado(*text));
+    parts[i] = *part;
+  }
+  return Rgb(parts[0], parts[1], parts[2]);
 }
 
 void Argumentos::ExigirOperandos(std::size_t least, std::size_t most, std::string_view what) const {

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Colour.h"
 #include "platform/Errores.h"
 
 namespace pixmosa::cli {
@@ -49,6 +50,8 @@ class Argumentos {
   // The value of an option that must be there. Throws ErrorDeUso.
   std::string Exigir(const std::string& option) const;
   int Entero(const std::string& option, int otherwise) const;
+  // A colour given as R,G,B. Throws ErrorDeUso.
+  std::optional<Colour> Color(const std::string& option) const;
 
   // Throws ErrorDeUso unless there are between least and most operands; `what` names them.
   void ExigirOperandos(std::size_t least, std::size_t most, std::string_view what) const;

@@ -110,8 +110,12 @@ void Consola::EscribirLineas(std::string_view text) {
   lines.reserve(text.size());
   for (std::size_t i = 0; i < text.size(); ++i)
     if (text[i] != '\r' || text.substr(i, 2) != "\r\n") lines += text[i];
-  if (isatty(STDOUT_FILENO) && !lines.ends_with('\n')) lines += '\n';
-  Escribir(lines);
+  EscribirArchivoEntero(std::move(lines));
+}
+
+void Consola::EscribirArchivoEntero(std::string bytes) {
+  if (isatty(STDOUT_FILENO) && !bytes.ends_with('\n')) bytes += '\n';
+  Escribir(bytes);
 }
 
 void Consola::Avisar(std::string_view sentence) {

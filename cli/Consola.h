@@ -45,6 +45,9 @@ class Consola {
   // Rows with CR LF between them as rows with LF; a terminal gets its last line ended.
   void EscribirLineas(std::string_view utf8);
 
+  // A file's bytes as they stand; a terminal gets its last line ended.
+  void EscribirArchivoEntero(std::string bytes);
+
   // One line "pixmosa-cli: sentence." on standard error, in place of a progress line that is shown.
   void Avisar(std::string_view sentence);
 

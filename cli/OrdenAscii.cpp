@@ -1,30 +1,62 @@
 #include <algorithm>
+#include <filesystem>
 
 #include "cli/Destino.h"
+#include "cli/OpcionesDeDibujo.h"
 #include "cli/OpcionesDeTexto.h"
 #include "cli/Ordenes.h"
 #include "conversion/TextoGuardado.h"
 #include "platform/AtomicFile.h"
+#include "platform/Stretch.h"
+#include "programa/Dibujar.h"
 #include "programa/Generar.h"
 
 namespace pixmosa::cli {
 namespace {
 
-void Convertir(Consola& consola, Programa& p, const std::string& operand, int method) try {
-  GenerarDe(
-      p,
-      [&](Lectura how, const std::function<Extent(Extent)>& size) {
-        return consola.LeerImagenReducida(operand, how, size);
-      },
-      method);
+// `read` gives the picture of the operand, stretched or reduced.
+void Convertir(Programa& p, const std::string& operand, int method, const LeerReducida& read) try {
+  GenerarDe(p, read, method);
 } catch (const TextoExcesivo& e) {
   throw TextoExcesivo(e.columnas, e.filas, operand);
 }
 
-std::string Guardado(const Programa& p) {
+void Convertir(Consola& consola, Programa& p, const std::string& operand, int method) {
+  Convertir(p, operand, method,
+            [&](Lectura how, const auto& size) { return consola.LeerImagenReducida(operand, how, size); });
+}
+
+// The text and the colours from one reading of the picture.
+Dibujo ConvertirEnColor(Consola& consola, Programa& p, const std::string& operand, int method) {
+  Picture source, resized;
+  Convertir(p, operand, method, [&](Lectura how, const auto& size) {
+    if (how == Lectura::Reducida) return source = consola.LeerImagenReducida(operand, how, size);
+    source = consola.LeerImagen(operand);
+    return resized = Stretch(source, size(source.Size()));
+  });
+  return DibujoEnColor(p, source, resized, method);
+}
+
+// The saved text; where it is not as ever, that is said.
+std::string Guardado(Consola& consola, const Programa& p, const std::string& operand) {
   const BasAscii& ascii = p.basAscii;
-  return ascii.ProducedUtf8.empty() ? TextoGuardado(p.ajustes.font, ascii.ProducedText)
-                                    : TextoGuardadoUtf8(p.ajustes.font, ascii.ProducedUtf8);
+  if (ascii.ProducedUtf8.empty()) return TextoGuardado(p.ajustes.font, ascii.ProducedText);
+  consola.Avisar("El texto de \"" + operand +
+                 "\" se guarda en UTF-8, porque tiene caracteres que faltan en la página de códigos.");
+  return TextoGuardadoUtf8(p.ajustes.font, ascii.ProducedUtf8);
+}
+
+// The file's bytes.
+std::string Convertido(Consola& consola, Programa& p, const std::string& operand, int method,
+                       const Exportacion& output) try {
+  const std::string name = operand == "-" ? "Pixmosa" : std::filesystem::path(operand).stem().string();
+  if (output.ConColor())
+    return output.Bytes(consola, p.ajustes.font, ConvertirEnColor(consola, p, operand, method), name);
+  Convertir(consola, p, operand, method);
+  if (output.EsTexto()) return Guardado(consola, p, operand);
+  return output.Bytes(consola, p.ajustes.font, DibujoDe(p), name);
+} catch (const DibujoExcesivo& e) {
+  throw ErrorDeTrabajo("\"" + operand + "\": " + e.what());
 }
 
 int Hacer(Consola& consola, const Argumentos& arguments) {
@@ -34,21 +66,23 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   if (file && folder) throw ErrorDeUso("las opciones -o y --carpeta no van juntas");
   if (pictures.size() > 1 && !folder) throw ErrorDeUso("varias imágenes necesitan la opción --carpeta");
 
+  const Exportacion output(arguments);
   const int method = MetodoDe(arguments);
   Programa p = PrepararPrograma(consola, arguments);
   ExigirCaracteres(p);
   if (method == kAntiAlias) CargarPaleta3x2(p);
   if (folder)
-    return ConvertirACarpeta(consola, arguments, pictures, ".txt",
+    return ConvertirACarpeta(consola, arguments, pictures, output.Terminacion(),
                              [&](const std::string& operand, const std::string& to) {
-                               Convertir(consola, p, operand, method);
-                               EscribirArchivo(to, Guardado(p));
+                               EscribirArchivo(to, Convertido(consola, p, operand, method, output));
                              });
-  Convertir(consola, p, pictures[0], method);
   if (file) {
-    EscribirArchivo(*file, Guardado(p));
-  } else {
+    EscribirArchivo(*file, Convertido(consola, p, pictures[0], method, output));
+  } else if (output.EsTexto()) {
+    Convertir(consola, p, pictures[0], method);
     consola.EscribirLineas(TextoEnUtf8(p.basAscii));
+  } else {
+    consola.EscribirArchivoEntero(Convertido(consola, p, pictures[0], method, output));
   }
   return 0;
 }
@@ -61,18 +95,20 @@ Orden OrdenAscii() {
       "IMAGEN...",
       "Convierte imágenes en texto.",
       "pixmosa-cli ascii foto.jpg --columnas 100",
-      Juntar({{"-o", Tipo::Texto, "TEXTO.txt", "archivo donde se guarda; si falta, la salida estándar"},
-              {"--carpeta", Tipo::Texto, "DIR", "carpeta donde se guarda un NOMBRE.txt de cada imagen"},
-              OpcionDeSobrescribir(),
-              {"--metodo",
-               Tipo::Eleccion,
-               "",
-               "el método; si falta, grises",
-               0,
-               0,
-               {std::begin(kMetodos), std::end(kMetodos)}},
-              {"--relleno", Tipo::Interruptor, "", "con bordes: rellena de \":\" el interior de las formas"}},
-             OpcionesDeTexto()),
+      Juntar(Juntar({{"-o", Tipo::Texto, "ARCHIVO", "archivo donde se guarda; si falta, la salida estándar"},
+                     {"--carpeta", Tipo::Texto, "DIR", "carpeta donde se guarda un archivo de cada imagen"},
+                     OpcionDeSobrescribir(),
+                     {"--metodo",
+                      Tipo::Eleccion,
+                      "",
+                      "el método; si falta, grises",
+                      0,
+                      0,
+                      {std::begin(kMetodos), std::end(kMetodos)}},
+                     {"--relleno", Tipo::Interruptor, "",
+                      "con bordes: rellena de \":\" el interior de las formas"}},
+                    OpcionesDeTexto()),
+             Juntar({OpcionDeColor()}, OpcionesDeDibujo())),
       Hacer};
 }
 

@@ -1,5 +1,7 @@
 #include <filesystem>
 
+#include "cli/OpcionesDeDibujo.h"
+#include "cli/OpcionesDeTexto.h"
 #include "cli/Ordenes.h"
 #include "conversion/TextoGuardado.h"
 #include "figlet/Catalogo.h"
@@ -43,6 +45,7 @@ std::string ConCrLf(const std::string& bytes) {
 
 int Hacer(Consola& consola, const Argumentos& arguments) {
   arguments.ExigirOperandos(1, 1, "el texto");
+  const Exportacion output(arguments);
   const std::string& operand = arguments.Operandos()[0];
   const std::string text = ConCrLf(BytesOfUtf8(operand == "-" ? consola.LeerBytes("-") : operand));
   const fs::path file = FuenteDe(arguments);
@@ -51,11 +54,22 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   LoadFontBytes(font, consola.LeerBytes(file.string()), [&](const std::string&) { failed = true; });
   if (failed) throw ErrorDeTrabajo("Error abriendo la fuente \"" + file.string() + "\".");
   const std::string banner = RenderBanner(font, text);
-  if (const auto target = arguments.Texto("-o")) {
-    // What the window would save: its header names the program's own font.
-    EscribirArchivo(*target, TextoGuardado(Font{}, banner));
+  // What the window would save: its header names the program's own font.
+  const Font own;
+  const auto target = arguments.Texto("-o");
+  if (output.EsTexto()) {
+    if (target) {
+      EscribirArchivo(*target, TextoGuardado(own, banner));
+    } else {
+      consola.EscribirLineas(Utf8OfBytes(banner));
+    }
+    return 0;
+  }
+  std::string bytes = output.Bytes(consola, own, DibujoDeTexto(banner), Utf8OfBytes(text));
+  if (target) {
+    EscribirArchivo(*target, bytes);
   } else {
-    consola.EscribirLineas(Utf8OfBytes(banner));
+    consola.EscribirArchivoEntero(std::move(bytes));
   }
   return 0;
 }
@@ -63,13 +77,15 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
 }  // namespace
 
 Orden OrdenLetrero() {
-  return {"letrero",
-          "TEXTO",
-          "Escribe un texto con letras grandes de una fuente FIGlet.",
-          "pixmosa-cli letrero \"¡Hola!\"",
-          {{"--figlet", Tipo::Texto, "FUENTE", "un archivo .flf o el nombre de una fuente de la carpeta"},
-           {"-o", Tipo::Texto, "TEXTO.txt", "archivo donde se guarda; si falta, la salida estándar"}},
-          Hacer};
+  return {
+      "letrero",
+      "TEXTO",
+      "Escribe un texto con letras grandes de una fuente FIGlet.",
+      "pixmosa-cli letrero \"¡Hola!\"",
+      Juntar({{"--figlet", Tipo::Texto, "FUENTE", "un archivo .flf o el nombre de una fuente de la carpeta"},
+              {"-o", Tipo::Texto, "ARCHIVO", "archivo donde se guarda; si falta, la salida estándar"}},
+             OpcionesDeDibujo()),
+      Hacer};
 }
 
 }  // namespace pixmosa::cli

@@ -1,4 +1,3 @@
-#include <array>
 #include <climits>
 
 #include "cli/Destino.h"
@@ -10,18 +9,6 @@
 
 namespace pixmosa::cli {
 namespace {
-
-Colour FondoDe(const std::string& text) {
-  std::array<int, 3> parts{};
-  const std::vector<std::string> words = Separar(text);
-  for (std::size_t i = 0; i < words.size(); ++i) {
-    const auto part = EnteroDeTexto(words[i], 0, 255);
-    if (!part || words.size() != 3)
-      throw ErrorDeUso("la opción --fondo espera tres números de 0 a 255, como 0,0,128, no \"" + text + "\"");
-    parts[i] = *part;
-  }
-  return Rgb(parts[0], parts[1], parts[2]);
-}
 
 void PonerBordes(WebSettings& settings, const std::string& text) {
   for (const std::string& side : Separar(text)) {
@@ -51,7 +38,7 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   }
   if (const auto sides = arguments.Texto("--bordes")) PonerBordes(settings, *sides);
   BasWeb web;
-  if (const auto colour = arguments.Texto("--fondo")) web.Fondo = TextoDeFondo(FondoDe(*colour));
+  if (const auto colour = arguments.Color("--fondo")) web.Fondo = TextoDeFondo(*colour);
   Random random;
   if (arguments.Tiene("--semilla")) random.Seed(static_cast<std::uint64_t>(arguments.Entero("--semilla", 0)));
 

@@ -118,16 +118,21 @@ struct Writer {
     }
   }
 
-  bool Write(const Picture& picture, std::string& bytes) {
+  bool Write(const Picture& picture, std::string& bytes, Empaquetado packing) {
     if (!info || setjmp(png_jmpbuf(png))) return false;
     png_set_write_fn(png, &bytes, Take, [](png_structp) {});
     png_set_user_limits(png, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
     png_set_IHDR(png, info, static_cast<png_uint_32>(picture.Width()),
                  static_cast<png_uint_32>(picture.Height()), 8, PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
                  PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-    png_set_compression_level(png, Z_BEST_SPEED);
-    png_set_compression_strategy(png, Z_RLE);
-    png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_UP);
+    if (packing == Empaquetado::Rapido) {
+      png_set_compression_level(png, Z_BEST_SPEED);
+      png_set_compression_strategy(png, Z_RLE);
+      png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_UP);
+    } else {
+      png_set_compression_level(png, Z_DEFAULT_COMPRESSION);
+      png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_ALL_FILTERS);
+    }
     png_write_info(png, info);
     png_set_bgr(png);
     png_set_filler(png, 0, PNG_FILLER_AFTER);
@@ -175,9 +180,9 @@ Picture LeerPng(std::string_view bytes) {
   return picture;
 }
 
-std::string EscribirPng(const Picture& picture) {
+std::string EscribirPng(const Picture& picture, Empaquetado packing) {
   std::string bytes;
-  if (!Writer().Write(picture, bytes)) throw std::bad_alloc();
+  if (!Writer().Write(picture, bytes, packing)) throw std::bad_alloc();
   return bytes;
 }
 

@@ -21,8 +21,11 @@ bool PngLlegaAlFinal(std::string_view bytes);
 // found no memory for. Throws std::bad_alloc.
 Picture LeerPng(std::string_view bytes);
 
-// The bytes of a file of three 8-bit parts a pixel, packed in the quickest way that still packs: each row
-// less the row above, then lengths of runs. Throws std::bad_alloc.
-std::string EscribirPng(const Picture& picture);
+// Rapido: each row less the row above, then lengths of runs, the quickest way that still packs. Pequeno:
+// every filter and the usual search, for what is kept, sent or part of a page; several times as long.
+enum class Empaquetado { Rapido, Pequeno };
+
+// The bytes of a file of three 8-bit parts a pixel. Throws std::bad_alloc.
+std::string EscribirPng(const Picture& picture, Empaquetado packing = Empaquetado::Rapido);
 
 }  // namespace pixmosa

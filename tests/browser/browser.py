@@ -1,4 +1,5 @@
 """A headless Chromium driven over WebDriver with the standard library alone."""
+import base64
 import json
 import re
 import shutil
@@ -53,6 +54,20 @@ class Browser:
 
     def run(self, script):
         return self.call("POST", "/execute/sync", {"script": script, "args": []})
+
+    def size(self, width, height):
+        """The size of the window in pixels."""
+        self.call("POST", "/window/rect", {"width": width, "height": height})
+
+    def screenshot(self):
+        """The bytes of a PNG of what the window shows."""
+        return base64.b64decode(self.call("GET", "/screenshot", None))
+
+    def media(self, media="", **features):
+        """Shows the page as on this medium, with features such as forced_colors="active"."""
+        given = [{"name": name.replace("_", "-"), "value": value} for name, value in features.items()]
+        self.call("POST", "/goog/cdp/execute",
+                  {"cmd": "Emulation.setEmulatedMedia", "params": {"media": media, "features": given}})
 
     def wait(self, script, wanted, seconds=10):
         """Waits until the script's value is `wanted`; its last value otherwise."""

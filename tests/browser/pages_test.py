@@ -1,27 +1,17 @@
 """The pages as a reader sees them: the animation plays, stops and steps; the coloured pages have a character a pixel."""
 import pathlib
-import struct
 import subprocess
 import sys
 import tempfile
 import time
 import unittest
-import zlib
 
 from browser import Browser
+from pictures import png
 
 CLI = sys.argv.pop(1)
 PENDING = 0.4  # the step that was already under way, at a delay of 80 ms, is over after this
 VISIBLE = "return [...document.querySelectorAll('div[id^=text]')].filter(d => d.style.visibility == 'visible').map(d => d.id).join()"
-
-
-def png(rows):
-    """A picture from rows of (r, g, b)."""
-    def chunk(kind, data):
-        return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
-    lines = b"".join(b"\0" + bytes(v for pixel in row for v in pixel) for row in rows)
-    head = struct.pack(">IIBBBBB", len(rows[0]), len(rows), 8, 2, 0, 0, 0)
-    return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + chunk(b"IDAT", zlib.compress(lines)) + chunk(b"IEND", b"")
 
 
 def gif(colours):

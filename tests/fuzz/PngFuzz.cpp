@@ -9,7 +9,9 @@ void Fuzz(std::string_view bytes) {
   if (std::int64_t{declared.width} * declared.height > 1 << 14) return;
   const Picture picture = LeerPng(bytes);
   if (picture.IsEmpty()) return;
-  const Picture again = LeerPng(EscribirPng(picture));
-  Check(picture.Size() == declared && again.Size() == declared);
-  Check(std::equal(again.Pixels(), again.Pixels() + again.PixelCount(), picture.Pixels()));
+  for (const Empaquetado packing : {Empaquetado::Rapido, Empaquetado::Pequeno}) {
+    const Picture again = LeerPng(EscribirPng(picture, packing));
+    Check(picture.Size() == declared && again.Size() == declared);
+    Check(std::equal(again.Pixels(), again.Pixels() + again.PixelCount(), picture.Pixels()));
+  }
 }

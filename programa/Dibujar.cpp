@@ -1,0 +1,43 @@
+#include "programa/Dibujar.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "exportar/Colorear.h"
+
+namespace pixmosa {
+namespace {
+
+// The rows of `resized` that the grayscale method keeps; the dark ones that it drops stand empty at the
+// text's end.
+std::vector<int> FilasConservadas(const Programa& p, const Picture& resized) {
+  std::vector<int> rows;
+  for (int y = 0; y < resized.Height(); ++y) {
+    Picture row(resized.Width(), 1);
+    std::ranges::copy(resized.Row(y), row.Writable());
+    if (!ConvertGrayscale(p.basAscii, p.ajustes.luminosity, row).empty()) rows.push_back(y);
+  }
+  return rows;
+}
+
+}  // namespace
+
+Dibujo DibujoDe(const Programa& p) {
+  const std::size_t count = p.basAscii.ProducedText.size();
+  if (count > kMasCeldas)
+    throw DibujoExcesivo("El dibujo es demasiado grande para este formato: " + std::to_string(count) +
+                         " caracteres; el máximo son 40 millones.");
+  return p.basAscii.ProducedUtf8.empty() ? DibujoDeTexto(p.basAscii.ProducedText)
+                                         : DibujoDeUtf8(p.basAscii.ProducedUtf8);
+}
+
+Dibujo DibujoEnColor(const Programa& p, const Picture& source, const Picture& resized, int method) {
+  Dibujo drawing = DibujoDe(p);
+  if (drawing.Columnas() == 0) return drawing;
+  const Extent cells = {p.basAscii.AsciiColumns, static_cast<int>(drawing.filas.size())};
+  const std::vector<int> rows = method == kGrayscale ? FilasConservadas(p, resized) : std::vector<int>{};
+  Colorear(drawing, MediasDeCeldas(source, cells), rows);
+  return drawing;
+}
+
+}  // namespace pixmosa
