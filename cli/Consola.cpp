@@ -16,6 +16,7 @@
 #include "platform/CodePage.h"
 #include "platform/ProgramFolder.h"
 #include "platform/Stretch.h"
+#include "platform/jpeg/JpegRows.h"
 #include "platform/qt/QtPictureCodec.h"
 #include "platform/qt/QtTextSurface.h"
 
@@ -81,6 +82,24 @@ Picture Consola::LeerImagen(const std::string& operand) {
   return picture;
 }
 
+void Consola::AdelantarLectura(const std::string& operand, Extent wanted) {
+  // What cannot be read twice waits for the reader that is asked.
+  if (std::error_code ec; !std::filesystem::is_regular_file(operand, ec)) return;
+  adelantada_ = operand;
+  lectura_ = std::async(std::launch::async, [operand, wanted] {
+    Adelanto read;
+    try {
+      read.imagen = ReadJpegReduced(LeerArchivo(operand, kMasBytesDeImagen), [&](Extent source) {
+        read.entera = source;
+        return CabeEnMemoria(source) ? wanted : Extent{};
+      });
+    } catch (const std::exception&) {
+      read.imagen.reset();  // the general reader says what is wrong
+    }
+    return read;
+  });
+}
+
 Picture Consola::LeerImagenReducida(const std::string& operand, Lectura how,
                                     const std::function<Extent(Extent)>& size) {
   const bool stretch = how == Lectura::Estirada;
@@ -89,6 +108,11 @@ Picture Consola::LeerImagenReducida(const std::string& operand, Lectura how,
     const Extent wanted = size(whole.Size());
     return stretch ? Stretch(whole, wanted) : whole;
   }
+  if (!stretch && operand == adelantada_ && lectura_.valid())
+    if (const Adelanto read = lectura_.get(); read.imagen) {
+      size(read.entera);
+      return *read.imagen;
+    }
   std::string warning;
   Picture picture = stretch ? Imagenes().ReadStretched(operand, size, &warning)
                             : Imagenes().ReadReduced(operand, size, &warning);

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <functional>
+#include <future>
 #include <iosfwd>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,6 +38,10 @@ class Consola {
   Picture LeerImagenReducida(const std::string& operand, Lectura how,
                              const std::function<Extent(Extent)>& size);
 
+  // Begins to read a photograph that LeerImagenReducida will be asked for with Lectura::Reducida and a size
+  // that is `wanted` for every picture, while the caller does something else.
+  void AdelantarLectura(const std::string& operand, Extent wanted);
+
   // The bytes of an operand; "-" is standard input. Throws FileError or ErrorDeTrabajo.
   std::string LeerBytes(const std::string& operand);
 
@@ -62,6 +68,12 @@ class Consola {
   Servicios& Arrancar();
   std::unique_ptr<Servicios> servicios_;
   bool hayProgreso_ = false;
+  std::string adelantada_;  // the operand of a reading that has begun
+  struct Adelanto {
+    std::optional<Picture> imagen;
+    Extent entera;  // the whole picture's size
+  };
+  std::future<Adelanto> lectura_;
 };
 
 // Runs `work(operand, file)` for each of the operands that are pictures, the file being DIR/NAME.ending with

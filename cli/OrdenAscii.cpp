@@ -68,6 +68,9 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
 
   const Exportacion output(arguments);
   const int method = MetodoDe(arguments);
+  // A photograph is decoded while the fonts are loaded and measured.
+  if (EsDeFormas(method) && pictures.size() == 1 && arguments.Tiene("--columnas"))
+    consola.AdelantarLectura(pictures[0], PixelesDeFormas(arguments.Entero("--columnas", 0)));
   Programa p = PrepararPrograma(consola, arguments);
   ExigirCaracteres(p);
   if (method == kAntiAlias) CargarPaleta3x2(p);

@@ -40,15 +40,18 @@ bool Generar(Programa& p, int method) {
   return GenerateAscii(p.basAscii, p.ajustes, p.imagen.picMain, method);
 }
 
+Extent PixelesDeFormas(int columns) {
+  return {kMuestrasDeParte * kSubAncho * columns, 1};
+}
+
 void GenerarDe(Programa& p, const LeerReducida& read, int method) {
   Extent text;
   if (EsDeFormas(method)) {
-    // As many pixels as the light of every subcell is made of.
+    PrepararRepertorio(p.basAscii, p.ajustes, p.superficie);
     const Picture picture = read(Lectura::Reducida, [&](Extent source) {
       text = ResizedExtent(p.basAscii, source, method);
-      return Extent{kMuestrasDeParte * kSubAncho * text.width, kMuestrasDeParte * kSubAlto * text.height};
+      return PixelesDeFormas(text.width);
     });
-    PrepararRepertorio(p.basAscii, p.ajustes, p.superficie);
     ConvertirFormas(p.basAscii, p.ajustes, picture, text, method);
     return;
   }

@@ -30,6 +30,10 @@ bool Generar(Programa& p, int method);
 // stretched to it (PictureCodec::ReadStretched) or of that size at least (ReadReduced).
 enum class Lectura { Estirada, Reducida };
 using LeerReducida = std::function<Picture(Lectura how, const std::function<Extent(Extent)>& size)>;
+
+// What EsDeFormas asks `read` for: as many pixels across as the light of every subcell is made of.
+Extent PixelesDeFormas(int columns);
+
 void GenerarDe(Programa& p, const LeerReducida& read, int method);
 
 // The pattern file, which ships with the program. Throws Palette3x2Error.

@@ -25,6 +25,19 @@ namespace {
 
 constexpr std::int64_t kMasPixeles = 400'000'000;
 
+std::int64_t Pixels(Extent size) {
+  return std::int64_t{std::max(0, size.width)} * std::max(0, size.height);
+}
+
+}  // namespace
+
+bool CabeEnMemoria(Extent size) {
+  const std::int64_t memory = std::int64_t{sysconf(_SC_PHYS_PAGES)} * sysconf(_SC_PAGESIZE);
+  return Pixels(size) <= std::min(memory / 4 / 4, kMasPixeles);
+}
+
+namespace {
+
 // The readers that may run inside the program.
 constexpr const char* kDeCasa[] = {"jpeg", "jpg", "gif", "bmp", "pbm", "pgm", "ppm", "xbm", "xpm"};
 
@@ -41,22 +54,12 @@ constexpr const char* kDeCasa[] = {"jpeg", "jpg", "gif", "bmp", "pbm", "pgm", "p
                  " píxeles no caben en la memoria");
 }
 
-std::int64_t Pixels(Extent size) {
-  return std::int64_t{std::max(0, size.width)} * std::max(0, size.height);
-}
-
 Extent Of(QSize size) {
   return {size.width(), size.height()};
 }
 
-// A picture may take a quarter of the machine's memory: the picture, its undo copy and a running effect fit.
-bool FitsMemory(Extent size) {
-  const std::int64_t memory = std::int64_t{sysconf(_SC_PHYS_PAGES)} * sysconf(_SC_PAGESIZE);
-  return Pixels(size) <= std::min(memory / 4 / 4, kMasPixeles);
-}
-
 void CheckSize(const std::string& name, Extent size) {
-  if (!FitsMemory(size)) FailSize(name, size);
+  if (!CabeEnMemoria(size)) FailSize(name, size);
 }
 
 // A reader over bytes that somebody else keeps.
@@ -211,7 +214,7 @@ Picture QtPictureCodec::ReadQuickly(const std::filesystem::path& file, QuickRead
   try {
     if (aviso) aviso->clear();
     const std::string bytes = LeerArchivo(file, kMasBytesDeImagen);
-    const auto bounded = [&](Extent source) { return FitsMemory(source) ? size(source) : Extent{}; };
+    const auto bounded = [&](Extent source) { return CabeEnMemoria(source) ? size(source) : Extent{}; };
     if (std::optional<Picture> picture = quick(bytes, bounded)) return *picture;
     return otherwise(ReadBytes(bytes, file.string(), aviso));
   } catch (const FileError& e) {

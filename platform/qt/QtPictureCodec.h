@@ -10,6 +10,9 @@
 
 namespace pixmosa {
 
+// A picture may take a quarter of the machine's memory: the picture, its undo copy and a running effect fit.
+bool CabeEnMemoria(Extent size);
+
 class QtPictureCodec final : public PictureCodec {
  public:
   // `mientras` is called about every 15 ms while the decoding process works. `decodificador` is its program;

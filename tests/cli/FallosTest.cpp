@@ -52,7 +52,7 @@ TEST_F(FallosTest, OneSentenceEach) {
            {"p tabla --paleta=4", 2, "la opción --paleta espera un número entero de 0 a 3, no \"4\""},
            {"p web --semilla=-1", 2,
             "la opción --semilla espera un número entero de 0 en adelante, no \"-1\""},
-           {"p ascii --metodo=x", 2, "la opción --metodo espera grises, bordes o antialias, no \"x\""},
+           {"p ascii --metodo=x", 2, "la opción --metodo espera grises, bordes, antialias, tono o formas, no \"x\""},
            {"p ascii - -- - --carpeta x", 2, "la entrada estándar (\"-\") solo se puede leer una vez"},
            {"p tabla x", 2, "sobra el operando \"x\""},
            {"p ascii", 2, "falta la imagen"},
