@@ -26,10 +26,10 @@ struct BotonDeConversion {
   const char *nombre, *texto, *ayuda;
 };
 constexpr BotonDeConversion kConversiones[] = {
-    {kGrayscale, "optClasica", "&Clásica", "Cada carácter por el gris de un solo píxel, como siempre"},
+    {kGrayscale, "optClasica", "C&lásica", "Cada carácter por el gris de un solo píxel, como siempre"},
     {kTono, "optTono", "T&ono",
      "Cada carácter por la luz media de su trozo de imagen, con los tonos ajustados"},
-    {kFormas, "optFormas", "Form&as",
+    {kFormas, "optFormas", "Forma&s",
      "Cada carácter por la luz y por la forma de su trozo de imagen: lo más parecido, sobre todo en "
      "fotografías"},
 };
@@ -102,7 +102,7 @@ QWidget* frmOpcAlgoritmo::CrearConversion() {
       "cboCaracteres", {kDeLaPaleta, "bloques", "braille", "cajas"},
       "Los caracteres con los que se dibuja: los de la paleta, un juego Unicode o los que usted escriba, en "
       "cualquier orden (Intro para usarlos)");
-  layout->addLayout(Fila("Carac&teres", cboCaracteres_));
+  layout->addLayout(Fila("Caract&eres", cboCaracteres_));
   lblCaracteres_ = Nota("La conversión clásica dibuja con la paleta: estos caracteres piden Tono o Formas.");
   lblCaracteres_->setObjectName("lblCaracteres");
   layout->addWidget(lblCaracteres_);
@@ -115,7 +115,7 @@ QWidget* frmOpcAlgoritmo::CrearFormas() {
   QVBoxLayout* layout = Columna(mrcFormas_);
   sldContrasteLocal_ = Deslizador("sldContrasteLocal", 0, 100, settings.contrasteLocal,
                                   "Realza los detalles frente a lo que los rodea");
-  layout->addWidget(ConNumero("Contraste &local", sldContrasteLocal_, " %"));
+  layout->addWidget(ConNumero("Contraste local", sldContrasteLocal_, " %"));
   sldNitidez_ = Deslizador("sldNitidez", 0, 100, settings.nitidez,
                            "Cuánto pesa la forma de cada carácter frente a su tono");
   mrcNitidez_ = ConNumero("Nitide&z", sldNitidez_, "");
