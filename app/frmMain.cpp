@@ -15,6 +15,7 @@
 
 #include "app/MarcoDeImagen.h"
 #include "app/MenuDeImagen.h"
+#include "app/Recuerdos.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Intentar.h"
@@ -51,6 +52,7 @@ frmMain::frmMain(Programa& program, const Escritorio& desktop)
   setObjectName("frmMain");
   setWindowTitle("Pixmosa");
   setAcceptDrops(true);
+  p_.ajustes.conversion = ConversionRecordada(desktop_.registro);
   CrearBarraDeEstado();
   CrearMenus();
   CrearBarras();
@@ -165,6 +167,10 @@ void frmMain::CrearPaneles() {
   connect(opciones_, &frmOpcAlgoritmo::ColoresCambiados, this, &frmMain::MostrarColores);
   connect(opciones_, &frmOpcAlgoritmo::BlancoYNegroPedido, imagen_, &MenuDeImagen::PonerEnBlancoYNegro);
   connect(opciones_, &frmOpcAlgoritmo::FotogramasPedidos, this, Con(dialogs, [this] { ElegirFotogramas(); }));
+  connect(opciones_, &frmOpcAlgoritmo::ConversionElegida, this,
+          [this](int method) { RecordarConversion(desktop_.registro, method); });
+  connect(opciones_, &frmOpcAlgoritmo::ComparacionPedida, this, Con(dialogs, [this] { Comparar(); }));
+  connect(opciones_, &frmOpcAlgoritmo::Aviso, this, [this](const QString& sentence) { Decir(sentence); });
   connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::MostrarImagen);
   // The text area keeps the Tab key to itself: it comes last, after the options.
   setTabOrder(previousInFocusChain(), chkAsciiPrev_);

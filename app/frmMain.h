@@ -88,6 +88,8 @@ class frmMain final : public QMainWindow {
   void Regenerar();
   void Caducar(int method);  // the text is made again once the waiting events are handled
   void ShowPreview();
+  void OfrecerFormas(int method);  // once, for a photograph
+  void ElegirConversion(int method);
   void MostrarImagen();
   void MostrarTexto();        // the produced text; the part in view stays in view
   void ActualizarAcciones();  // what has nothing to work on cannot be chosen
@@ -129,6 +131,7 @@ class frmMain final : public QMainWindow {
   void MapaDeCaracteres();
   void MostrarImagenCompleta();
   void AcercaDe();
+  void Comparar();
   void AbrirEditor();
   void MostrarEstadisticas();
   void MostrarSistema();

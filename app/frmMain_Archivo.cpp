@@ -47,9 +47,17 @@ bool frmMain::Guardar() {
   return Intentar(
       desktop_.dialogos,
       [&] {
-        EscribirArchivo(file, TextoGuardado(p_.ajustes.font, txtAscii_->Texto()));
+        const Font& font = p_.ajustes.font;
+        const bool bytes = txtAscii_->CabeEnLaPagina();
+        EscribirArchivo(file, bytes ? TextoGuardado(font, txtAscii_->Texto())
+                                    : TextoGuardadoUtf8(font, txtAscii_->Utf8()));
         txtAscii_->DarPorGuardada();
-        NombrarArchivo("Texto guardado", file);
+        if (bytes) {
+          NombrarArchivo("Texto guardado", file);
+        } else {
+          Decir("Guardado en UTF-8: tiene caracteres que no están en la página de códigos.", "Abrir",
+                [this, file] { AbrirPagina(file); });
+        }
       },
       "Error al guardar");
 }
@@ -57,8 +65,16 @@ bool frmMain::Guardar() {
 void frmMain::CopiarTexto() {
   if (txtAscii_->EstaVacia()) return;
   // What was only typed or drawn by hand was never produced: then the text itself is copied.
-  const std::string& produced = p_.basAscii.ProducedText;
-  desktop_.entorno.CopyText(produced.empty() ? txtAscii_->Texto() : produced);
+  const BasAscii& ascii = p_.basAscii;
+  if (!ascii.ProducedUtf8.empty()) {
+    desktop_.entorno.CopyUtf8(ascii.ProducedUtf8);
+  } else if (!ascii.ProducedText.empty()) {
+    desktop_.entorno.CopyText(ascii.ProducedText);
+  } else if (txtAscii_->CabeEnLaPagina()) {
+    desktop_.entorno.CopyText(txtAscii_->Texto());
+  } else {
+    desktop_.entorno.CopyUtf8(txtAscii_->Utf8());
+  }
   const Font& font = p_.ajustes.font;
   desktop_.dialogos.Inform("Dibujo copiado en el portapapeles.\r\nUsar fuente: " + font.name +
                            ". Tamaño: " + std::to_string(font.points));

@@ -1,14 +1,18 @@
 // Generating the text and showing it.
+#include <QAction>
 #include <QCheckBox>
+#include <QLabel>
 #include <QScrollBar>
 
 #include "app/MarcoDeImagen.h"
 #include "app/MenuDeImagen.h"
 #include "app/Muestra.h"
+#include "app/Recuerdos.h"
 #include "app/frmMain.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "app/frmPreview.h"
 #include "platform/qt/AreaDeTexto.h"
+#include "programa/Fotografia.h"
 #include "programa/Generar.h"
 
 namespace pixmosa {
@@ -19,7 +23,10 @@ void frmMain::Play() {
       if (desktop_.dialogos.Ask("Antes debe cargar una imagen\r\n¿Desea cargarla ahora?")) CargarImagen();
       break;
     case Trabajo::Texto:
-      if (const int method = MetodoDe(p_); QuiereElTexto(method)) Generar(method);
+      if (const int method = MetodoDe(p_); QuiereElTexto(method)) {
+        Generar(method);
+        OfrecerFormas(method);
+      }
       break;
     case Trabajo::AnimArt:
       AnimArtDeGif();
@@ -69,7 +76,7 @@ void frmMain::Caducar(int method) {
 void frmMain::ShowPreview() {
   if (p_.basAscii.ProducedText.empty()) return;
   if (!preview_) preview_ = new frmPreview(this);
-  preview_->Mostrar(p_.basAscii.ProducedText, p_.ajustes.font, p_.fondoTexto, p_.colorTexto);
+  preview_->Mostrar(TextoEnUtf8(p_.basAscii), p_.ajustes.font, p_.fondoTexto, p_.colorTexto);
 }
 
 void frmMain::MostrarImagen() {
@@ -78,8 +85,8 @@ void frmMain::MostrarImagen() {
 }
 
 void frmMain::AvisarSiHaSalidoEnBlanco(int method) {
-  if (method == kGrayscale || EsDeFormas(method) || p_.basAscii.ProducedText.find_first_not_of(" \r\n") != std::string::npos)
-    return;
+  const bool blank = p_.basAscii.ProducedText.find_first_not_of(" \r\n") == std::string::npos;
+  if (method == kGrayscale || EsDeFormas(method) || !blank) return;
   Decir(
       QStringLiteral("El dibujo ha salido en blanco: este modo necesita una imagen en blanco y negro puros."),
       QStringLiteral("Ponerla en blanco y negro"), [this, method] {
@@ -88,10 +95,28 @@ void frmMain::AvisarSiHaSalidoEnBlanco(int method) {
       });
 }
 
+void frmMain::OfrecerFormas(int method) {
+  if (method != kGrayscale || FormasOfrecida(desktop_.registro) || !lblEnlace_->text().isEmpty()) return;
+  if (!EsFotografia(p_.imagen.picMain)) return;
+  RecordarOferta(desktop_.registro);
+  Decir(QStringLiteral("De una fotografía, la conversión Formas hace un dibujo más parecido."),
+        QStringLiteral("Probarla"), [this] {
+          Decir({});
+          ElegirConversion(kFormas);
+        });
+}
+
+void frmMain::ElegirConversion(int method) {
+  if (p_.modo != kModoGrises) findChild<QAction*>(QString::fromUtf8(kModos[kModoGrises]))->trigger();
+  opciones_->ElegirConversion(method);
+  Caducar(method);
+}
+
 void frmMain::ActualizarAcciones() {
   const bool picture = HayImagen(p_), text = !txtAscii_->EstaVacia();
   imagen_->PonerDisponible(picture);
   opciones_->PonerImagenDisponible(picture);
+  acciones_.at("mnuComparar")->setEnabled(picture);
   acciones_.at("mnuGuardar")->setEnabled(text);
   acciones_.at("mnuClipboard")->setEnabled(text);
   acciones_.at("mnuPreviewAsciiArt")->setEnabled(!p_.basAscii.ProducedText.empty());
@@ -101,7 +126,7 @@ void frmMain::MostrarTexto() {
   // The part in view stays in view, so that a dragged slider shows its effect there.
   QScrollBar *across = txtAscii_->horizontalScrollBar(), *down = txtAscii_->verticalScrollBar();
   const int x = across->value(), y = down->value();
-  txtAscii_->PonerTexto(p_.basAscii.ProducedText);
+  txtAscii_->PonerUtf8(TextoEnUtf8(p_.basAscii));
   across->setValue(x);
   down->setValue(y);
 }

@@ -5,6 +5,7 @@
 #include "app/frmImagePreview.h"
 #include "app/frmMain.h"
 #include "app/frmSistema.h"
+#include "conversion/frmComparar.h"
 #include "editor/frmEditor.h"
 #include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Intentar.h"
@@ -35,7 +36,23 @@ void frmMain::AcercaDe() {
   frmAbout(desktop_.entorno, this).exec();
 }
 
+void frmMain::Comparar() {
+  if (!HayImagen(p_)) {
+    desktop_.dialogos.Inform("No hay ninguna imagen cargada.");
+    return;
+  }
+  frmComparar window(p_, desktop_.dialogos, this);
+  connect(&window, &frmComparar::Elegida, this,
+          Con(desktop_.dialogos, [this](int method) { ElegirConversion(method); }));
+  window.exec();
+}
+
 void frmMain::AbrirEditor() {
+  if (!txtAscii_->CabeEnLaPagina() &&
+      !desktop_.dialogos.Ask(
+          "El editor solo admite los caracteres de la página de códigos: los demás se abrirán "
+          "como \"?\".\r\n¿Desea abrir así el dibujo?"))
+    return;
   // A window closed by the user is gone; one that is open asks before it takes another text.
   if (!editor_ || !editor_->isVisible()) {
     delete editor_;
@@ -74,6 +91,8 @@ bool frmMain::PuedePerderseElTexto() {
 }
 
 void frmMain::MostrarEstadisticas() {
+  if (!txtAscii_->CabeEnLaPagina())
+    Decir("Las estadísticas cuentan como \"?\" los caracteres que no están en la página de códigos.");
   frmEstadisticas(txtAscii_->Texto(), desktop_.entorno, this).exec();
 }
 

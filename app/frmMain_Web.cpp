@@ -123,7 +123,7 @@ bool frmMain::SeguirAnimacion(std::size_t k, std::size_t frames) {
   const bool last = k + 1 == frames;
   if (last || !desdeElTexto_.isValid() || desdeElTexto_.elapsed() > kMilisegundosEntreTextos) {
     MostrarImagen();
-    txtAscii_->PonerTexto(p_.basAscii.ProducedText);
+    txtAscii_->PonerUtf8(TextoEnUtf8(p_.basAscii));
     desdeElTexto_.start();
   }
   if (last && p_.vistaPrevia && !p_.animArt) ShowPreview();

@@ -57,6 +57,8 @@ frmOpcAlgoritmo::frmOpcAlgoritmo(Programa& program, Dialogs& dialogs, QWidget* p
   MostrarAnimArt();
   Conectar();
   ConectarWeb();
+  ConectarConversion();
+  MostrarConversion();
   MostrarPaneles();
 }
 
@@ -64,8 +66,10 @@ void frmOpcAlgoritmo::Conectar() {
   connect(cboPaletas_, &QComboBox::currentIndexChanged, this,
           Con(dialogs_, [this](int palette) { PonerPaleta(program_, palette); }));
   // Choosing the item that is chosen already counts as well: it brings the grayscale text back.
-  connect(cboPaletas_, &QComboBox::currentIndexChanged, this, [this] { emit TextoCaducado(program_.ajustes.conversion); });
-  connect(cboPaletas_, &QComboBox::activated, this, [this] { emit TextoCaducado(program_.ajustes.conversion); });
+  connect(cboPaletas_, &QComboBox::currentIndexChanged, this,
+          [this] { emit TextoCaducado(program_.ajustes.conversion); });
+  connect(cboPaletas_, &QComboBox::activated, this,
+          [this] { emit TextoCaducado(program_.ajustes.conversion); });
   connect(chkAsciiNegativo_, &QCheckBox::toggled, this, Con(dialogs_, [this](bool negative) {
             PonerNegativo(program_, negative);
             emit TextoCaducado(program_.ajustes.conversion);
@@ -156,6 +160,7 @@ bool frmOpcAlgoritmo::eventFilter(QObject* watched, QEvent* event) {
 
 void frmOpcAlgoritmo::PonerImagenDisponible(bool available) {
   cmdBN_->setEnabled(available);
+  cmdComparar_->setEnabled(available);
 }
 
 void frmOpcAlgoritmo::MostrarAnimArt() {

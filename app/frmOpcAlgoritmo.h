@@ -7,6 +7,7 @@
 #include "programa/Programa.h"
 
 class QAbstractButton;
+class QButtonGroup;
 class QCheckBox;
 class QComboBox;
 class QFrame;
@@ -36,12 +37,18 @@ class frmOpcAlgoritmo final : public QWidget {
   // There is a working picture, or none: what works on it can be chosen, or not.
   void PonerImagenDisponible(bool available);
 
+  // Presses the button of a conversion of the grayscale mode: kGrayscale, kTono or kFormas.
+  void ElegirConversion(int method);
+
  signals:
   void TextoCaducado(int method);  // the text has to be made again by this method
   void LetrerosVisibles(bool shown);
   void ColoresCambiados();
   void BlancoYNegroPedido();
   void FotogramasPedidos();
+  void ConversionElegida(int method);  // by the user or by ElegirConversion
+  void ComparacionPedida();
+  void Aviso(const QString& sentence);  // what is wrong with what was typed
 
  protected:
   // A click on the caption of "Generar AnimArt del GIF" ticks its box.
@@ -54,6 +61,15 @@ class frmOpcAlgoritmo final : public QWidget {
   QWidget* CrearAnimArt();
   void CrearTamaño(QVBoxLayout* layout);
   void CrearBordesWeb(QVBoxLayout* layout);
+
+  // --- frmOpcAlgoritmo_Conversion.cpp: the grayscale mode's conversions and what goes with them ---
+  QWidget* CrearConversion();
+  QWidget* CrearFormas();
+  QComboBox* CrearProporcion();
+  void ConectarConversion();
+  void MostrarConversion();  // the controls that apply to the chosen one
+  void CaracteresEscritos();
+  void ProporcionEscrita();
 
   // --- frmOpcAlgoritmo.cpp: how it reacts ---
   void Conectar();
@@ -69,6 +85,16 @@ class frmOpcAlgoritmo final : public QWidget {
   QWidget* mrcweb_[2];
   QComboBox* cboPaletas_;
   QCheckBox* chkAsciiNegativo_;
+  QButtonGroup* conversion_;  // ids are the methods
+  QPushButton* cmdComparar_;
+  QWidget* mrcFormas_;
+  QWidget* mrcNitidez_;
+  QSlider* sldContrasteLocal_;
+  QSlider* sldNitidez_;
+  QCheckBox* chkAjustarTono_;
+  QComboBox* cboCaracteres_;
+  QLabel* lblCaracteres_;
+  QComboBox* cboProporcion_;
   QSlider* sldLuminosidad_;
   QAbstractButton* label1_;
   QSlider* sldTamaño_;

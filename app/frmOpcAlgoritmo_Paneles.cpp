@@ -10,11 +10,11 @@
 #include <QSlider>
 #include <QToolBar>
 #include <QToolButton>
-#include <QToolTip>
 #include <QVBoxLayout>
 
 #include "app/IconosDePanel.h"
 #include "app/Muestra.h"
+#include "app/PiezasDePanel.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "platform/qt/Menus.h"
 #include "platform/qt/Named.h"
@@ -22,56 +22,6 @@
 
 namespace pixmosa {
 namespace {
-
-QVBoxLayout* Columna(QWidget* widget) {
-  auto* layout = new QVBoxLayout(widget);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(5);
-  return layout;
-}
-
-// A label that can be clicked, also by keyboard.
-QToolButton* Etiqueta(const char* name, const char* text, const char* help) {
-  auto* button = named<QToolButton>(name);
-  button->setText(QString::fromUtf8(text));
-  button->setToolTip(QString::fromUtf8(help));
-  button->setAutoRaise(true);
-  button->setFocusPolicy(Qt::TabFocus);
-  return button;
-}
-
-QSlider* Deslizador(const char* name, int minimum, int maximum, int value, const char* help) {
-  auto* slider = named<QSlider>(name, Qt::Horizontal);
-  slider->setRange(minimum, maximum);
-  slider->setValue(value);
-  slider->setToolTip(QString::fromUtf8(help));
-  QObject::connect(slider, &QSlider::sliderMoved, slider,
-                   [](int v) { QToolTip::showText(QCursor::pos(), QString::number(v)); });
-  return slider;
-}
-
-QLabel* Nota(const char* text) {
-  auto* label = new QLabel(QString::fromUtf8(text));
-  label->setWordWrap(true);
-  return label;
-}
-
-// A label whose access key reaches its control.
-QLabel* Titulo(const char* text, QWidget* control) {
-  auto* label = new QLabel(QString::fromUtf8(text));
-  // The underlined letter makes the text a little wider than it is measured.
-  label->setMinimumWidth(label->sizeHint().width() + 3);
-  label->setBuddy(control);
-  return label;
-}
-
-// A label and its control in one row.
-QHBoxLayout* Fila(const char* text, QWidget* control) {
-  auto* row = new QHBoxLayout;
-  row->addWidget(Titulo(text, control));
-  row->addWidget(control, 1);
-  return row;
-}
 
 struct BotonDeBarra {
   const char* clave;
@@ -112,6 +62,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
 
   mrcAscii_[0] = named<QWidget>("mrcAscii(0)");
   QVBoxLayout* gray = Columna(mrcAscii_[0]);
+  gray->addWidget(CrearConversion());
   sldLuminosidad_ = Deslizador("sldLuminosidad", -100, 100, 0, "Aclara u oscurece el dibujo");
   sldLuminosidad_->setAccessibleName(QStringLiteral("Luminosidad"));
   label1_ = Etiqueta("Label1", "Luminosidad", "Vuelve a poner la luminosidad en 0");
@@ -145,6 +96,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
   colours->addWidget(new QLabel(QStringLiteral("Texto")));
   colours->addWidget(lblAsciiForeColor_);
   layout->addLayout(colours);
+  layout->addLayout(Fila("P&roporción", CrearProporcion()));
   for (QWidget* frame : mrcAscii_) layout->addWidget(frame);
   cmdBN_ = named<QPushButton>("cmdBN", QStringLiteral("&Blanco y negro"));
   cmdBN_->setToolTip(

@@ -20,10 +20,10 @@ frmPreview::frmPreview(QWidget* parent) : QDialog(parent, Qt::Window) {
   resize(screen()->availableSize() * 9 / 10);
 }
 
-void frmPreview::Mostrar(std::string_view text, const Font& font, Colour background, Colour ink) {
+void frmPreview::Mostrar(std::string_view utf8, const Font& font, Colour background, Colour ink) {
   txtAscii_->PonerColores(QColorOf(background), QColorOf(ink));
   txtAscii_->PonerFuente(font);
-  txtAscii_->PonerTexto(text);
+  txtAscii_->PonerUtf8(utf8);
   show();
   raise();
   activateWindow();

@@ -18,8 +18,8 @@ class frmPreview final : public QDialog {
  public:
   explicit frmPreview(QWidget* parent);
 
-  // Shows the window with a text of the 8-bit code page.
-  void Mostrar(std::string_view text, const Font& font, Colour background, Colour ink);
+  // Shows the window with a text, UTF-8.
+  void Mostrar(std::string_view utf8, const Font& font, Colour background, Colour ink);
 
  private:
   AreaDeTexto* txtAscii_;

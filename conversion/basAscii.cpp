@@ -32,8 +32,8 @@ std::vector<int> CountColour(const Picture& cells, int count, Colour colour) {
 
 void RebuildCharacterTables(BasAscii& ascii, const AsciiSettings& settings, TextSurface& surface) {
   ascii.Elegidos.clear();
-  for (const char32_t c : settings.caracteres)
-    if (const auto code = ByteOfUnicode(c)) ascii.Elegidos += static_cast<char>(*code);
+  if (TodosEnLaPagina(settings.caracteres))
+    for (const char32_t c : settings.caracteres) ascii.Elegidos += static_cast<char>(*ByteOfUnicode(c));
   const CharacterPalette& palette = kPalettes.at(ascii.Elegidos.empty() ? settings.palette : 0);
   ascii.PaletteFirst = palette.first;
   ascii.PaletteLast = palette.last;

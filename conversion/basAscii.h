@@ -62,7 +62,8 @@ struct BasAscii {
   std::string ProducedUtf8;  // the same where it has characters that the code page lacks; else empty
 };
 
-// Sets the palette range from settings.palette, clears the tables, measures and builds the lookup.
+// Sets the palette range from settings.palette, or the codes of settings.caracteres where the code page has
+// all of them, clears the tables, measures and builds the lookup.
 void RebuildCharacterTables(BasAscii& ascii, const AsciiSettings& settings, TextSurface& surface);
 
 // Measures the characters for kTono and kFormas, unless that has been done since the last change.

@@ -15,6 +15,8 @@ class Shell {
   virtual bool StartCharacterMap() = 0;
   // Puts plain text (8-bit code page) on the clipboard in place of what is there.
   virtual void CopyText(std::string_view text) = 0;
+  // The same of UTF-8, for a text with characters that the code page lacks.
+  virtual void CopyUtf8(std::string_view utf8) = 0;
 };
 
 }  // namespace pixmosa

@@ -44,4 +44,29 @@ void PonerLuminosidad(Programa& p, int luminosity) {
   p.ajustes.luminosity = luminosity;
 }
 
+void PonerConversion(Programa& p, int method) {
+  p.ajustes.conversion = method;
+}
+
+void PonerCaracteres(Programa& p, std::string_view utf8) {
+  p.ajustes.caracteres = JuegoDeCaracteres(utf8);
+  RebuildCharacterTables(p.basAscii, p.ajustes, p.superficie);
+}
+
+void PonerContrasteLocal(Programa& p, int percent) {
+  p.ajustes.formas.contrasteLocal = percent;
+}
+
+void PonerNitidez(Programa& p, int sharpness) {
+  p.ajustes.formas.nitidez = sharpness;
+}
+
+void PonerAjusteDeTono(Programa& p, bool adjust) {
+  p.ajustes.formas.ajustarTono = adjust;
+}
+
+void PonerProporcion(Programa& p, double proportion) {
+  p.basAscii.Proporcion = proportion;
+}
+
 }  // namespace pixmosa

@@ -2,6 +2,8 @@
 // produced text is stale after every one of them but PonerColumnas' callers decide when to generate again.
 #pragma once
 
+#include <string_view>
+
 #include "programa/Programa.h"
 
 namespace pixmosa {
@@ -24,5 +26,21 @@ void PonerTamaño(Programa& p, int percent);
 
 // Nothing measured.
 void PonerLuminosidad(Programa& p, int luminosity);
+
+// What the grayscale mode runs: kGrayscale, kTono or kFormas. Nothing measured: their characters are when
+// they are first needed.
+void PonerConversion(Programa& p, int method);
+
+// The characters to choose from, as JuegoDeCaracteres reads them; the palette's where it finds none. Both
+// tables, from nothing.
+void PonerCaracteres(Programa& p, std::string_view utf8);
+
+// Of kTono and kFormas, 0..100. Nothing measured.
+void PonerContrasteLocal(Programa& p, int percent);
+void PonerNitidez(Programa& p, int sharpness);
+void PonerAjusteDeTono(Programa& p, bool adjust);
+
+// Height by width of the reader's cell; 0 for the font's own. Nothing measured.
+void PonerProporcion(Programa& p, double proportion);
 
 }  // namespace pixmosa

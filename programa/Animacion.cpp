@@ -39,6 +39,20 @@ std::string PonerFotograma(Programa& p, const Serie& frames, std::size_t k) {
   return failure;
 }
 
+// The text in the code page, where what that lacks stands as a character reference of the page.
+std::string ConReferencias(std::string_view utf8) {
+  std::string bytes;
+  while (!utf8.empty()) {
+    const char32_t c = NextUtf8(utf8);
+    if (const auto code = ByteOfUnicode(c)) {
+      bytes += static_cast<char>(*code);
+    } else {
+      bytes += "&#" + std::to_string(static_cast<std::uint32_t>(c)) + ";";
+    }
+  }
+  return bytes;
+}
+
 }  // namespace
 
 std::string Exceso(const Serie& frames) {
@@ -88,11 +102,13 @@ Serie SerieDeOrigen(Programa& p, const std::shared_ptr<OrigenGif>& gif, const st
 bool EscribirAnimacion(Programa& p, const Serie& frames, const std::filesystem::path& file,
                        const Seguir& seguir) {
   try {
+    std::string withReferences;
     EscribirAnimArt(file, frames.cuantos, BytesOfUtf8(p.ajustes.font.name),
                     [&](std::size_t k) -> std::string& {
                       const std::string failure = PonerFotograma(p, frames, k);
                       if (!seguir(k, failure)) throw Cancelada();
-                      return p.basAscii.ProducedText;
+                      if (p.basAscii.ProducedUtf8.empty()) return p.basAscii.ProducedText;
+                      return withReferences = ConReferencias(p.basAscii.ProducedUtf8);
                     });
   } catch (const Cancelada&) {
     return false;

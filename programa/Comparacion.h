@@ -18,4 +18,16 @@ struct Resultado {
 // there, on the grid of the text that a method would make of it. Throws TextoExcesivo.
 Semejanza Puntuar(const Programa& p, std::string_view utf8);
 
+// The text that a method makes of the working picture, UTF-8; the produced text stays as it is. Throws
+// TextoExcesivo.
+std::string TextoDe(Programa& p, int method);
+
+// The most pixels of a drawn text.
+inline constexpr double kMasPixelesDeDibujo = 60e6;
+
+// A text (UTF-8) drawn smooth with the program's font, black on white, with the negative option white on
+// black: as many cells as the text of the working picture has. Nothing where that is more than
+// kMasPixelesDeDibujo.
+Picture Dibujar(const Programa& p, std::string_view utf8);
+
 }  // namespace pixmosa

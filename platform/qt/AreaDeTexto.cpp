@@ -10,63 +10,56 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPainter>
-#include <QSyntaxHighlighter>
 #include <QTextBlock>
 
+#include "platform/qt/FormatoDeCeldas.h"
 #include "platform/qt/QtFont.h"
 #include "platform/qt/QtText.h"
 
 namespace pixmosa {
 namespace {
 
-constexpr char16_t kStandIns = 0xE000;  // U+E000 + code, for codes that text layout would not show
-constexpr char16_t kHyphen = 0x2010;    // for the soft hyphen
+constexpr char32_t kGuionOpcional = 0xAD;
 constexpr char16_t kParagraph = 0x2029, kLine = 0x2028;
 
-bool IsStandIn(char16_t c) {
-  return c >= kStandIns && c < kStandIns + 256;
+// Text layout would give them no width.
+bool EsControl(char32_t c) {
+  return (c < 32 && c != U'\t') || (c >= 127 && c < 160);
 }
 
-// The document's character for a code that is not part of a CR LF.
-char16_t Held(unsigned char code) {
-  if (code == 0xAD) return kHyphen;
-  const auto c = static_cast<char16_t>(UnicodeOfByte(code));
-  const bool control = c < 32 || (c >= 127 && c < 160);
-  return control && code != '\t' ? static_cast<char16_t>(kStandIns + code) : c;
+// What the document holds for a character that is not part of a CR LF; for a control of the code page its
+// stand-in.
+char32_t Held(char32_t c) {
+  if (c == kGuionOpcional) return kGuion;
+  const auto code = EsControl(c) ? ByteOfUnicode(c) : std::nullopt;
+  return code ? kSuplentes + *code : c;
 }
 
-std::string BytesOfHeld(const QString& held) {
-  std::string bytes;
-  bytes.reserve(static_cast<std::size_t>(held.size()));
+std::string Utf8OfHeld(const QString& held) {
+  std::string utf8;
+  utf8.reserve(static_cast<std::size_t>(held.size()));
   for (qsizetype i = 0; i < held.size(); ++i) {
     const char16_t c = held[i].unicode();
     if (c == kParagraph || c == kLine) {
-      bytes += "\r\n";
-    } else if (IsStandIn(c)) {
-      bytes += static_cast<char>(c - kStandIns);
-    } else if (c == kHyphen) {
-      bytes += '\xAD';
+      utf8 += "\r\n";
+    } else if (EsSuplente(c)) {
+      AppendUtf8(utf8, UnicodeOfByte(static_cast<unsigned char>(c - kSuplentes)));
+    } else if (c == kGuion) {
+      AppendUtf8(utf8, kGuionOpcional);
+    } else if (held[i].isHighSurrogate() && i + 1 < held.size() && held[i + 1].isLowSurrogate()) {
+      AppendUtf8(utf8, QChar::surrogateToUcs4(held[i], held[i + 1]));
+      ++i;
     } else {
-      if (held[i].isHighSurrogate() && i + 1 < held.size() && held[i + 1].isLowSurrogate()) ++i;
-      bytes += static_cast<char>(ByteOfUnicode(c).value_or('?'));
+      AppendUtf8(utf8, held[i].isSurrogate() ? U'?' : c);
     }
   }
-  return bytes;
+  return utf8;
 }
 
-// Draws the stand-ins in no colour, so that they leave a blank cell.
-class Blanqueador final : public QSyntaxHighlighter {
- public:
-  using QSyntaxHighlighter::QSyntaxHighlighter;
-
- protected:
-  void highlightBlock(const QString& text) override {
-    QTextCharFormat clear;
-    clear.setForeground(Qt::transparent);
-    for (int i = 0; i < text.size(); ++i)
-      if (IsStandIn(text[i].unicode())) setFormat(i, 1, clear);
-  }
-};
+template <typename Is>
+bool Alguno(const QString& held, Is is) {
+  return std::any_of(held.begin(), held.end(), [&](QChar c) { return is(c.unicode()); });
+}
 
 }  // namespace
 
@@ -76,56 +69,61 @@ AreaDeTexto::AreaDeTexto(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
   setFrameShape(NoFrame);
   document()->setDocumentMargin(2);
+  connect(document(), &QTextDocument::contentsChange, this,
+          [this](int position, int, int added) { CuidarCeldas(position, added); });
 }
 
 AreaDeTexto::~AreaDeTexto() = default;
 
 void AreaDeTexto::PonerTexto(std::string_view bytes) {
+  PonerUtf8(Utf8OfBytes(bytes));
+}
+
+void AreaDeTexto::PonerUtf8(std::string_view utf8) {
   const bool edited = EditadaAMano();
-  if (edited) editada_ = Texto();
-  puesta_ = bytes;
-  Mostrar(bytes);
+  if (edited) editada_ = Utf8();
+  puesta_ = utf8;
+  Mostrar(utf8);
   if (edited) emit TextoSustituido();
 }
 
 void AreaDeTexto::RecibirTexto(std::string_view bytes) {
-  editada_ = Texto();
-  Mostrar(bytes);
+  editada_ = Utf8();
+  Mostrar(Utf8OfBytes(bytes));
   document()->setModified(true);
 }
 
-void AreaDeTexto::Mostrar(std::string_view bytes) {
-  QString held(static_cast<qsizetype>(bytes.size()), Qt::Uninitialized);
-  QChar* to = held.data();
-  bool standIns = false;
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    if (bytes[i] == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n') {
-      *to++ = QChar(u'\n');
-      ++i;
-      continue;
+void AreaDeTexto::Mostrar(std::string_view utf8) {
+  QString held;
+  held.reserve(static_cast<qsizetype>(utf8.size()));
+  while (!utf8.empty()) {
+    const char32_t c = NextUtf8(utf8);
+    const bool lineEnd = c == U'\r' && utf8.starts_with('\n');
+    if (lineEnd) utf8.remove_prefix(1);
+    const char32_t shown = lineEnd ? U'\n' : Held(c);
+    if (QChar::requiresSurrogates(shown)) {
+      held += QChar(QChar::highSurrogate(shown));
+      held += QChar(QChar::lowSurrogate(shown));
+    } else {
+      held += QChar(static_cast<char16_t>(shown));
     }
-    const char16_t c = Held(static_cast<unsigned char>(bytes[i]));
-    standIns |= IsStandIn(c);
-    *to++ = QChar(c);
   }
-  held.truncate(to - held.constData());
-  blanqueador_.reset();
+  celdas_.reset();
   setPlainText(held);
-  if (standIns) blanqueador_ = std::make_unique<Blanqueador>(document());
   AjustarAlineacion();
 }
 
 bool AreaDeTexto::EditadaAMano() const {
   // An empty document counts as changed once it has got its font.
-  return document()->isModified() && Texto() != puesta_;
+  return document()->isModified() && Utf8() != puesta_;
 }
 
 bool AreaDeTexto::SinGuardar() const {
-  return EditadaAMano() && Texto() != guardada_;
+  return EditadaAMano() && Utf8() != guardada_;
 }
 
 void AreaDeTexto::DarPorGuardada() {
-  guardada_ = Texto();
+  guardada_ = Utf8();
 }
 
 bool AreaDeTexto::PuedeDeshacer() const {
@@ -148,13 +146,32 @@ void AreaDeTexto::PonerPista(const QString& hint) {
 }
 
 std::string AreaDeTexto::Texto() const {
-  return BytesOfHeld(document()->toRawText());
+  return BytesOfUtf8(Utf8());
+}
+
+std::string AreaDeTexto::Utf8() const {
+  return Utf8OfHeld(document()->toRawText());
+}
+
+bool AreaDeTexto::CabeEnLaPagina() const {
+  return !Alguno(document()->toRawText(), EsAjeno);
+}
+
+void AreaDeTexto::CuidarCeldas(int position, int added) {
+  if (celdas_ || added == 0) return;
+  QTextCursor range(document());
+  range.setPosition(position);
+  // What Qt counts as added may include the document's own last line end.
+  range.setPosition(std::min(position + added, document()->characterCount() - 1), QTextCursor::KeepAnchor);
+  if (Alguno(range.selectedText(), [](char16_t c) { return EsSuplente(c) || EsAjeno(c); }))
+    celdas_ = std::make_unique<FormatoDeCeldas>(document());
 }
 
 void AreaDeTexto::PonerFuente(const Font& font) {
   const QFont f = QtFontOf(font);
   setFont(f);
   document()->setDefaultFont(f);
+  if (celdas_) celdas_->Medir();
   // Getting a font counts as an edit of an empty document.
   if (document()->isEmpty()) document()->clearUndoRedoStacks();
 }
@@ -221,7 +238,7 @@ void AreaDeTexto::contextMenuEvent(QContextMenuEvent* event) {
 
 QMimeData* AreaDeTexto::createMimeDataFromSelection() const {
   auto* copied = new QMimeData;
-  copied->setText(QStringOfBytes(BytesOfHeld(textCursor().selectedText())));
+  copied->setText(Q(Utf8OfHeld(textCursor().selectedText())));
   return copied;
 }
 

@@ -1,5 +1,5 @@
-// A text area for character art: it shows 8-bit text in a fixed-pitch font and gives back every byte it was
-// given.
+// A text area for character art: it shows text in a fixed-pitch font and gives back every byte of the 8-bit
+// code page, and every other character, that it was given.
 #pragma once
 
 #include <memory>
@@ -11,13 +11,15 @@
 
 #include "platform/Font.h"
 
-class QSyntaxHighlighter;
-
 namespace pixmosa {
+
+class FormatoDeCeldas;
 
 // A line break of the document is CR LF; a CR or LF on its own, the other control codes and the soft hyphen
 // are held as characters of the private use area (shown as a blank of one cell, the soft hyphen as a hyphen),
-// because text layout would give them no width and the columns would no longer stand below one another.
+// because text layout would give them no width and the columns would no longer stand below one another. So a
+// hyphen U+2010 of the user's reads as a soft hyphen. Characters that the font lacks are lent by another
+// family and take the width of a cell.
 class AreaDeTexto : public QPlainTextEdit {
   Q_OBJECT
 
@@ -29,13 +31,22 @@ class AreaDeTexto : public QPlainTextEdit {
   // was edited by hand is kept, and Undo brings it back.
   void PonerTexto(std::string_view bytes);
 
-  // The same for a text that the user drew elsewhere: it counts as edited by hand, and Undo brings back what
-  // stood here before.
+  // The same of UTF-8.
+  void PonerUtf8(std::string_view utf8);
+
+  // The same as PonerTexto for a text that the user drew elsewhere: it counts as edited by hand, and Undo
+  // brings back what stood here before.
   void RecibirTexto(std::string_view bytes);
 
-  // The whole text with every code and line break as it was given; characters typed or pasted that the code
-  // page lacks read as "?".
+  // The whole text with every code and line break as it was given; characters that the code page lacks read
+  // as "?".
   std::string Texto() const;
+
+  // The same as UTF-8, with all its characters.
+  std::string Utf8() const;
+
+  // Texto() says all.
+  bool CabeEnLaPagina() const;
 
   bool EstaVacia() const { return document()->isEmpty(); }
 
@@ -69,13 +80,14 @@ class AreaDeTexto : public QPlainTextEdit {
 
  private:
   bool EditadaAMano() const;
-  void Mostrar(std::string_view bytes);
+  void Mostrar(std::string_view utf8);
+  void CuidarCeldas(int position, int added);
   void AjustarAlineacion();
 
-  std::unique_ptr<QSyntaxHighlighter> blanqueador_;
-  std::string puesta_;                  // the text that was put last
-  std::string guardada_;                // the text that was saved last
-  std::optional<std::string> editada_;  // a text that gave way to another
+  std::unique_ptr<FormatoDeCeldas> celdas_;  // where there are characters that need it
+  std::string puesta_;                       // the text that was put last, UTF-8 as those below
+  std::string guardada_;                     // the text that was saved last
+  std::optional<std::string> editada_;       // a text that gave way to another
   QString pista_;
   Qt::Alignment alineacion_ = Qt::AlignLeft;
 };

@@ -32,4 +32,8 @@ void QtShell::CopyText(std::string_view text) {
   QGuiApplication::clipboard()->setText(QStringOfBytes(text));
 }
 
+void QtShell::CopyUtf8(std::string_view utf8) {
+  QGuiApplication::clipboard()->setText(Q(utf8));
+}
+
 }  // namespace pixmosa

@@ -10,6 +10,7 @@ class QtShell final : public Shell {
   bool Open(const std::string& fileOrLink) override;
   bool StartCharacterMap() override;
   void CopyText(std::string_view text) override;
+  void CopyUtf8(std::string_view utf8) override;
 };
 
 }  // namespace pixmosa

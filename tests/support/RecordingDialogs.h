@@ -74,7 +74,7 @@ class RecordingDialogs final : public Dialogs {
 class RecordingShell final : public Shell {
  public:
   std::vector<std::string> log;
-  std::string clipboard;  // 8-bit code page
+  std::string clipboard;  // as it was given
   bool found = true;      // what Open and StartCharacterMap answer
 
   bool Open(const std::string& fileOrLink) override { return Log("Open|" + fileOrLink); }
@@ -82,6 +82,10 @@ class RecordingShell final : public Shell {
   void CopyText(std::string_view text) override {
     Log("CopyText");
     clipboard = text;
+  }
+  void CopyUtf8(std::string_view utf8) override {
+    Log("CopyUtf8");
+    clipboard = utf8;
   }
 
  private:

@@ -1,0 +1,219 @@
+// The conversions of the grayscale mode: which one, their settings and the characters they choose from.
+#include <algorithm>
+#include <array>
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+#include "app/PiezasDePanel.h"
+#include "app/frmOpcAlgoritmo.h"
+#include "platform/qt/Intentar.h"
+#include "programa/Ajustes.h"
+#include "programa/Generar.h"
+
+namespace pixmosa {
+namespace {
+
+struct BotonDeConversion {
+  int metodo;
+  const char *nombre, *texto, *ayuda;
+};
+constexpr BotonDeConversion kConversiones[] = {
+    {kGrayscale, "optClasica", "C&lásica", "Cada carácter por el gris de un solo píxel, como siempre"},
+    {kTono, "optTono", "T&ono",
+     "Cada carácter por la luz media de su trozo de imagen, con los tonos ajustados"},
+    {kFormas, "optFormas", "Forma&s",
+     "Cada carácter por la luz y por la forma de su trozo de imagen: lo más parecido, sobre todo en "
+     "fotografías"},
+};
+
+struct Aspecto {
+  const char* nombre;
+  double valor;  // height by width; 0: the font's own
+};
+// Of a page: the usual fixed-pitch fonts of browsers at 13 pixels, lines of 15 and characters of 7.8 pixels.
+constexpr std::array<Aspecto, 3> kProporciones = {{{"la de la fuente", 0}, {"terminal", 2}, {"web", 1.92}}};
+constexpr double kMenorProporcion = 0.1, kMayorProporcion = 10;
+
+constexpr char kDeLaPaleta[] = "los de la paleta";
+
+// A list that can also be typed into; nothing typed is added to it or completed.
+QComboBox* ListaEscribible(const char* name, const QStringList& items, const char* help) {
+  auto* list = named<QComboBox>(name);
+  list->setEditable(true);
+  list->setInsertPolicy(QComboBox::NoInsert);
+  list->setCompleter(nullptr);
+  list->addItems(items);
+  list->setMinimumContentsLength(10);
+  list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  list->setToolTip(QString::fromUtf8(help));
+  return list;
+}
+
+// A slider with its number beside it.
+QWidget* ConNumero(const char* title, QSlider* slider, const char* suffix) {
+  auto* number = new QLabel;
+  const QString after = QString::fromUtf8(suffix);
+  const auto show = [number, after](int value) { number->setText(QString::number(value) + after); };
+  number->setObjectName("lbl" + slider->objectName().mid(3));
+  number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  number->setMinimumWidth(number->fontMetrics().horizontalAdvance("100" + after));
+  QObject::connect(slider, &QSlider::valueChanged, number, show);
+  show(slider->value());
+  auto* widget = new QWidget;
+  auto* row = Fila(title, slider);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(number);
+  widget->setLayout(row);
+  return widget;
+}
+
+}  // namespace
+
+QWidget* frmOpcAlgoritmo::CrearConversion() {
+  auto* box = named<QGroupBox>("mrcConversion", QStringLiteral("Conversión"));
+  auto* layout = new QVBoxLayout(box);
+  layout->setContentsMargins(6, 4, 6, 6);
+  layout->setSpacing(5);
+  conversion_ = new QButtonGroup(box);
+  auto* choice = new QHBoxLayout;
+  for (const BotonDeConversion& b : kConversiones) {
+    auto* button = named<QRadioButton>(b.nombre, QString::fromUtf8(b.texto));
+    button->setToolTip(QString::fromUtf8(b.ayuda));
+    button->setChecked(b.metodo == program_.ajustes.conversion);
+    conversion_->addButton(button, b.metodo);
+    choice->addWidget(button);
+  }
+  cmdComparar_ = named<QPushButton>("cmdComparar", QStringLiteral("Comparar..."));
+  cmdComparar_->setToolTip(QStringLiteral("Muestra la imagen junto a lo que hacen de ella dos conversiones"));
+  choice->addStretch(1);
+  choice->addWidget(cmdComparar_);
+  layout->addLayout(choice);
+
+  layout->addWidget(CrearFormas());
+  cboCaracteres_ = ListaEscribible(
+      "cboCaracteres", {kDeLaPaleta, "bloques", "braille", "cajas"},
+      "Los caracteres con los que se dibuja: los de la paleta, un juego Unicode o los que usted escriba, en "
+      "cualquier orden (Intro para usarlos)");
+  layout->addLayout(Fila("Caract&eres", cboCaracteres_));
+  lblCaracteres_ = Nota("La conversión clásica dibuja con la paleta: estos caracteres piden Tono o Formas.");
+  lblCaracteres_->setObjectName("lblCaracteres");
+  layout->addWidget(lblCaracteres_);
+  return box;
+}
+
+QWidget* frmOpcAlgoritmo::CrearFormas() {
+  const AjustesDeFormas& settings = program_.ajustes.formas;
+  mrcFormas_ = named<QWidget>("mrcFormas");
+  QVBoxLayout* layout = Columna(mrcFormas_);
+  sldContrasteLocal_ = Deslizador("sldContrasteLocal", 0, 100, settings.contrasteLocal,
+                                  "Realza los detalles frente a lo que los rodea");
+  layout->addWidget(ConNumero("Contraste local", sldContrasteLocal_, " %"));
+  sldNitidez_ = Deslizador("sldNitidez", 0, 100, settings.nitidez,
+                           "Cuánto pesa la forma de cada carácter frente a su tono");
+  mrcNitidez_ = ConNumero("Nitide&z", sldNitidez_, "");
+  mrcNitidez_->setObjectName("mrcNitidez");
+  layout->addWidget(mrcNitidez_);
+  chkAjustarTono_ = named<QCheckBox>("chkAjustarTono", QStringLiteral("A&justar el tono"));
+  chkAjustarTono_->setToolTip(
+      QStringLiteral("Estira los tonos de la imagen hasta el más claro y el más oscuro de la fuente"));
+  chkAjustarTono_->setChecked(settings.ajustarTono);
+  layout->addWidget(chkAjustarTono_);
+  return mrcFormas_;
+}
+
+QComboBox* frmOpcAlgoritmo::CrearProporcion() {
+  QStringList items;
+  for (const Aspecto& a : kProporciones) items += QString::fromUtf8(a.nombre);
+  cboProporcion_ =
+      ListaEscribible("cboProporcion", items,
+                      "Alto entre ancho del carácter donde se leerá el texto: la de la fuente, un "
+                      "terminal (2), una página web (1,92) o un número");
+  return cboProporcion_;
+}
+
+void frmOpcAlgoritmo::ConectarConversion() {
+  connect(conversion_, &QButtonGroup::idToggled, this, Con(dialogs_, [this](int method, bool pressed) {
+            if (!pressed) return;
+            PonerConversion(program_, method);
+            MostrarConversion();
+            emit ConversionElegida(method);
+            emit TextoCaducado(method);
+          }));
+  const auto slider = [this](QSlider* from, void (*put)(Programa&, int)) {
+    connect(from, &QSlider::valueChanged, this, [this, put](int value) {
+      put(program_, value);
+      program_.vistaPrevia = false;
+      emit TextoCaducado(program_.ajustes.conversion);
+    });
+  };
+  slider(sldContrasteLocal_, PonerContrasteLocal);
+  slider(sldNitidez_, PonerNitidez);
+  connect(chkAjustarTono_, &QCheckBox::toggled, this, [this](bool adjust) {
+    PonerAjusteDeTono(program_, adjust);
+    emit TextoCaducado(program_.ajustes.conversion);
+  });
+  connect(cmdComparar_, &QAbstractButton::clicked, this, &frmOpcAlgoritmo::ComparacionPedida);
+  connect(cboCaracteres_, &QComboBox::activated, this, Con(dialogs_, [this](int) { CaracteresEscritos(); }));
+  connect(cboCaracteres_->lineEdit(), &QLineEdit::editingFinished, this,
+          Con(dialogs_, [this] { CaracteresEscritos(); }));
+  connect(cboProporcion_, &QComboBox::activated, this, Con(dialogs_, [this](int) { ProporcionEscrita(); }));
+  connect(cboProporcion_->lineEdit(), &QLineEdit::editingFinished, this,
+          Con(dialogs_, [this] { ProporcionEscrita(); }));
+}
+
+void frmOpcAlgoritmo::ElegirConversion(int method) {
+  if (QAbstractButton* button = conversion_->button(method)) button->setChecked(true);
+}
+
+void frmOpcAlgoritmo::MostrarConversion() {
+  const int method = program_.ajustes.conversion;
+  mrcFormas_->setVisible(EsDeFormas(method));
+  mrcNitidez_->setVisible(method == kFormas);
+  lblCaracteres_->setVisible(method == kGrayscale && !TodosEnLaPagina(program_.ajustes.caracteres));
+}
+
+void frmOpcAlgoritmo::CaracteresEscritos() {
+  const QString text = cboCaracteres_->currentText();
+  const std::u32string before = program_.ajustes.caracteres;
+  PonerCaracteres(program_, text == kDeLaPaleta ? std::string() : text.toStdString());
+  if (program_.ajustes.caracteres.empty() && text != kDeLaPaleta) {
+    cboCaracteres_->setEditText(kDeLaPaleta);
+    emit Aviso(QStringLiteral("Hace falta algún carácter que se vea: se usan los de la paleta."));
+  }
+  if (program_.ajustes.caracteres == before) return;
+  MostrarConversion();
+  emit TextoCaducado(program_.ajustes.conversion);
+}
+
+void frmOpcAlgoritmo::ProporcionEscrita() {
+  const QString text = cboProporcion_->currentText().trimmed();
+  const auto* named = std::find_if(kProporciones.begin(), kProporciones.end(),
+                                   [&](const Aspecto& a) { return text == QString::fromUtf8(a.nombre); });
+  bool valid = true;
+  double value = 0;
+  if (named != kProporciones.end()) {
+    value = named->valor;
+  } else {
+    value = QString(text).replace(u',', u'.').toDouble(&valid);
+    valid = valid && value >= kMenorProporcion && value <= kMayorProporcion;
+  }
+  if (!valid) {
+    cboProporcion_->setCurrentIndex(0);
+    cboProporcion_->setEditText(QString::fromUtf8(kProporciones[0].nombre));
+    value = 0;
+    emit Aviso(QStringLiteral("La proporción es un número de 0,1 a 10: se usa la de la fuente."));
+  }
+  if (value == program_.basAscii.Proporcion) return;
+  PonerProporcion(program_, value);
+  emit TextoCaducado(MetodoDe(program_));
+}
+
+}  // namespace pixmosa

@@ -1,0 +1,111 @@
+#include "conversion/frmComparar_Vista.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+namespace pixmosa {
+namespace {
+
+constexpr double kAumentoDeMuesca = 1.25;  // for one notch of the wheel
+
+// Where the view's middle may lie so that nothing but picture is in view, along one side.
+double Dentro(double middle, double picture, double view) {
+  const double half = std::min(0.5, view / picture / 2);
+  return std::clamp(middle, half, 1 - half);
+}
+
+}  // namespace
+
+VistaComparada::VistaComparada(QWidget* parent) : QWidget(parent) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setCursor(Qt::OpenHandCursor);
+}
+
+void VistaComparada::Mostrar(const QImage& image, const QString& instead) {
+  imagen_ = image;
+  enVez_ = instead;
+  reducida_ = {};
+  update();
+}
+
+void VistaComparada::Encuadrar(const Encuadre& part) {
+  parte_ = part;
+  update();
+}
+
+double VistaComparada::Escala() const {
+  return parte_.aumento * std::min(static_cast<double>(width()) / imagen_.width(),
+                                   static_cast<double>(height()) / imagen_.height());
+}
+
+void VistaComparada::Pedir(Encuadre part) {
+  if (imagen_.isNull()) return;
+  part.aumento = std::clamp(part.aumento, 1.0, kMayorAumento);
+  parte_.aumento = part.aumento;
+  const double scale = Escala();
+  part.centro = {Dentro(part.centro.x(), imagen_.width() * scale, width()),
+                 Dentro(part.centro.y(), imagen_.height() * scale, height())};
+  Encuadrar(part);
+  emit Encuadrada(part);
+}
+
+void VistaComparada::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().color(QPalette::Mid));
+  if (imagen_.isNull()) {
+    painter.drawText(rect().adjusted(12, 12, -12, -12), Qt::AlignCenter | Qt::TextWordWrap, enVez_);
+    return;
+  }
+  const double scale = Escala();
+  const QSizeF size = QSizeF(imagen_.size()) * scale;
+  const QPointF corner(width() / 2.0 - parte_.centro.x() * size.width(),
+                       height() / 2.0 - parte_.centro.y() * size.height());
+  if (scale >= 1) {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, scale < 2);
+    painter.drawImage(QRectF(corner, size), imagen_);
+    return;
+  }
+  // Every pixel counts in the mean, so that fine characters become the tone that an eye sees from afar.
+  const QSize whole = size.toSize().expandedTo({1, 1});
+  if (reducida_.size() != whole)
+    reducida_ = QPixmap::fromImage(imagen_.scaled(whole, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  painter.drawPixmap(corner.toPoint(), reducida_);
+}
+
+void VistaComparada::wheelEvent(QWheelEvent* event) {
+  event->accept();
+  if (imagen_.isNull()) return;
+  constexpr double kMuesca = 120;
+  const double before = Escala();
+  Encuadre part = parte_;
+  part.aumento = std::clamp(part.aumento * std::pow(kAumentoDeMuesca, event->angleDelta().y() / kMuesca), 1.0,
+                            kMayorAumento);
+  // The point below the pointer stays there.
+  const double after = before / parte_.aumento * part.aumento;
+  const QPointF away = event->position() - QRectF(rect()).center();
+  part.centro += QPointF(away.x() / imagen_.width(), away.y() / imagen_.height()) * (1 / before - 1 / after);
+  Pedir(part);
+}
+
+void VistaComparada::mousePressEvent(QMouseEvent* event) {
+  agarrada_ = event->position();
+}
+
+void VistaComparada::mouseMoveEvent(QMouseEvent* event) {
+  if (imagen_.isNull() || !event->buttons().testFlag(Qt::LeftButton)) return;
+  const QPointF moved = (event->position() - agarrada_) / Escala();
+  agarrada_ = event->position();
+  Encuadre part = parte_;
+  part.centro -= QPointF(moved.x() / imagen_.width(), moved.y() / imagen_.height());
+  Pedir(part);
+}
+
+void VistaComparada::mouseDoubleClickEvent(QMouseEvent*) {
+  Pedir({});
+}
+
+}  // namespace pixmosa
