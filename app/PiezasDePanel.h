@@ -56,7 +56,7 @@ inline QLabel* Titulo(const char* text, QWidget* control) {
 }
 
 // A label and its control in one row.
-inline QHBoxLayout* Fila(const char* text, QWidget* control) {
+inline QHBoxLayout* FilaDePanel(const char* text, QWidget* control) {
   auto* row = new QHBoxLayout;
   row->addWidget(Titulo(text, control));
   row->addWidget(control, 1);

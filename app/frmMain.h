@@ -36,6 +36,7 @@ class frmOpcAlgoritmo;
 class frmPreview;
 class MenuDeImagen;
 class MarcoDeImagen;
+struct Dibujo;
 
 class frmMain final : public QMainWindow {
   Q_OBJECT
@@ -80,6 +81,12 @@ class frmMain final : public QMainWindow {
   bool Guardar();  // false where nothing was saved
   void CopiarTexto();
   void GrabarIni();
+
+  // --- frmMain_Exportar.cpp ---
+  void Exportar();
+  void CopiarConFormato();
+  void CopiarComoImagen();
+  std::string EnFormato(const Dibujo& drawing, const Formato& format);
 
   // --- frmMain_Generar.cpp ---
   void Play();

@@ -6,12 +6,12 @@
 
 #include "app/MarcoDeImagen.h"
 #include "app/MenuDeImagen.h"
-#include "app/Muestra.h"
 #include "app/Recuerdos.h"
 #include "app/frmMain.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "app/frmPreview.h"
 #include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/Muestra.h"
 #include "programa/Fotografia.h"
 #include "programa/Generar.h"
 
@@ -118,7 +118,8 @@ void frmMain::ActualizarAcciones() {
   opciones_->PonerImagenDisponible(picture);
   acciones_.at("mnuComparar")->setEnabled(picture);
   acciones_.at("mnuGuardar")->setEnabled(text);
-  acciones_.at("mnuClipboard")->setEnabled(text);
+  for (const char* name : {"mnuClipboard", "mnuExportar", "mnuCopiarConFormato", "mnuCopiarComoImagen"})
+    acciones_.at(name)->setEnabled(text);
   acciones_.at("mnuPreviewAsciiArt")->setEnabled(!p_.basAscii.ProducedText.empty());
 }
 

@@ -69,6 +69,7 @@ void frmMain::CrearLetreros(QVBoxLayout* area) {
 void frmMain::PonerLetrero(const std::string& banner) {
   p_.basAscii.ProducedText = banner;
   p_.basAscii.ProducedUtf8.clear();
+  p_.metodoDelTexto = -1;
   txtAscii_->PonerTexto(banner);
   txtAscii_->Alinear(alineacion_);
 }

@@ -13,8 +13,8 @@
 #include <QSlider>
 #include <QVBoxLayout>
 
-#include "app/Muestra.h"
 #include "platform/qt/Intentar.h"
+#include "platform/qt/Muestra.h"
 #include "platform/qt/QtText.h"
 #include "programa/Ajustes.h"
 #include "programa/Generar.h"

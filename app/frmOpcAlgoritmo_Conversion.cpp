@@ -68,7 +68,7 @@ QWidget* ConNumero(const char* title, QSlider* slider, const char* suffix) {
   QObject::connect(slider, &QSlider::valueChanged, number, show);
   show(slider->value());
   auto* widget = new QWidget;
-  auto* row = Fila(title, slider);
+  auto* row = FilaDePanel(title, slider);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(number);
   widget->setLayout(row);
@@ -102,7 +102,7 @@ QWidget* frmOpcAlgoritmo::CrearConversion() {
       "cboCaracteres", {kDeLaPaleta, "bloques", "braille", "cajas"},
       "Los caracteres con los que se dibuja: los de la paleta, un juego Unicode o los que usted escriba, en "
       "cualquier orden (Intro para usarlos)");
-  layout->addLayout(Fila("Caract&eres", cboCaracteres_));
+  layout->addLayout(FilaDePanel("Caract&eres", cboCaracteres_));
   lblCaracteres_ = Nota("La conversión clásica dibuja con la paleta: estos caracteres piden Tono o Formas.");
   lblCaracteres_->setObjectName("lblCaracteres");
   layout->addWidget(lblCaracteres_);

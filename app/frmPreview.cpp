@@ -3,8 +3,8 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "app/Muestra.h"
 #include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/Muestra.h"
 #include "platform/qt/Named.h"
 
 namespace pixmosa {

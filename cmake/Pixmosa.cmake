@@ -24,6 +24,9 @@ if(PIXMOSA_SANITIZE)
   add_compile_options(-fsanitize=${PIXMOSA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${PIXMOSA_SANITIZE})
   add_compile_definitions(PIXMOSA_SANITIZED)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-Wno-maybe-uninitialized)  # what it says of the standard library's own templates
+  endif()
 endif()
 
 # pixmosa_library(NAME SOURCES a.cpp ... LINKS lib ...): a static library with its sources listed.

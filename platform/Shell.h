@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Picture.h"
+
 namespace pixmosa {
 
 class Shell {
@@ -17,6 +19,9 @@ class Shell {
   virtual void CopyText(std::string_view text) = 0;
   // The same of UTF-8, for a text with characters that the code page lacks.
   virtual void CopyUtf8(std::string_view utf8) = 0;
+  // Rich text, a fragment of HTML, with the same as plain text for programs that take no other; both UTF-8.
+  virtual void CopyRichText(std::string_view html, std::string_view plain) = 0;
+  virtual void CopyPicture(const Picture& picture) = 0;
 };
 
 }  // namespace pixmosa

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "exportar/Colorear.h"
+#include "platform/Stretch.h"
 
 namespace pixmosa {
 namespace {
@@ -20,23 +21,43 @@ std::vector<int> FilasConservadas(const Programa& p, const Picture& resized) {
   return rows;
 }
 
-}  // namespace
-
-Dibujo DibujoDe(const Programa& p) {
-  const std::size_t count = p.basAscii.ProducedText.size();
+void ComprobarTamano(std::size_t count) {
   if (count > kMasCeldas)
     throw DibujoExcesivo("El dibujo es demasiado grande para este formato: " + std::to_string(count) +
                          " caracteres; el máximo son 40 millones.");
+}
+
+// Every character in the mean colour of its part of `source`.
+void Colorear(Dibujo& drawing, const Programa& p, const Picture& source, const Picture& resized, int method) {
+  if (drawing.Columnas() == 0) return;
+  const Extent cells = {p.basAscii.AsciiColumns, static_cast<int>(drawing.filas.size())};
+  const std::vector<int> rows = method == kGrayscale ? FilasConservadas(p, resized) : std::vector<int>{};
+  Colorear(drawing, MediasDeCeldas(source, cells), rows);
+}
+
+}  // namespace
+
+Dibujo DibujoDe(const Programa& p) {
+  ComprobarTamano(p.basAscii.ProducedText.size());
   return p.basAscii.ProducedUtf8.empty() ? DibujoDeTexto(p.basAscii.ProducedText)
                                          : DibujoDeUtf8(p.basAscii.ProducedUtf8);
 }
 
 Dibujo DibujoEnColor(const Programa& p, const Picture& source, const Picture& resized, int method) {
   Dibujo drawing = DibujoDe(p);
-  if (drawing.Columnas() == 0) return drawing;
-  const Extent cells = {p.basAscii.AsciiColumns, static_cast<int>(drawing.filas.size())};
-  const std::vector<int> rows = method == kGrayscale ? FilasConservadas(p, resized) : std::vector<int>{};
-  Colorear(drawing, MediasDeCeldas(source, cells), rows);
+  Colorear(drawing, p, source, resized, method);
+  return drawing;
+}
+
+Dibujo DibujoDeVentana(const Programa& p, std::string_view utf8) {
+  ComprobarTamano(utf8.size());
+  Dibujo drawing = DibujoDeUtf8(utf8);
+  if (!p.exportar.color || p.metodoDelTexto < 0 || !HayImagen(p)) return drawing;
+  const Picture& source = p.imagen.picMain;
+  const bool drops = p.metodoDelTexto == kGrayscale;
+  Colorear(drawing, p, source,
+           drops ? Stretch(source, ResizedExtent(p.basAscii, source.Size(), kGrayscale)) : Picture(),
+           p.metodoDelTexto);
   return drawing;
 }
 

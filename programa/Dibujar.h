@@ -17,4 +17,8 @@ Dibujo DibujoDe(const Programa& p);
 // `method` made the produced text of; the methods of EsDeFormas have none.
 Dibujo DibujoEnColor(const Programa& p, const Picture& source, const Picture& resized, int method);
 
+// A text as it stands in the window (UTF-8), in the colours of the working picture where p.exportar asks for
+// them and the text was made of it. Throws DibujoExcesivo.
+Dibujo DibujoDeVentana(const Programa& p, std::string_view utf8);
+
 }  // namespace pixmosa

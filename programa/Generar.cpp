@@ -37,7 +37,9 @@ std::optional<Extent> TextoEnorme(const Programa& p, int method) {
 
 bool Generar(Programa& p, int method) {
   if (EsDeFormas(method)) PrepararRepertorio(p.basAscii, p.ajustes, p.superficie);
-  return GenerateAscii(p.basAscii, p.ajustes, p.imagen.picMain, method);
+  const bool made = GenerateAscii(p.basAscii, p.ajustes, p.imagen.picMain, method);
+  if (made) p.metodoDelTexto = method;
+  return made;
 }
 
 Extent PixelesDeFormas(int columns) {

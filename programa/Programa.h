@@ -9,6 +9,7 @@
 #include "editor/basEditor.h"
 #include "effects/ImagenDeTrabajo.h"
 #include "effects/mFiltros.h"
+#include "exportar/Formatos.h"
 #include "figlet/basFigLet.h"
 #include "platform/PictureCodec.h"
 #include "platform/TextSurface.h"
@@ -40,6 +41,9 @@ struct Programa {
   BasFigLet basFigLet{};
   BasWeb basWeb{};
   WebSettings ajustesWeb{};
+  OpcionesDeExportar exportar{};
+  std::string formatoDeExportar = "html";  // the ending of the format exported last
+  int metodoDelTexto = -1;                 // that made the produced text; none for a banner
   BasGif basGif{};
   Random azar{};
 };

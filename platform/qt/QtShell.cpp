@@ -4,10 +4,12 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
 
+#include "platform/qt/QtPicture.h"
 #include "platform/qt/QtText.h"
 
 namespace pixmosa {
@@ -34,6 +36,17 @@ void QtShell::CopyText(std::string_view text) {
 
 void QtShell::CopyUtf8(std::string_view utf8) {
   QGuiApplication::clipboard()->setText(Q(utf8));
+}
+
+void QtShell::CopyRichText(std::string_view html, std::string_view plain) {
+  auto* both = new QMimeData;
+  both->setHtml(Q(html));
+  both->setText(Q(plain));
+  QGuiApplication::clipboard()->setMimeData(both);
+}
+
+void QtShell::CopyPicture(const Picture& picture) {
+  QGuiApplication::clipboard()->setImage(ImageOf(picture));
 }
 
 }  // namespace pixmosa

@@ -11,6 +11,8 @@ class QtShell final : public Shell {
   bool StartCharacterMap() override;
   void CopyText(std::string_view text) override;
   void CopyUtf8(std::string_view utf8) override;
+  void CopyRichText(std::string_view html, std::string_view plain) override;
+  void CopyPicture(const Picture& picture) override;
 };
 
 }  // namespace pixmosa

@@ -10,7 +10,7 @@
 #include <QTest>
 #include <QToolButton>
 
-#include "app/Muestra.h"
+#include "platform/qt/Muestra.h"
 #include "programa/Modos.h"
 #include "tests/support/DrawnPicture.h"
 #include "tests/support/FigletFont.h"

@@ -87,6 +87,13 @@ class RecordingShell final : public Shell {
     Log("CopyUtf8");
     clipboard = utf8;
   }
+  void CopyRichText(std::string_view html, std::string_view plain) override {
+    Log("CopyRichText|" + std::string(html));
+    clipboard = plain;
+  }
+  void CopyPicture(const Picture& picture) override {
+    Log("CopyPicture|" + std::to_string(picture.Width()) + "x" + std::to_string(picture.Height()));
+  }
 
  private:
   bool Log(const std::string& call) {

@@ -1,0 +1,96 @@
+// Exporting the drawing from the window, and copying it with its looks.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QSpinBox>
+#include <QTimer>
+
+#include "platform/Dibujo.h"
+#include "tests/support/MainWindow.h"
+
+using namespace pixmosa;
+using test::Find;
+
+class VentanaExportarTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void TheEndingPicksTheFormatAndOptionsAreKept();
+  void CopiesWithItsLooks();
+
+ private:
+  // A picture, red at the left and blue at the right, converted into dense characters.
+  static void Prepare(test::MainWindow& m) {
+    Picture p = Picture::Filled(200, 100, Rgb(200, 0, 0));
+    for (int y = 0; y < 100; ++y)
+      std::fill_n(p.Writable() + y * 200 + 100, 100, PixelOfColour(Rgb(0, 0, 200)));
+    m.Load(p);
+    m.program.basAscii.AsciiColumns = 10;
+    m.Trigger("mnuPlay");
+  }
+
+  // Opens the dialog, lets `fill` set it, and saves as `file`.
+  template <typename Fill>
+  static std::string Export(test::MainWindow& m, const std::string& file, Fill fill) {
+    m.dialogs.paths.push_back(m.folder.File(file));
+    QTimer::singleShot(0, &m.window, [&] {
+      auto* dialog = QApplication::activeModalWidget();
+      fill(*dialog);
+      QTest::mouseClick(&Find<QAbstractButton>(*dialog, "cmdExportar"), Qt::LeftButton);
+    });
+    m.Trigger("mnuExportar");
+    return LeerArchivo(m.folder.File(file));
+  }
+
+  static void Choose(QWidget& dialog, const char* format) {
+    auto& box = Find<QComboBox>(dialog, "cboFormato");
+    box.setCurrentIndex(box.findData(format));
+  }
+};
+
+void VentanaExportarTest::TheEndingPicksTheFormatAndOptionsAreKept() {
+  test::MainWindow m;
+  QVERIFY(!Find<QAction>(m.window, "mnuExportar").isEnabled());
+  Prepare(m);
+  const std::string svg = Export(m, "a.svg", [](QWidget& dialog) {
+    Choose(dialog, "svg");
+    QVERIFY(Find<QCheckBox>(dialog, "chkTrazos").isVisible());
+    QVERIFY(!Find<QSpinBox>(dialog, "numEscala").isVisible());
+    Find<QCheckBox>(dialog, "chkColorDeImagen").click();
+  });
+  QVERIFY(svg.find("<svg") != std::string::npos);
+  QVERIFY(svg.find("#c80000") != std::string::npos && svg.find("#0000c8") != std::string::npos);
+  // What was chosen before stands there again; the ending that is typed decides.
+  const std::string ansi = Export(m, "a.ANS", [](QWidget& dialog) {
+    QCOMPARE(Find<QComboBox>(dialog, "cboFormato").currentData().toString(), QString("svg"));
+    QVERIFY(Find<QCheckBox>(dialog, "chkColorDeImagen").isChecked());
+  });
+  QVERIFY(ansi.find("\x1b[38;2;200;0;0m") != std::string::npos);
+  const std::string png = Export(m, "a.png", [&m](QWidget& dialog) {
+    Choose(dialog, "png");
+    Find<QSpinBox>(dialog, "numEscala").setValue(3);
+    const auto& ascii = m.program.basAscii;
+    QVERIFY(
+        Find<QLabel>(dialog, "lblTamano").text().startsWith(QString::number(30 * ascii.CellWidth) + " x "));
+  });
+  QCOMPARE(m.pictures.ReadBytes(png, "a.png").Width(), 30 * m.program.basAscii.CellWidth);
+  // A banner has no colours to take.
+  QTest::keyClicks(&Find<QPlainTextEdit>(m.window, "txtAscii"), "x");
+  QVERIFY(Find<QLabel>(m.window, "lblEnlace").text().contains("a.png"));
+}
+
+void VentanaExportarTest::CopiesWithItsLooks() {
+  test::MainWindow m;
+  Prepare(m);
+  m.program.exportar.color = true;
+  m.Trigger("mnuCopiarConFormato");
+  QVERIFY(m.shell.log.back().find("color:#c80000") != std::string::npos);
+  QVERIFY(m.shell.clipboard.find("\r\n") != std::string::npos);
+  m.Trigger("mnuCopiarComoImagen");
+  const auto& ascii = m.program.basAscii;
+  const std::size_t rows = DibujoDeTexto(ascii.ProducedText).filas.size();
+  QCOMPARE(m.shell.log.back(), "CopyPicture|" + std::to_string(20 * ascii.CellWidth) + "x" +
+                                   std::to_string(2 * rows * static_cast<std::size_t>(ascii.CellHeight)));
+}
+
+QTEST_MAIN(VentanaExportarTest)
+#include "VentanaExportarTest.moc"
