@@ -26,7 +26,8 @@ void frmMain::CrearEstados() {
   lblEnlace_->setMinimumWidth(1);
   statusBar()->addWidget(lblEnlace_, 1);
   connect(lblEnlace_, &QLabel::linkActivated, this, Con(desktop_.dialogos, [this](const QString&) {
-            if (alSeguirEnlace_) alSeguirEnlace_();
+            // What it does may say something else, and end the one that is kept.
+            if (const auto follow = alSeguirEnlace_) follow();
           }));
   cmdCancelar_ = named<QPushButton>("cmdCancelar", QStringLiteral("Cancelar"));
   cmdCancelar_->setToolTip(QStringLiteral("Deja de escribir la página (Escape)"));

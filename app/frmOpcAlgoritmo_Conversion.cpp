@@ -1,6 +1,5 @@
 // The conversions of the grayscale mode: which one, their settings and the characters they choose from.
-#include <algorithm>
-#include <array>
+#include <optional>
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -10,7 +9,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSignalBlocker>
 
 #include "app/PiezasDePanel.h"
 #include "app/frmOpcAlgoritmo.h"
@@ -39,10 +37,21 @@ struct Aspecto {
   double valor;  // height by width; 0: the font's own
 };
 // Of a page: the usual fixed-pitch fonts of browsers at 13 pixels, lines of 15 and characters of 7.8 pixels.
-constexpr std::array<Aspecto, 3> kProporciones = {{{"la de la fuente", 0}, {"terminal", 2}, {"web", 1.92}}};
+constexpr Aspecto kProporciones[] = {{"la de la fuente", 0}, {"terminal", 2}, {"web", 1.92}};
 constexpr double kMenorProporcion = 0.1, kMayorProporcion = 10;
 
 constexpr char kDeLaPaleta[] = "los de la paleta";
+
+// The text of a list that can be typed into becomes its last valid one, or that takes its place again.
+bool Aceptado(QComboBox* list, bool valid) {
+  constexpr char kValido[] = "valido";
+  if (valid) {
+    list->setProperty(kValido, list->currentText());
+  } else {
+    list->setEditText(list->property(kValido).toString());
+  }
+  return valid;
+}
 
 // A list that can also be typed into; nothing typed is added to it or completed.
 QComboBox* ListaEscribible(const char* name, const QStringList& items, const char* help) {
@@ -54,7 +63,18 @@ QComboBox* ListaEscribible(const char* name, const QStringList& items, const cha
   list->setMinimumContentsLength(10);
   list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   list->setToolTip(QString::fromUtf8(help));
+  Aceptado(list, true);
   return list;
+}
+
+// Nothing where the text is none of the names and no number within its range.
+std::optional<double> ProporcionDe(QString text) {
+  for (const Aspecto& a : kProporciones)
+    if (text == QString::fromUtf8(a.nombre)) return a.valor;
+  bool number = false;
+  const double value = text.replace(u',', u'.').toDouble(&number);
+  if (!number || value < kMenorProporcion || value > kMayorProporcion) return std::nullopt;
+  return value;
 }
 
 // A slider with its number beside it.
@@ -182,37 +202,26 @@ void frmOpcAlgoritmo::MostrarConversion() {
 
 void frmOpcAlgoritmo::CaracteresEscritos() {
   const QString text = cboCaracteres_->currentText();
-  const std::u32string before = program_.ajustes.caracteres;
-  PonerCaracteres(program_, text == kDeLaPaleta ? std::string() : text.toStdString());
-  if (program_.ajustes.caracteres.empty() && text != kDeLaPaleta) {
-    cboCaracteres_->setEditText(kDeLaPaleta);
-    emit Aviso(QStringLiteral("Hace falta algún carácter que se vea: se usan los de la paleta."));
+  const std::string set = text == kDeLaPaleta ? std::string() : text.toStdString();
+  if (!Aceptado(cboCaracteres_, text == kDeLaPaleta || !JuegoDeCaracteres(set).empty())) {
+    emit Aviso(QStringLiteral("Hace falta algún carácter que se vea: siguen los de antes."));
+    return;
   }
+  const std::u32string before = program_.ajustes.caracteres;
+  PonerCaracteres(program_, set);
   if (program_.ajustes.caracteres == before) return;
   MostrarConversion();
   emit TextoCaducado(program_.ajustes.conversion);
 }
 
 void frmOpcAlgoritmo::ProporcionEscrita() {
-  const QString text = cboProporcion_->currentText().trimmed();
-  const auto* named = std::find_if(kProporciones.begin(), kProporciones.end(),
-                                   [&](const Aspecto& a) { return text == QString::fromUtf8(a.nombre); });
-  bool valid = true;
-  double value = 0;
-  if (named != kProporciones.end()) {
-    value = named->valor;
-  } else {
-    value = QString(text).replace(u',', u'.').toDouble(&valid);
-    valid = valid && value >= kMenorProporcion && value <= kMayorProporcion;
+  const std::optional<double> value = ProporcionDe(cboProporcion_->currentText().trimmed());
+  if (!Aceptado(cboProporcion_, value.has_value())) {
+    emit Aviso(QStringLiteral("La proporción es un número de 0,1 a 10: sigue la de antes."));
+    return;
   }
-  if (!valid) {
-    cboProporcion_->setCurrentIndex(0);
-    cboProporcion_->setEditText(QString::fromUtf8(kProporciones[0].nombre));
-    value = 0;
-    emit Aviso(QStringLiteral("La proporción es un número de 0,1 a 10: se usa la de la fuente."));
-  }
-  if (value == program_.basAscii.Proporcion) return;
-  PonerProporcion(program_, value);
+  if (*value == program_.basAscii.Proporcion) return;
+  PonerProporcion(program_, *value);
   emit TextoCaducado(MetodoDe(program_));
 }
 

@@ -118,9 +118,11 @@ const frmComparar::Prueba& frmComparar::Probar(int method) {
   const auto known = pruebas_.find(method);
   if (known != pruebas_.end()) return known->second;
   Prueba made;
-  const std::string text = TextoDe(program_, method);
-  made.dibujo = ImageOf(Dibujar(program_, text));
-  if (!made.dibujo.isNull()) made.semejanza = Puntuar(program_, text);
+  if (SePuedeDibujar(program_)) {
+    const std::string text = TextoDe(program_, method);
+    made.dibujo = ImageOf(Dibujar(program_, text));
+    made.semejanza = Puntuar(program_, text);
+  }
   return pruebas_[method] = made;
 }
 

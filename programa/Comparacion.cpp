@@ -30,11 +30,16 @@ std::string TextoDe(Programa& p, int method) {
   return TextoEnUtf8(made);
 }
 
+bool SePuedeDibujar(const Programa& p) {
+  constexpr double kMasPixeles = 60e6;
+  const Extent size = ResizedExtent(p.basAscii, p.imagen.picMain.Size(), kFormas);
+  return double{1} * size.width * p.basAscii.CellWidth * size.height * p.basAscii.CellHeight <= kMasPixeles;
+}
+
 Picture Dibujar(const Programa& p, std::string_view utf8) {
   const BasAscii& ascii = p.basAscii;
   const Extent cell{ascii.CellWidth, ascii.CellHeight};
   const Extent size = ResizedExtent(ascii, p.imagen.picMain.Size(), kFormas);
-  if (double{1} * size.width * cell.width * size.height * cell.height > kMasPixelesDeDibujo) return {};
   const Dibujo drawing = DibujoDeUtf8(utf8);
   std::map<char32_t, std::size_t> places;
   std::u32string used;

@@ -22,12 +22,11 @@ Semejanza Puntuar(const Programa& p, std::string_view utf8);
 // TextoExcesivo.
 std::string TextoDe(Programa& p, int method);
 
-// The most pixels of a drawn text.
-inline constexpr double kMasPixelesDeDibujo = 60e6;
+// The text of the working picture, drawn, is of a size that can be looked at. Throws TextoExcesivo.
+bool SePuedeDibujar(const Programa& p);
 
 // A text (UTF-8) drawn smooth with the program's font, black on white, with the negative option white on
-// black: as many cells as the text of the working picture has. Nothing where that is more than
-// kMasPixelesDeDibujo.
+// black: as many cells as the text of the working picture has, of which SePuedeDibujar.
 Picture Dibujar(const Programa& p, std::string_view utf8);
 
 }  // namespace pixmosa

@@ -73,7 +73,11 @@ AreaDeTexto::AreaDeTexto(QWidget* parent) : QPlainTextEdit(parent) {
           [this](int position, int, int added) { CuidarCeldas(position, added); });
 }
 
-AreaDeTexto::~AreaDeTexto() = default;
+AreaDeTexto::~AreaDeTexto() {
+  // Taking the formats off changes the document once more, and the window around may be gone.
+  blockSignals(true);
+  celdas_.reset();
+}
 
 void AreaDeTexto::PonerTexto(std::string_view bytes) {
   PonerUtf8(Utf8OfBytes(bytes));

@@ -5,6 +5,8 @@
 #include "programa/Ajustes.h"
 #include "programa/Animacion.h"
 #include "programa/CargarImagen.h"
+#include "programa/Comparacion.h"
+#include "programa/Fotografia.h"
 #include "programa/Generar.h"
 #include "tests/support/DrawnPicture.h"
 #include "tests/support/FakePictureCodec.h"
@@ -176,4 +178,53 @@ TEST_F(ProgramaTest, AnimationGoesThroughTheWorkingPicture) {
 
   EXPECT_FALSE(EscribirAnimacion(p, frames, page, [](std::size_t k, const std::string&) { return k == 0; }));
   EXPECT_EQ(LeerArchivo(page), written) << "a cancelled page leaves the former one";
+}
+
+TEST_F(ProgramaTest, AnimationsWriteWhatTheCodePageLacksAsReferences) {
+  codec.files = {{"1.bmp", Grays({{0, 255}})}};
+  EscribirArchivo(folder.File("1.bmp"), "");
+  surface.cell = {4, 4};
+  surface.smooth = [](char32_t c, int, int) { return c == U'\u2588' ? 255 : 0; };
+  PonerCaracteres(p, "\u2588");
+  PonerConversion(p, kTono);
+  p.basAscii.AsciiColumns = 2;
+  const std::string page = folder.File("p.html");
+  EXPECT_TRUE(EscribirAnimacion(p, SerieDeCarpeta(p, folder.Path()), page, [](auto&&...) { return true; }));
+  EXPECT_NE(LeerArchivo(page).find("Size = 1 > \r\n&#9608; \r\n"), std::string::npos);
+  EXPECT_EQ(p.basAscii.ProducedUtf8, "\u2588 ") << "the text itself stays";
+}
+
+TEST_F(ProgramaTest, ATextIsDrawnCellByCell) {
+  p.imagen.Asignar(Grays({{0, 0, 0}, {0, 0, 0}}));
+  surface.cell = {1, 2};
+  surface.smooth = [](char32_t c, int, int y) { return c == U'A' ? 255 : c == U'b' ? 100 * y : 0; };
+  PonerNegativo(p, false);
+  p.basAscii.AsciiColumns = 3;  // and one row
+  const auto drawn = [&](std::string_view text) { return test::Levels(Dibujar(p, text)); };
+  using Rows = std::vector<std::vector<int>>;
+  EXPECT_EQ(drawn("Ab"), (Rows{{0, 255, 255}, {0, 155, 255}})) << "paper beside a short row";
+  PonerNegativo(p, true);
+  EXPECT_EQ(drawn("bAAAA\r\nA"), (Rows{{0, 255, 255}, {100, 255, 255}})) << "nothing beyond the grid";
+  EXPECT_TRUE(SePuedeDibujar(p));
+  p.basAscii.AsciiColumns = 10'000;  // and 3,333 rows of two pixels
+  EXPECT_FALSE(SePuedeDibujar(p));
+}
+
+TEST(Fotografia, HasManyTonesAndIsNotSmall) {
+  // Diagonal steps of `levels` tones.
+  const auto steps = [](int side, int levels) {
+    Picture picture(side, side);
+    for (int i = 0; i < side * side; ++i) {
+      const int g = 255 * ((i % side + i / side) % levels) / std::max(1, levels - 1);
+      picture.Writable()[i] = PixelOfColour(Rgb(g, g, g));
+    }
+    return picture;
+  };
+  EXPECT_TRUE(EsFotografia(steps(100, 90)));
+  EXPECT_FALSE(EsFotografia(steps(63, 90))) << "an icon";
+  EXPECT_FALSE(EsFotografia(steps(100, 16))) << "a drawing";
+  Picture framed = Picture::Filled(200, 200, kWhite);  // a quarter of it tones
+  const Picture inside = steps(100, 90);
+  for (int y = 0; y < 100; ++y) std::copy_n(inside.Row(y).data(), 100, framed.Writable() + y * 200);
+  EXPECT_FALSE(EsFotografia(framed));
 }
