@@ -195,9 +195,12 @@ void frmOpcAlgoritmo::ElegirConversion(int method) {
 
 void frmOpcAlgoritmo::MostrarConversion() {
   const int method = program_.ajustes.conversion;
+  const std::u32string& own = program_.ajustes.caracteres;
   mrcFormas_->setVisible(EsDeFormas(method));
   mrcNitidez_->setVisible(method == kFormas);
-  lblCaracteres_->setVisible(method == kGrayscale && !TodosEnLaPagina(program_.ajustes.caracteres));
+  const bool inPlace = !own.empty() && (EsDeFormas(method) || TodosEnLaPagina(own));
+  lblCaracteres_->setVisible(!own.empty() && !inPlace);
+  cboPaletas_->setEnabled(!inPlace);
 }
 
 void frmOpcAlgoritmo::CaracteresEscritos() {

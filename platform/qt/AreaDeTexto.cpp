@@ -61,6 +61,10 @@ bool Alguno(const QString& held, Is is) {
   return std::any_of(held.begin(), held.end(), [&](QChar c) { return is(c.unicode()); });
 }
 
+bool NecesitaFormato(const QString& held) {
+  return Alguno(held, [](char16_t c) { return EsSuplente(c) || EsAjeno(c); });
+}
+
 }  // namespace
 
 AreaDeTexto::AreaDeTexto(QWidget* parent) : QPlainTextEdit(parent) {
@@ -112,7 +116,7 @@ void AreaDeTexto::Mostrar(std::string_view utf8) {
       held += QChar(static_cast<char16_t>(shown));
     }
   }
-  celdas_.reset();
+  if (!NecesitaFormato(held)) celdas_.reset();
   setPlainText(held);
   AjustarAlineacion();
 }
@@ -167,8 +171,7 @@ void AreaDeTexto::CuidarCeldas(int position, int added) {
   range.setPosition(position);
   // What Qt counts as added may include the document's own last line end.
   range.setPosition(std::min(position + added, document()->characterCount() - 1), QTextCursor::KeepAnchor);
-  if (Alguno(range.selectedText(), [](char16_t c) { return EsSuplente(c) || EsAjeno(c); }))
-    celdas_ = std::make_unique<FormatoDeCeldas>(document());
+  if (NecesitaFormato(range.selectedText())) celdas_ = std::make_unique<FormatoDeCeldas>(document());
 }
 
 void AreaDeTexto::PonerFuente(const Font& font) {
