@@ -22,6 +22,7 @@ double Dentro(double middle, double picture, double view) {
 
 VistaComparada::VistaComparada(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::OpenHandCursor);
 }
 
@@ -64,16 +65,22 @@ void VistaComparada::paintEvent(QPaintEvent*) {
   const QSizeF size = QSizeF(imagen_.size()) * scale;
   const QPointF corner(width() / 2.0 - parte_.centro.x() * size.width(),
                        height() / 2.0 - parte_.centro.y() * size.height());
-  if (scale >= 1) {
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, scale < 2);
+  const double dots = devicePixelRatioF();
+  if (scale * dots >= 1) {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, scale * dots < 2);
     painter.drawImage(QRectF(corner, size), imagen_);
-    return;
+  } else {
+    // Every pixel counts in the mean, so that fine characters become the tone that an eye sees from afar.
+    const QSize whole = (size * dots).toSize().expandedTo({1, 1});
+    if (reducida_.size() != whole)
+      reducida_ = QPixmap::fromImage(imagen_.scaled(whole, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    reducida_.setDevicePixelRatio(dots);
+    painter.drawPixmap(corner.toPoint(), reducida_);
   }
-  // Every pixel counts in the mean, so that fine characters become the tone that an eye sees from afar.
-  const QSize whole = size.toSize().expandedTo({1, 1});
-  if (reducida_.size() != whole)
-    reducida_ = QPixmap::fromImage(imagen_.scaled(whole, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-  painter.drawPixmap(corner.toPoint(), reducida_);
+  if (hasFocus()) {
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
 }
 
 void VistaComparada::wheelEvent(QWheelEvent* event) {
@@ -96,9 +103,14 @@ void VistaComparada::mousePressEvent(QMouseEvent* event) {
 }
 
 void VistaComparada::mouseMoveEvent(QMouseEvent* event) {
-  if (imagen_.isNull() || !event->buttons().testFlag(Qt::LeftButton)) return;
-  const QPointF moved = (event->position() - agarrada_) / Escala();
+  if (!event->buttons().testFlag(Qt::LeftButton)) return;
+  Mover(event->position() - agarrada_);
   agarrada_ = event->position();
+}
+
+void VistaComparada::Mover(QPointF by) {
+  if (imagen_.isNull()) return;
+  const QPointF moved = by / Escala();
   Encuadre part = parte_;
   part.centro -= QPointF(moved.x() / imagen_.width(), moved.y() / imagen_.height());
   Pedir(part);
@@ -106,6 +118,36 @@ void VistaComparada::mouseMoveEvent(QMouseEvent* event) {
 
 void VistaComparada::mouseDoubleClickEvent(QMouseEvent*) {
   Pedir({});
+}
+
+void VistaComparada::keyPressEvent(QKeyEvent* event) {
+  constexpr double kPaso = 40;
+  switch (event->key()) {
+    case Qt::Key_Plus:
+      return Pedir({parte_.aumento * kAumentoDeMuesca, parte_.centro});
+    case Qt::Key_Minus:
+      return Pedir({parte_.aumento / kAumentoDeMuesca, parte_.centro});
+    case Qt::Key_Home:
+      return Pedir({});
+    case Qt::Key_Left:
+      return Mover({kPaso, 0});
+    case Qt::Key_Right:
+      return Mover({-kPaso, 0});
+    case Qt::Key_Up:
+      return Mover({0, kPaso});
+    case Qt::Key_Down:
+      return Mover({0, -kPaso});
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
+void VistaComparada::focusInEvent(QFocusEvent*) {
+  update();
+}
+
+void VistaComparada::focusOutEvent(QFocusEvent*) {
+  update();
 }
 
 }  // namespace pixmosa

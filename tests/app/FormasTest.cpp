@@ -224,6 +224,10 @@ void FormasTest::UnicodeIsShownSavedAndCopied() {
   const QTextBlock row = m.Area().document()->begin();
   const int cell = m.program.basAscii.CellWidth;
   QCOMPARE(std::lround(row.layout()->lineAt(0).naturalTextWidth()), 40L * cell);
+  const double height = row.layout()->lineAt(0).height();
+  m.Area().PonerTexto("a");
+  QCOMPARE(m.Area().document()->begin().layout()->lineAt(0).height(), height);
+  m.Area().PonerUtf8(art);
 
   m.dialogs.paths = {m.folder.File("a.txt")};
   m.Trigger("mnuGuardar");
