@@ -98,7 +98,7 @@ QWidget* frmOpcAlgoritmo::CrearFormas() {
   mrcNitidez_ = ConNumero("Nitide&z", sldNitidez_, "");
   mrcNitidez_->setObjectName("mrcNitidez");
   layout->addWidget(mrcNitidez_);
-  chkAjustarTono_ = named<QCheckBox>("chkAjustarTono", QStringLiteral("A&justar el tono"));
+  chkAjustarTono_ = named<QCheckBox>("chkAjustarTono", QStringLiteral("A&justar tono"));
   chkAjustarTono_->setToolTip(
       QStringLiteral("Estira los tonos de la imagen hasta el más claro y el más oscuro de la fuente"));
   chkAjustarTono_->setChecked(settings.ajustarTono);
