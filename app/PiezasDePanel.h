@@ -58,7 +58,7 @@ inline QLabel* Titulo(const char* text, QWidget* control) {
 }
 
 // A label and its control in one row.
-inline QHBoxLayout* Fila(const char* text, QWidget* control) {
+inline QHBoxLayout* FilaDePanel(const char* text, QWidget* control) {
   auto* row = new QHBoxLayout;
   row->addWidget(Titulo(text, control));
   row->addWidget(control, 1);
@@ -76,7 +76,7 @@ inline QWidget* ConNumero(const char* title, QSlider* slider, const char* suffix
   QObject::connect(slider, &QSlider::valueChanged, number, show);
   show(slider->value());
   auto* widget = new QWidget;
-  auto* row = Fila(title, slider);
+  auto* row = FilaDePanel(title, slider);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(number);
   widget->setLayout(row);

@@ -79,7 +79,7 @@ QWidget* frmOpcAlgoritmo::CrearConversion() {
       "cboCaracteres", {kDeLaPaleta, "bloques", "braille", "cajas"},
       "Los caracteres con los que se dibuja: los de la paleta, un juego Unicode o los que usted escriba, en "
       "cualquier orden (Intro para usarlos)");
-  layout->addLayout(Fila("Caract&eres", cboCaracteres_));
+  layout->addLayout(FilaDePanel("Caract&eres", cboCaracteres_));
   lblCaracteres_ = Nota("La conversión clásica dibuja con la paleta: estos caracteres piden Tono o Formas.");
   lblCaracteres_->setObjectName("lblCaracteres");
   layout->addWidget(lblCaracteres_);

@@ -57,7 +57,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
   cboPaletas_ = named<QComboBox>("cboPaletas");
   for (const CharacterPalette& p : kPalettes) cboPaletas_->addItem(Q(p.caption));
   cboPaletas_->setToolTip(QStringLiteral("Caracteres con los que se dibuja"));
-  layout->addLayout(Fila("&Paleta", cboPaletas_));
+  layout->addLayout(FilaDePanel("&Paleta", cboPaletas_));
   CrearTamaño(layout);
 
   mrcAscii_[0] = named<QWidget>("mrcAscii(0)");
@@ -96,7 +96,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
   colours->addWidget(new QLabel(QStringLiteral("Texto")));
   colours->addWidget(lblAsciiForeColor_);
   layout->addLayout(colours);
-  layout->addLayout(Fila("P&roporción", CrearProporcion()));
+  layout->addLayout(FilaDePanel("P&roporción", CrearProporcion()));
   for (QWidget* frame : mrcAscii_) layout->addWidget(frame);
   cmdBN_ = named<QPushButton>("cmdBN", QStringLiteral("&Blanco y negro"));
   cmdBN_->setToolTip(
@@ -160,7 +160,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaWeb() {
   layout->addLayout(size);
 
   lblWebBackColor_ = MuestraDeColor("lblWebBackColor", "Color del fondo", program_.fondoWeb);
-  auto* row = Fila("Color del fondo", lblWebBackColor_);
+  auto* row = FilaDePanel("Color del fondo", lblWebBackColor_);
   row->addStretch(1);
   row->addWidget(BarraDeBotones("TBWebAlinea",
                                 {{"Izquierda", "Izquierda", IconoDeRenglones(Qt::AlignLeft)},
@@ -178,8 +178,8 @@ QWidget* frmOpcAlgoritmo::CrearPaginaWeb() {
   txtPaletaWeb_->setEnabled(false);
   txtPaletaWeb_->installEventFilter(this);
   txtPaletaWeb_->setToolTip(QStringLiteral("El texto que se repite por toda la página"));
-  mosaic->addLayout(Fila("&Paleta", cboPaletaWeb_));
-  mosaic->addLayout(Fila("Paleta de te&xto", txtPaletaWeb_));
+  mosaic->addLayout(FilaDePanel("&Paleta", cboPaletaWeb_));
+  mosaic->addLayout(FilaDePanel("Paleta de te&xto", txtPaletaWeb_));
 
   mrcweb_[1] = named<QWidget>("mrcweb(1)");
   CrearBordesWeb(Columna(mrcweb_[1]));
