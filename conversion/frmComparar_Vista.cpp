@@ -1,11 +1,17 @@
 #include "conversion/frmComparar_Vista.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <iterator>
+#include <vector>
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
+
+#include "conversion/Claridad.h"
+#include "conversion/Malla.h"
 
 namespace pixmosa {
 namespace {
@@ -18,6 +24,31 @@ double Dentro(double middle, double picture, double view) {
   return std::clamp(middle, half, 1 - half);
 }
 
+// The part 0..255 of linear light 0..1, after IEC 61966-2-1.
+uchar ParteDeLuz(float light) {
+  const double v = light <= 0.0031308F ? 12.92 * light : 1.055 * std::pow(light, 1 / 2.4) - 0.055;
+  return static_cast<uchar>(std::clamp(std::lround(255 * v), 0L, 255L));
+}
+
+// Every pixel counts in the mean of light, so that fine characters become the tone that an eye sees from
+// afar.
+QImage ReducidaEnLuz(const QImage& gray, QSize size) {
+  std::array<float, 256> light{};
+  for (int part = 0; part < 256; ++part) light[part] = static_cast<float>(LuzDeParte(part));
+  std::vector<float> values;
+  values.reserve(static_cast<std::size_t>(gray.width()) * gray.height());
+  for (int y = 0; y < gray.height(); ++y) {
+    const auto* row = reinterpret_cast<const QRgb*>(gray.constScanLine(y));
+    std::transform(row, row + gray.width(), std::back_inserter(values),
+                   [&](QRgb pixel) { return light[qGreen(pixel)]; });
+  }
+  const Malla means = MediaDe(values, {gray.width(), gray.height()}, {size.width(), size.height()});
+  QImage reduced(size, QImage::Format_Grayscale8);
+  for (int y = 0; y < size.height(); ++y)
+    std::transform(means.Fila(y).begin(), means.Fila(y).end(), reduced.scanLine(y), ParteDeLuz);
+  return reduced;
+}
+
 }  // namespace
 
 VistaComparada::VistaComparada(QWidget* parent) : QWidget(parent) {
@@ -28,6 +59,7 @@ VistaComparada::VistaComparada(QWidget* parent) : QWidget(parent) {
 
 void VistaComparada::Mostrar(const QImage& image, const QString& instead) {
   imagen_ = image;
+  gris_ = image.format() == QImage::Format_RGB32 && image.allGray();
   enVez_ = instead;
   reducida_ = {};
   update();
@@ -70,10 +102,11 @@ void VistaComparada::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform, scale * dots < 2);
     painter.drawImage(QRectF(corner, size), imagen_);
   } else {
-    // Every pixel counts in the mean, so that fine characters become the tone that an eye sees from afar.
     const QSize whole = (size * dots).toSize().expandedTo({1, 1});
     if (reducida_.size() != whole)
-      reducida_ = QPixmap::fromImage(imagen_.scaled(whole, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+      reducida_ =
+          QPixmap::fromImage(gris_ ? ReducidaEnLuz(imagen_, whole)
+                                   : imagen_.scaled(whole, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     reducida_.setDevicePixelRatio(dots);
     painter.drawPixmap(corner.toPoint(), reducida_);
   }

@@ -49,6 +49,7 @@ class VistaComparada final : public QWidget {
   void Mover(QPointF by);  // pixels of the view
 
   QImage imagen_;
+  bool gris_ = false;  // gray all over, as drawn text is
   QString enVez_;
   Encuadre parte_;
   QPixmap reducida_;  // the picture at a scale below 1, made for the last one
