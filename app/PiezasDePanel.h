@@ -1,6 +1,7 @@
 // The pieces that panels are laid out of.
 #pragma once
 
+#include <QComboBox>
 #include <QCursor>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -8,6 +9,7 @@
 #include <QToolButton>
 #include <QToolTip>
 #include <QVBoxLayout>
+#include <QVariant>
 
 #include "platform/qt/Named.h"
 
@@ -61,6 +63,49 @@ inline QHBoxLayout* FilaDePanel(const char* text, QWidget* control) {
   row->addWidget(Titulo(text, control));
   row->addWidget(control, 1);
   return row;
+}
+
+// A slider with its number beside it.
+inline QWidget* ConNumero(const char* title, QSlider* slider, const char* suffix) {
+  auto* number = new QLabel;
+  const QString after = QString::fromUtf8(suffix);
+  const auto show = [number, after](int value) { number->setText(QString::number(value) + after); };
+  number->setObjectName("lbl" + slider->objectName().mid(3));
+  number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  number->setMinimumWidth(number->fontMetrics().horizontalAdvance("100" + after));
+  QObject::connect(slider, &QSlider::valueChanged, number, show);
+  show(slider->value());
+  auto* widget = new QWidget;
+  auto* row = FilaDePanel(title, slider);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(number);
+  widget->setLayout(row);
+  return widget;
+}
+
+// The text of a list that can be typed into becomes its last valid one, or that takes its place again.
+inline bool Aceptado(QComboBox* list, bool valid) {
+  constexpr char kValido[] = "valido";
+  if (valid) {
+    list->setProperty(kValido, list->currentText());
+  } else {
+    list->setEditText(list->property(kValido).toString());
+  }
+  return valid;
+}
+
+// A list that can also be typed into; nothing typed is added to it or completed.
+inline QComboBox* ListaEscribible(const char* name, const QStringList& items, const char* help) {
+  auto* list = named<QComboBox>(name);
+  list->setEditable(true);
+  list->setInsertPolicy(QComboBox::NoInsert);
+  list->setCompleter(nullptr);
+  list->addItems(items);
+  list->setMinimumContentsLength(10);
+  list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  list->setToolTip(QString::fromUtf8(help));
+  Aceptado(list, true);
+  return list;
 }
 
 }  // namespace pixmosa

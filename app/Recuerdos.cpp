@@ -30,6 +30,7 @@ int ConversionRecordada(Registry& registry) {
 
 void RecordarConversion(Registry& registry, int method) {
   Escribir(registry, kConversion, method);
+  if (EsDeFormas(method)) RecordarOferta(registry);
 }
 
 bool FormasOfrecida(Registry& registry) {

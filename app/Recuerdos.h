@@ -5,7 +5,8 @@
 
 namespace pixmosa {
 
-// The conversion of the grayscale mode that was chosen last: kGrayscale, kTono or kFormas.
+// The conversion of the grayscale mode that was chosen last: kGrayscale, kTono or kFormas. Who has chosen one
+// of the latter need not be offered it.
 int ConversionRecordada(Registry& registry);
 void RecordarConversion(Registry& registry, int method);
 

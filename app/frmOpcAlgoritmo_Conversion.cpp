@@ -42,31 +42,6 @@ constexpr double kMenorProporcion = 0.1, kMayorProporcion = 10;
 
 constexpr char kDeLaPaleta[] = "los de la paleta";
 
-// The text of a list that can be typed into becomes its last valid one, or that takes its place again.
-bool Aceptado(QComboBox* list, bool valid) {
-  constexpr char kValido[] = "valido";
-  if (valid) {
-    list->setProperty(kValido, list->currentText());
-  } else {
-    list->setEditText(list->property(kValido).toString());
-  }
-  return valid;
-}
-
-// A list that can also be typed into; nothing typed is added to it or completed.
-QComboBox* ListaEscribible(const char* name, const QStringList& items, const char* help) {
-  auto* list = named<QComboBox>(name);
-  list->setEditable(true);
-  list->setInsertPolicy(QComboBox::NoInsert);
-  list->setCompleter(nullptr);
-  list->addItems(items);
-  list->setMinimumContentsLength(10);
-  list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  list->setToolTip(QString::fromUtf8(help));
-  Aceptado(list, true);
-  return list;
-}
-
 // Nothing where the text is none of the names and no number within its range.
 std::optional<double> ProporcionDe(QString text) {
   for (const Aspecto& a : kProporciones)
@@ -75,24 +50,6 @@ std::optional<double> ProporcionDe(QString text) {
   const double value = text.replace(u',', u'.').toDouble(&number);
   if (!number || value < kMenorProporcion || value > kMayorProporcion) return std::nullopt;
   return value;
-}
-
-// A slider with its number beside it.
-QWidget* ConNumero(const char* title, QSlider* slider, const char* suffix) {
-  auto* number = new QLabel;
-  const QString after = QString::fromUtf8(suffix);
-  const auto show = [number, after](int value) { number->setText(QString::number(value) + after); };
-  number->setObjectName("lbl" + slider->objectName().mid(3));
-  number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  number->setMinimumWidth(number->fontMetrics().horizontalAdvance("100" + after));
-  QObject::connect(slider, &QSlider::valueChanged, number, show);
-  show(slider->value());
-  auto* widget = new QWidget;
-  auto* row = FilaDePanel(title, slider);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(number);
-  widget->setLayout(row);
-  return widget;
 }
 
 }  // namespace
@@ -141,7 +98,7 @@ QWidget* frmOpcAlgoritmo::CrearFormas() {
   mrcNitidez_ = ConNumero("Nitide&z", sldNitidez_, "");
   mrcNitidez_->setObjectName("mrcNitidez");
   layout->addWidget(mrcNitidez_);
-  chkAjustarTono_ = named<QCheckBox>("chkAjustarTono", QStringLiteral("A&justar el tono"));
+  chkAjustarTono_ = named<QCheckBox>("chkAjustarTono", QStringLiteral("A&justar tono"));
   chkAjustarTono_->setToolTip(
       QStringLiteral("Estira los tonos de la imagen hasta el más claro y el más oscuro de la fuente"));
   chkAjustarTono_->setChecked(settings.ajustarTono);
@@ -195,9 +152,12 @@ void frmOpcAlgoritmo::ElegirConversion(int method) {
 
 void frmOpcAlgoritmo::MostrarConversion() {
   const int method = program_.ajustes.conversion;
+  const std::u32string& own = program_.ajustes.caracteres;
   mrcFormas_->setVisible(EsDeFormas(method));
   mrcNitidez_->setVisible(method == kFormas);
-  lblCaracteres_->setVisible(method == kGrayscale && !TodosEnLaPagina(program_.ajustes.caracteres));
+  const bool inPlace = !own.empty() && (EsDeFormas(method) || TodosEnLaPagina(own));
+  lblCaracteres_->setVisible(!own.empty() && !inPlace);
+  cboPaletas_->setEnabled(!inPlace);
 }
 
 void frmOpcAlgoritmo::CaracteresEscritos() {

@@ -46,8 +46,7 @@ struct Amplitud {
 
 Amplitud Cuantiles(std::vector<float> values) {
   const auto at = [&](double share) {
-    const auto n =
-        values.begin() + static_cast<std::ptrdiff_t>(share * static_cast<double>(values.size() - 1) + 0.5);
+    const auto n = values.begin() + std::lround(share * static_cast<double>(values.size() - 1));
     std::nth_element(values.begin(), n, values.end());
     return static_cast<double>(*n);
   };

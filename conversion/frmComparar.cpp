@@ -64,8 +64,8 @@ frmComparar::frmComparar(Programa& program, Dialogs& dialogs, QWidget* parent)
   grid->addWidget(new QLabel(QStringLiteral("Imagen")), 0, 0);
   grid->addWidget(original, 1, 0);
   auto* help = new QLabel(
-      QStringLiteral("La rueda acerca las tres vistas a la vez y, arrastrando, se mueven; un doble clic las "
-                     "muestra enteras."));
+      QStringLiteral("La rueda o las teclas + y - acercan las tres vistas a la vez; arrastrando o con las "
+                     "flechas se mueven; un doble clic o Inicio las muestra enteras."));
   help->setWordWrap(true);
   help->setAlignment(Qt::AlignTop);
   grid->addWidget(help, 2, 0);

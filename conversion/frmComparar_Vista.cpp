@@ -1,11 +1,17 @@
 #include "conversion/frmComparar_Vista.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <iterator>
+#include <vector>
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
+
+#include "conversion/Claridad.h"
+#include "conversion/Malla.h"
 
 namespace pixmosa {
 namespace {
@@ -18,15 +24,42 @@ double Dentro(double middle, double picture, double view) {
   return std::clamp(middle, half, 1 - half);
 }
 
+// The part 0..255 of linear light 0..1, after IEC 61966-2-1.
+uchar ParteDeLuz(float light) {
+  const double v = light <= 0.0031308F ? 12.92 * light : 1.055 * std::pow(light, 1 / 2.4) - 0.055;
+  return static_cast<uchar>(std::clamp(std::lround(255 * v), 0L, 255L));
+}
+
+// Every pixel counts in the mean of light, so that fine characters become the tone that an eye sees from
+// afar.
+QImage ReducidaEnLuz(const QImage& gray, QSize size) {
+  std::array<float, 256> light{};
+  for (int part = 0; part < 256; ++part) light[part] = static_cast<float>(LuzDeParte(part));
+  std::vector<float> values;
+  values.reserve(static_cast<std::size_t>(gray.width()) * gray.height());
+  for (int y = 0; y < gray.height(); ++y) {
+    const auto* row = reinterpret_cast<const QRgb*>(gray.constScanLine(y));
+    std::transform(row, row + gray.width(), std::back_inserter(values),
+                   [&](QRgb pixel) { return light[qGreen(pixel)]; });
+  }
+  const Malla means = MediaDe(values, {gray.width(), gray.height()}, {size.width(), size.height()});
+  QImage reduced(size, QImage::Format_Grayscale8);
+  for (int y = 0; y < size.height(); ++y)
+    std::transform(means.Fila(y).begin(), means.Fila(y).end(), reduced.scanLine(y), ParteDeLuz);
+  return reduced;
+}
+
 }  // namespace
 
 VistaComparada::VistaComparada(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::OpenHandCursor);
 }
 
 void VistaComparada::Mostrar(const QImage& image, const QString& instead) {
   imagen_ = image;
+  gris_ = image.format() == QImage::Format_RGB32 && image.allGray();
   enVez_ = instead;
   reducida_ = {};
   update();
@@ -64,16 +97,23 @@ void VistaComparada::paintEvent(QPaintEvent*) {
   const QSizeF size = QSizeF(imagen_.size()) * scale;
   const QPointF corner(width() / 2.0 - parte_.centro.x() * size.width(),
                        height() / 2.0 - parte_.centro.y() * size.height());
-  if (scale >= 1) {
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, scale < 2);
+  const double dots = devicePixelRatioF();
+  if (scale * dots >= 1) {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, scale * dots < 2);
     painter.drawImage(QRectF(corner, size), imagen_);
-    return;
+  } else {
+    const QSize whole = (size * dots).toSize().expandedTo({1, 1});
+    if (reducida_.size() != whole)
+      reducida_ =
+          QPixmap::fromImage(gris_ ? ReducidaEnLuz(imagen_, whole)
+                                   : imagen_.scaled(whole, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    reducida_.setDevicePixelRatio(dots);
+    painter.drawPixmap(corner.toPoint(), reducida_);
   }
-  // Every pixel counts in the mean, so that fine characters become the tone that an eye sees from afar.
-  const QSize whole = size.toSize().expandedTo({1, 1});
-  if (reducida_.size() != whole)
-    reducida_ = QPixmap::fromImage(imagen_.scaled(whole, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-  painter.drawPixmap(corner.toPoint(), reducida_);
+  if (hasFocus()) {
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
 }
 
 void VistaComparada::wheelEvent(QWheelEvent* event) {
@@ -96,9 +136,14 @@ void VistaComparada::mousePressEvent(QMouseEvent* event) {
 }
 
 void VistaComparada::mouseMoveEvent(QMouseEvent* event) {
-  if (imagen_.isNull() || !event->buttons().testFlag(Qt::LeftButton)) return;
-  const QPointF moved = (event->position() - agarrada_) / Escala();
+  if (!event->buttons().testFlag(Qt::LeftButton)) return;
+  Mover(event->position() - agarrada_);
   agarrada_ = event->position();
+}
+
+void VistaComparada::Mover(QPointF by) {
+  if (imagen_.isNull()) return;
+  const QPointF moved = by / Escala();
   Encuadre part = parte_;
   part.centro -= QPointF(moved.x() / imagen_.width(), moved.y() / imagen_.height());
   Pedir(part);
@@ -106,6 +151,36 @@ void VistaComparada::mouseMoveEvent(QMouseEvent* event) {
 
 void VistaComparada::mouseDoubleClickEvent(QMouseEvent*) {
   Pedir({});
+}
+
+void VistaComparada::keyPressEvent(QKeyEvent* event) {
+  constexpr double kPaso = 40;
+  switch (event->key()) {
+    case Qt::Key_Plus:
+      return Pedir({parte_.aumento * kAumentoDeMuesca, parte_.centro});
+    case Qt::Key_Minus:
+      return Pedir({parte_.aumento / kAumentoDeMuesca, parte_.centro});
+    case Qt::Key_Home:
+      return Pedir({});
+    case Qt::Key_Left:
+      return Mover({kPaso, 0});
+    case Qt::Key_Right:
+      return Mover({-kPaso, 0});
+    case Qt::Key_Up:
+      return Mover({0, kPaso});
+    case Qt::Key_Down:
+      return Mover({0, -kPaso});
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
+void VistaComparada::focusInEvent(QFocusEvent*) {
+  update();
+}
+
+void VistaComparada::focusOutEvent(QFocusEvent*) {
+  update();
 }
 
 }  // namespace pixmosa

@@ -13,7 +13,8 @@ struct Encuadre {
   QPointF centro{0.5, 0.5};  // the point in the middle of the view, in widths and heights of the picture
 };
 
-// The wheel zooms, dragging moves, a double click shows the whole again.
+// The wheel and the keys + and - zoom, dragging and the arrows move, a double click and the key Home show the
+// whole again.
 class VistaComparada final : public QWidget {
   Q_OBJECT
 
@@ -38,12 +39,17 @@ class VistaComparada final : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
 
  private:
   double Escala() const;  // pixels of the view for one of the picture
   void Pedir(Encuadre part);
+  void Mover(QPointF by);  // pixels of the view
 
   QImage imagen_;
+  bool gris_ = false;  // gray all over, as drawn text is
   QString enVez_;
   Encuadre parte_;
   QPixmap reducida_;  // the picture at a scale below 1, made for the last one

@@ -15,53 +15,9 @@
 #include "platform/qt/FormatoDeCeldas.h"
 #include "platform/qt/QtFont.h"
 #include "platform/qt/QtText.h"
+#include "platform/qt/TextoRetenido.h"
 
 namespace pixmosa {
-namespace {
-
-constexpr char32_t kGuionOpcional = 0xAD;
-constexpr char16_t kParagraph = 0x2029, kLine = 0x2028;
-
-// Text layout would give them no width.
-bool EsControl(char32_t c) {
-  return (c < 32 && c != U'\t') || (c >= 127 && c < 160);
-}
-
-// What the document holds for a character that is not part of a CR LF; for a control of the code page its
-// stand-in.
-char32_t Held(char32_t c) {
-  if (c == kGuionOpcional) return kGuion;
-  const auto code = EsControl(c) ? ByteOfUnicode(c) : std::nullopt;
-  return code ? kSuplentes + *code : c;
-}
-
-std::string Utf8OfHeld(const QString& held) {
-  std::string utf8;
-  utf8.reserve(static_cast<std::size_t>(held.size()));
-  for (qsizetype i = 0; i < held.size(); ++i) {
-    const char16_t c = held[i].unicode();
-    if (c == kParagraph || c == kLine) {
-      utf8 += "\r\n";
-    } else if (EsSuplente(c)) {
-      AppendUtf8(utf8, UnicodeOfByte(static_cast<unsigned char>(c - kSuplentes)));
-    } else if (c == kGuion) {
-      AppendUtf8(utf8, kGuionOpcional);
-    } else if (held[i].isHighSurrogate() && i + 1 < held.size() && held[i + 1].isLowSurrogate()) {
-      AppendUtf8(utf8, QChar::surrogateToUcs4(held[i], held[i + 1]));
-      ++i;
-    } else {
-      AppendUtf8(utf8, held[i].isSurrogate() ? U'?' : c);
-    }
-  }
-  return utf8;
-}
-
-template <typename Is>
-bool Alguno(const QString& held, Is is) {
-  return std::any_of(held.begin(), held.end(), [&](QChar c) { return is(c.unicode()); });
-}
-
-}  // namespace
 
 AreaDeTexto::AreaDeTexto(QWidget* parent) : QPlainTextEdit(parent) {
   setLineWrapMode(NoWrap);
@@ -98,21 +54,8 @@ void AreaDeTexto::RecibirTexto(std::string_view bytes) {
 }
 
 void AreaDeTexto::Mostrar(std::string_view utf8) {
-  QString held;
-  held.reserve(static_cast<qsizetype>(utf8.size()));
-  while (!utf8.empty()) {
-    const char32_t c = NextUtf8(utf8);
-    const bool lineEnd = c == U'\r' && utf8.starts_with('\n');
-    if (lineEnd) utf8.remove_prefix(1);
-    const char32_t shown = lineEnd ? U'\n' : Held(c);
-    if (QChar::requiresSurrogates(shown)) {
-      held += QChar(QChar::highSurrogate(shown));
-      held += QChar(QChar::lowSurrogate(shown));
-    } else {
-      held += QChar(static_cast<char16_t>(shown));
-    }
-  }
-  celdas_.reset();
+  const QString held = RetenidoDeUtf8(utf8);
+  if (!NecesitaFormato(held)) celdas_.reset();
   setPlainText(held);
   AjustarAlineacion();
 }
@@ -154,11 +97,11 @@ std::string AreaDeTexto::Texto() const {
 }
 
 std::string AreaDeTexto::Utf8() const {
-  return Utf8OfHeld(document()->toRawText());
+  return Utf8DeRetenido(document()->toRawText());
 }
 
 bool AreaDeTexto::CabeEnLaPagina() const {
-  return !Alguno(document()->toRawText(), EsAjeno);
+  return !TieneAjenos(document()->toRawText());
 }
 
 void AreaDeTexto::CuidarCeldas(int position, int added) {
@@ -167,8 +110,7 @@ void AreaDeTexto::CuidarCeldas(int position, int added) {
   range.setPosition(position);
   // What Qt counts as added may include the document's own last line end.
   range.setPosition(std::min(position + added, document()->characterCount() - 1), QTextCursor::KeepAnchor);
-  if (Alguno(range.selectedText(), [](char16_t c) { return EsSuplente(c) || EsAjeno(c); }))
-    celdas_ = std::make_unique<FormatoDeCeldas>(document());
+  if (NecesitaFormato(range.selectedText())) celdas_ = std::make_unique<FormatoDeCeldas>(document());
 }
 
 void AreaDeTexto::PonerFuente(const Font& font) {
@@ -242,7 +184,7 @@ void AreaDeTexto::contextMenuEvent(QContextMenuEvent* event) {
 
 QMimeData* AreaDeTexto::createMimeDataFromSelection() const {
   auto* copied = new QMimeData;
-  copied->setText(Q(Utf8OfHeld(textCursor().selectedText())));
+  copied->setText(Q(Utf8DeRetenido(textCursor().selectedText())));
   return copied;
 }
 

@@ -3,6 +3,8 @@
 #include <QFontMetricsF>
 #include <QTextDocument>
 
+#include "platform/qt/TextoRetenido.h"
+
 namespace pixmosa {
 
 FormatoDeCeldas::FormatoDeCeldas(QTextDocument* document) : QSyntaxHighlighter(document) {

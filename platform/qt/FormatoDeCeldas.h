@@ -6,27 +6,10 @@
 
 #include <QSyntaxHighlighter>
 
-#include "platform/CodePage.h"
-
 namespace pixmosa {
 
-// What a text area holds for codes that text layout would not show: U+E000 + code, and for the soft hyphen a
-// hyphen.
-inline constexpr char16_t kSuplentes = 0xE000;
-inline constexpr char16_t kGuion = 0x2010;
-
-inline bool EsSuplente(char16_t c) {
-  return c >= kSuplentes && c < kSuplentes + 256;
-}
-
-// A character that the code page lacks; each half of one beyond 16 bits is.
-inline bool EsAjeno(char16_t c) {
-  constexpr char16_t kParagraph = 0x2029, kLine = 0x2028;
-  return c > 127 && c != kGuion && c != kParagraph && c != kLine && !EsSuplente(c) && !ByteOfUnicode(c);
-}
-
-// Draws the stand-ins in no colour, so that they leave a blank cell. Gives a character that the document's
-// font lacks one of another family, spaced to the width of a cell.
+// Draws the stand-ins of TextoRetenido in no colour, so that they leave a blank cell. Gives a character that
+// the document's font lacks one of another family, spaced to the width of a cell.
 class FormatoDeCeldas final : public QSyntaxHighlighter {
  public:
   explicit FormatoDeCeldas(QTextDocument* document);

@@ -224,6 +224,10 @@ void FormasTest::UnicodeIsShownSavedAndCopied() {
   const QTextBlock row = m.Area().document()->begin();
   const int cell = m.program.basAscii.CellWidth;
   QCOMPARE(std::lround(row.layout()->lineAt(0).naturalTextWidth()), 40L * cell);
+  const double height = row.layout()->lineAt(0).height();
+  m.Area().PonerTexto("a");
+  QCOMPARE(m.Area().document()->begin().layout()->lineAt(0).height(), height);
+  m.Area().PonerUtf8(art);
 
   m.dialogs.paths = {m.folder.File("a.txt")};
   m.Trigger("mnuGuardar");
@@ -247,18 +251,18 @@ void FormasTest::TypedUnicodeIsKept() {
   QInputMethodEvent typed;
   typed.setCommitString(QString::fromUtf8("≠"));
   QApplication::sendEvent(&m.Area(), &typed);
-  m.Area().insertPlainText(QString::fromUtf8("😀"));
-  QCOMPARE(m.Area().Utf8(), "≠😀ab\r\n\u00AD\u0001");
-  QCOMPARE(m.Text(), "??ab\r\n\xAD\x01");
+  m.Area().insertPlainText(QString::fromUtf8("😀\uE0B0"));
+  QCOMPARE(m.Area().Utf8(), "≠😀\uE0B0ab\r\n\u00AD\u0001");
+  QCOMPARE(m.Text(), "???ab\r\n\xAD\x01");
   m.Area().selectAll();
   m.Area().copy();
-  QCOMPARE(QApplication::clipboard()->text().toStdString(), "≠😀ab\r\n\u00AD\u0001");
+  QCOMPARE(QApplication::clipboard()->text().toStdString(), "≠😀\uE0B0ab\r\n\u00AD\u0001");
   m.Area().PonerTexto("otro");
   m.Area().Deshacer();
-  QVERIFY2(m.Area().Utf8().starts_with("≠😀ab"), "what was typed comes back");
+  QVERIFY2(m.Area().Utf8().starts_with("≠😀\uE0B0ab"), "what was typed comes back");
   m.dialogs.paths = {m.folder.File("a.txt")};
   m.Trigger("mnuGuardar");
-  QVERIFY(LeerArchivo(m.folder.File("a.txt")).find("≠😀ab\r\n") != std::string::npos);
+  QVERIFY(LeerArchivo(m.folder.File("a.txt")).find("≠😀\uE0B0ab\r\n") != std::string::npos);
 }
 
 QTEST_MAIN(FormasTest)

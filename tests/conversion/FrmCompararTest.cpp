@@ -90,6 +90,13 @@ class FrmCompararTest : public QObject {
     QVERIFY(text.grab().toImage() != near);
     QTest::mouseDClick(&image, Qt::LeftButton);
     QVERIFY(text.grab().toImage() == whole);
+    for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Right}) {
+      const QImage before = text.grab().toImage();
+      QTest::keyClick(&image, key);
+      QVERIFY(text.grab().toImage() != before);
+    }
+    QTest::keyClick(&image, Qt::Key_Home);
+    QVERIFY(text.grab().toImage() == whole);
   }
 
   void ADrawingTooLargeIsSaid() {

@@ -180,6 +180,28 @@ TEST_F(ProgramaTest, AnimationGoesThroughTheWorkingPicture) {
   EXPECT_EQ(LeerArchivo(page), written) << "a cancelled page leaves the former one";
 }
 
+TEST_F(ProgramaTest, OwnCharactersAreMeasuredForEveryMethod) {
+  PonerConversion(p, kFormas);
+  EXPECT_EQ(MetodoDe(p), kFormas);
+  PrepararRepertorio(p.basAscii, p.ajustes, p.superficie);
+  PonerContrasteLocal(p, 10);
+  PonerNitidez(p, 20);
+  PonerAjusteDeTono(p, false);
+  PonerProporcion(p, 2);
+  EXPECT_EQ(p.ajustes.formas, (AjustesDeFormas{20, 10, false}));
+  EXPECT_FALSE(p.basAscii.Medidos.caracteres.empty()) << "nothing to measure again";
+  EXPECT_EQ(ResizedExtent(p.basAscii, {500, 500}, kFormas), (Extent{250, 125}));
+
+  PonerCaracteres(p, "72");
+  EXPECT_TRUE(p.basAscii.Medidos.caracteres.empty());
+  EXPECT_EQ(p.basAscii.GrayToChar[0], '7');
+  EXPECT_EQ(p.basAscii.GrayToChar[255], ' ');
+  PonerCaracteres(p, "7\u2588");
+  EXPECT_EQ(p.basAscii.GrayToChar[0], '9') << "the palette, where the code page has not all of them";
+  PonerCaracteres(p, "");
+  EXPECT_TRUE(p.ajustes.caracteres.empty());
+}
+
 TEST_F(ProgramaTest, AnimationsWriteWhatTheCodePageLacksAsReferences) {
   codec.files = {{"1.bmp", Grays({{0, 255}})}};
   EscribirArchivo(folder.File("1.bmp"), "");
