@@ -1,9 +1,11 @@
 #include "cli/Consola.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <set>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -17,6 +19,7 @@
 #include "platform/ProgramFolder.h"
 #include "platform/Stretch.h"
 #include "platform/jpeg/JpegRows.h"
+#include "platform/jpeg/Segmentos.h"
 #include "platform/qt/QtPictureCodec.h"
 #include "platform/qt/QtTextSurface.h"
 
@@ -82,9 +85,12 @@ Picture Consola::LeerImagen(const std::string& operand) {
   return picture;
 }
 
-void Consola::AdelantarLectura(const std::string& operand, Extent wanted) {
+bool Consola::AdelantarLectura(const std::string& operand, Extent wanted) {
   // What cannot be read twice waits for the reader that is asked.
-  if (std::error_code ec; !std::filesystem::is_regular_file(operand, ec)) return;
+  if (std::error_code ec; !std::filesystem::is_regular_file(operand, ec)) return false;
+  std::array<char, 3> begin{};
+  std::ifstream(operand, std::ios::binary).read(begin.data(), begin.size());
+  if (!EsJpeg({begin.data(), begin.size()})) return false;
   adelantada_ = operand;
   lectura_ = std::async(std::launch::async, [operand, wanted] {
     Adelanto read;
@@ -98,6 +104,7 @@ void Consola::AdelantarLectura(const std::string& operand, Extent wanted) {
     }
     return read;
   });
+  return true;
 }
 
 Picture Consola::LeerImagenReducida(const std::string& operand, Lectura how,

@@ -40,7 +40,8 @@ class Consola {
 
   // Begins to read a photograph that LeerImagenReducida will be asked for with Lectura::Reducida and a size
   // that is `wanted` for every picture, while the caller does something else.
-  void AdelantarLectura(const std::string& operand, Extent wanted);
+  // False where that would save nothing.
+  bool AdelantarLectura(const std::string& operand, Extent wanted);
 
   // The bytes of an operand; "-" is standard input. Throws FileError or ErrorDeTrabajo.
   std::string LeerBytes(const std::string& operand);

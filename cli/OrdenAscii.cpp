@@ -26,14 +26,19 @@ void Convertir(Consola& consola, Programa& p, const std::string& operand, int me
             [&](Lectura how, const auto& size) { return consola.LeerImagenReducida(operand, how, size); });
 }
 
-// The text and the colours from one reading of the picture.
+// The text and the colours: of a photograph from two quick readings side by side, else from one.
 Dibujo ConvertirEnColor(Consola& consola, Programa& p, const std::string& operand, int method) {
+  const Extent wanted = PixelesDeFormas(p.basAscii.AsciiColumns);
+  const bool twice = !EsDeFormas(method) && consola.AdelantarLectura(operand, wanted);
   Picture source, resized;
   Convertir(p, operand, method, [&](Lectura how, const auto& size) {
     if (how == Lectura::Reducida) return source = consola.LeerImagenReducida(operand, how, size);
+    if (twice) return resized = consola.LeerImagenReducida(operand, how, size);
     source = consola.LeerImagen(operand);
     return resized = Stretch(source, size(source.Size()));
   });
+  if (source.IsEmpty())
+    source = consola.LeerImagenReducida(operand, Lectura::Reducida, [&](Extent) { return wanted; });
   return DibujoEnColor(p, source, resized, method);
 }
 
