@@ -87,10 +87,9 @@ Malla Repartir(Extent from, Extent size, double whole, Row row) {
   return mean;
 }
 
-// The values that means of `to` parts are made of: all, or where there are many, kMuestrasDeParte evenly in
-// each part.
-std::vector<int> Muestras(int from, int to) {
-  return StretchPositions(from, std::min<std::int64_t>(from, std::int64_t{kMuestrasDeParte} * to));
+// The values that means of `to` parts are made of: all, or where there are many, `most` evenly in each part.
+std::vector<int> Muestras(int from, int to, int most) {
+  return StretchPositions(from, std::min<std::int64_t>(from, std::int64_t{most} * to));
 }
 
 // Means over 2 r + 1 cells of a line whose cells stand `step` apart, those outside it left out.
@@ -155,8 +154,8 @@ void DifuminarFilas(Malla& m, double deviation) {
 
 Malla LuzMedia(const Picture& picture, Extent size) {
   static const TablasDeLuz light;
-  const std::vector<int> xs = Muestras(picture.Width(), size.width),
-                         ys = Muestras(picture.Height(), size.height);
+  const std::vector<int> xs = Muestras(picture.Width(), size.width, kMuestrasDeAncho),
+                         ys = Muestras(picture.Height(), size.height, kMuestrasDeAlto);
   const Extent taken{static_cast<int>(xs.size()), static_cast<int>(ys.size())};
   const Reparto across(taken.width, size.width);
   return Repartir<std::uint64_t>(taken, size, kLuzEntera, [&](int y, std::vector<std::uint64_t>& parts) {

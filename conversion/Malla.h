@@ -21,8 +21,9 @@ struct Malla {
   std::vector<float> valores;
 };
 
-// A mean of light is made of this many pixels each way, at least, where the picture has them.
-inline constexpr int kMuestrasDeParte = 3;
+// Of how many pixels each way a mean of light is made, at least, where the picture has them. Fewer down,
+// because a row that is left out need not be fetched from memory.
+inline constexpr int kMuestrasDeAncho = 3, kMuestrasDeAlto = 2;
 
 // The mean light (0.2126 R + 0.7152 G + 0.0722 B, linear, 0..1) of each of size.width x size.height equal
 // parts of a picture, pixels on an edge counted by their share. Of a picture with many pixels in a part only

@@ -43,7 +43,7 @@ bool Generar(Programa& p, int method) {
 }
 
 Extent PixelesDeFormas(int columns) {
-  return {kMuestrasDeParte * kSubAncho * columns, 1};
+  return {kMuestrasDeAncho * kSubAncho * columns, 1};
 }
 
 void GenerarDe(Programa& p, const LeerReducida& read, int method) {
