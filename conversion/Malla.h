@@ -26,8 +26,8 @@ struct Malla {
 inline constexpr int kMuestrasDeAncho = 3, kMuestrasDeAlto = 2;
 
 // The mean light (0.2126 R + 0.7152 G + 0.0722 B, linear, 0..1) of each of size.width x size.height equal
-// parts of a picture, pixels on an edge counted by their share. Of a picture with many pixels in a part only
-// every second, third, ... row and column is taken, three at least in each part.
+// parts of a picture, pixels on an edge counted by their share. Of a picture with more pixels in a part than
+// those, that many are taken, evenly.
 Malla LuzMedia(const Picture& picture, Extent size);
 
 // The same of ink or any other numbers, every one of them counted: `values` are rows of from.width.
