@@ -22,6 +22,7 @@ class QtPictureCodec final : public PictureCodec {
                       std::string* aviso = nullptr) override;
   Picture ReadStretched(const std::filesystem::path& file, const std::function<Extent(Extent)>& size,
                         std::string* aviso = nullptr) override;
+  std::unique_ptr<LectorDeFotogramas> AbrirAnimacion(std::string bytes, const std::string& name) override;
   Extent Size(std::string_view bytes) override;
   std::string Encode(const Picture& picture, const std::string& format) override;
   std::vector<std::string> Formatos() override;
