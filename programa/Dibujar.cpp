@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "exportar/Colorear.h"
+#include "platform/Stretch.h"
 
 namespace pixmosa {
 namespace {
@@ -38,6 +39,38 @@ Dibujo DibujoEnColor(const Programa& p, const Picture& source, const Picture& re
   const std::vector<int> rows = method == kGrayscale ? FilasConservadas(p, resized) : std::vector<int>{};
   Colorear(drawing, MediasDeCeldas(source, cells), rows);
   return drawing;
+}
+
+OrigenDeImagen OrigenDe(Picture picture) {
+  return {[picture] { return picture; },
+          [picture](Lectura how, const std::function<Extent(Extent)>& size) {
+            const Extent wanted = size(picture.Size());
+            return how == Lectura::Estirada ? Stretch(picture, wanted) : picture;
+          }};
+}
+
+OrigenDeImagen OrigenDe(PictureCodec& codec, std::filesystem::path file) {
+  return {[&codec, file] { return codec.Read(file); },
+          [&codec, file](Lectura how, const std::function<Extent(Extent)>& size) {
+            return how == Lectura::Estirada ? codec.ReadStretched(file, size) : codec.ReadReduced(file, size);
+          }};
+}
+
+Dibujo GenerarDibujo(Programa& p, const OrigenDeImagen& source, int method, bool color) {
+  if (!color) {
+    GenerarDe(p, source.reducida, method);
+    return DibujoDe(p);
+  }
+  Picture picture, resized;
+  GenerarDe(
+      p,
+      [&](Lectura how, const std::function<Extent(Extent)>& size) {
+        if (how == Lectura::Reducida) return picture = source.reducida(how, size);
+        picture = source.entera();
+        return resized = Stretch(picture, size(picture.Size()));
+      },
+      method);
+  return DibujoEnColor(p, picture, resized, method);
 }
 
 }  // namespace pixmosa

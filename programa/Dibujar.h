@@ -3,6 +3,7 @@
 
 #include "exportar/Formatos.h"
 #include "platform/Dibujo.h"
+#include "programa/Generar.h"
 #include "programa/Programa.h"
 
 namespace pixmosa {
@@ -16,5 +17,17 @@ Dibujo DibujoDe(const Programa& p);
 // The same, every character in the mean colour of the part of `source` that it was made of. `resized` is what
 // `method` made the produced text of; the methods of EsDeFormas have none.
 Dibujo DibujoEnColor(const Programa& p, const Picture& source, const Picture& resized, int method);
+
+// Where the picture of a drawing comes from: the whole of it, or only what a method needs of it.
+struct OrigenDeImagen {
+  std::function<Picture()> entera;
+  LeerReducida reducida;
+};
+OrigenDeImagen OrigenDe(Picture picture);
+OrigenDeImagen OrigenDe(PictureCodec& codec, std::filesystem::path file);
+
+// Makes the produced text of a picture, as GenerarDe does, from one reading of it, and with `color` its
+// colours. Throws what reading throws, TextoExcesivo and DibujoExcesivo.
+Dibujo GenerarDibujo(Programa& p, const OrigenDeImagen& source, int method, bool color);
 
 }  // namespace pixmosa
