@@ -114,9 +114,10 @@ struct Abierta {
     reader.setAutoTransform(true);
   }
 
-  Decodificada Mirar() {
+  Decodificada Mirar(bool icon = false) {
     if (walls == Muros::Ninguno) return {Razon::Insegura};
     if (!reader.canRead()) return {Razon::Desconocida};
+    if (icon) IrAlMayor(reader);
     const QSize size = reader.size();
     if (size.isValid() && Pixeles(size) > kMasPixelesAparte)
       return {Razon::Grande, {}, {size.width(), size.height()}};
@@ -152,8 +153,7 @@ struct Abierta {
 
 Decodificada LeerConQt(const std::string& bytes) {
   Abierta open(bytes);
-  if (open.walls != Muros::Ninguno && TamanoDeIcono(bytes) && open.reader.canRead()) IrAlMayor(open.reader);
-  Decodificada first = open.Mirar();
+  const Decodificada first = open.Mirar(TamanoDeIcono(bytes).has_value());
   if (first.razon != Razon::Hecha) return first;
   return open.Leer();
 }

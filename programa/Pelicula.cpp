@@ -10,7 +10,7 @@
 namespace pixmosa {
 namespace {
 
-constexpr std::int64_t kMasPixelesDePelicula = 5'000'000'000;  // in all the frames of a file
+constexpr std::int64_t kMasPixelesDePelicula = 4'000'000'000;  // in all the frames of a file
 constexpr double kMasCaracteresDePelicula = 400e6;             // in all the frames of a page
 
 bool EsDigito(char c) {
@@ -158,7 +158,7 @@ bool EscribirPelicula(const Programa& p, const Pelicula& film, const std::filesy
   const auto write = [&](const Dibujo& drawing, int milliseconds) {
     const auto columns = static_cast<int>(drawing.Columnas()), rows = static_cast<int>(drawing.filas.size());
     if (!writer) {
-      set.cuadro = {std::max(columns, int{own.basAscii.AsciiColumns}), rows};
+      set.cuadro = {std::max(columns, int{own.basAscii.AsciiColumns}), std::max(1, rows)};
       writer = format.abrir(set);
     }
     characters += static_cast<double>(set.cuadro.width) * rows;
