@@ -212,14 +212,14 @@ int ConvertirACarpeta(Consola& consola, const Argumentos& arguments, const std::
                    },
                    [&, i, said, failed] {
                      for (const std::string& sentence : *said) consola.Avisar(sentence);
-                     consola.Progreso("Imagen", i, pictures.size());
+                     consola.Progreso("Imagen", i + 1, pictures.size());
                      if (*failed) status = 1;
                      return true;
                    }};
   };
+  consola.Imagenes();  // the platform starts on this thread
   consola.Progreso("Imagen", 0, pictures.size());
   Repartir(HilosPara(arguments, pictures.size()), next);
-  consola.Progreso("Imagen", pictures.size(), pictures.size());
   return status;
 }
 

@@ -64,7 +64,8 @@ int Hacer(Consola& consola, const Argumentos& arguments) try {
   const int method = MetodoDe(arguments);
   if (method == kAntiAlias) CargarPaleta3x2(p);
   if (EsDeFormas(method)) PrepararRepertorio(p.basAscii, p.ajustes, p.superficie);
-  const Revelado how = {method, output.opciones, Exportacion::MediosDe(consola, p.ajustes.font)};
+  Revelado how = {method, output.opciones, Exportacion::MediosDe(consola, p.ajustes.font)};
+  if (where == Destino::Carpeta) how.opciones.color = output.ConColor();
   const Pelicula film = PeliculaDe(consola, arguments);
   const Seguir go = [&](std::size_t k, const std::string& failure) {
     if (!failure.empty()) consola.Avisar(failure);
@@ -79,7 +80,7 @@ int Hacer(Consola& consola, const Argumentos& arguments) try {
   } else {
     EscribirPelicula(p, film, *arguments.Texto("-o"), *format, how, go);
   }
-  consola.Progreso("Fotograma", 0, 0);
+  if (where != Destino::Terminal) consola.Progreso("Fotograma", 0, 0);
   if (const std::string warning = film.aviso(); !warning.empty()) consola.Avisar(warning);
   return 0;
 } catch (const DibujoExcesivo& e) {

@@ -5,6 +5,7 @@
 #include <exception>
 #include <memory>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -17,6 +18,14 @@ struct Turno {
   std::exception_ptr fallo;
 };
 
+bool HacerUnoAUno(const std::function<std::optional<Encargo>()>& next) {
+  while (const std::optional<Encargo> piece = next()) {
+    piece->hacer(0);
+    if (!piece->despues()) return false;
+  }
+  return true;
+}
+
 class Reparto {
  public:
   explicit Reparto(const std::function<std::optional<Encargo>()>& next) : siguiente_(next) {}
@@ -24,14 +33,19 @@ class Reparto {
   bool Hacer(unsigned threads) {
     std::vector<std::jthread> all;
     enMarcha_ = threads;
-    for (unsigned n = 0; n < threads; ++n)
-      all.emplace_back([this, n] {
-        while (const auto turn = Tomar()) Cumplir(*turn, n);
-        const std::lock_guard lock(llave_);
-        --enMarcha_;
-        aviso_.notify_all();
-      });
-    return Recoger();
+    try {
+      for (unsigned n = 0; n < threads; ++n)
+        all.emplace_back([this, n] {
+          while (const auto turn = Tomar()) Cumplir(*turn, n);
+          const std::lock_guard lock(llave_);
+          --enMarcha_;
+          aviso_.notify_all();
+        });
+    } catch (const std::system_error&) {  // the system gives no more of them
+      const std::lock_guard lock(llave_);
+      enMarcha_ -= threads - static_cast<unsigned>(all.size());
+    }
+    return all.empty() ? HacerUnoAUno(siguiente_) : Recoger();
   }
 
  private:
@@ -110,12 +124,7 @@ class Reparto {
 }  // namespace
 
 bool Repartir(unsigned threads, const std::function<std::optional<Encargo>()>& siguiente) {
-  if (threads > 1) return Reparto(siguiente).Hacer(threads);
-  while (const std::optional<Encargo> next = siguiente()) {
-    next->hacer(0);
-    if (!next->despues()) return false;
-  }
-  return true;
+  return threads > 1 ? Reparto(siguiente).Hacer(threads) : HacerUnoAUno(siguiente);
 }
 
 }  // namespace pixmosa

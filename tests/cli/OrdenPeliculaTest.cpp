@@ -165,7 +165,7 @@ TEST_F(OrdenPeliculaTest, WrongUseIsSaid) {
        1,
        "No se ha podido leer \"" + folder.File("no.gif") + "\": no existe"},
       {{"-", "-o", where}, 1, "No se ha podido leer la imagen \"-\": el archivo está vacío"},
-      {{gif, "-o", folder.File("p.gif"), "--columnas", "9000", "--escala", "8"},
+      {{gif, "-o", folder.File("p.gif"), "--columnas", "3000", "--escala", "8"},
        1,
        "\"" + gif + "\": La imagen sería demasiado grande: "},
   };
