@@ -44,7 +44,7 @@ class Lector final : public LectorDeFotogramas {
  public:
   Lector(std::string bytes, const std::string& name) : nombre_(name), cinta_{std::move(bytes)} {
     cuantos_ = ContarFotogramas(cinta_.bytes);
-    gif_.reset(DGifOpen(&cinta_, Cinta::Tomar, nullptr));
+    if (cinta_.bytes.starts_with("GIF8")) gif_.reset(DGifOpen(&cinta_, Cinta::Tomar, nullptr));
     if (!gif_ || gif_->SWidth <= 0 || gif_->SHeight <= 0)
       throw PictureError("No se ha podido leer la imagen \"" + name +
                          "\": el archivo está dañado o incompleto.");
