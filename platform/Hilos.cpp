@@ -55,7 +55,7 @@ class Reparto {
       const std::lock_guard lock(llave_);
       if (acabado_) return nullptr;
     }
-    const auto turn = std::make_shared<Turno>();
+    auto turn = std::make_shared<Turno>();
     try {
       std::optional<Encargo> next = siguiente_();
       if (!next) return nullptr;

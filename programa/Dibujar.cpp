@@ -41,7 +41,7 @@ Dibujo DibujoEnColor(const Programa& p, const Picture& source, const Picture& re
   return drawing;
 }
 
-OrigenDeImagen OrigenDe(Picture picture) {
+OrigenDeImagen OrigenDe(const Picture& picture) {
   return {[picture] { return picture; },
           [picture](Lectura how, const std::function<Extent(Extent)>& size) {
             const Extent wanted = size(picture.Size());
@@ -49,7 +49,7 @@ OrigenDeImagen OrigenDe(Picture picture) {
           }};
 }
 
-OrigenDeImagen OrigenDe(PictureCodec& codec, std::filesystem::path file) {
+OrigenDeImagen OrigenDe(PictureCodec& codec, const std::filesystem::path& file) {
   return {[&codec, file] { return codec.Read(file); },
           [&codec, file](Lectura how, const std::function<Extent(Extent)>& size) {
             return how == Lectura::Estirada ? codec.ReadStretched(file, size) : codec.ReadReduced(file, size);

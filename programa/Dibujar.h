@@ -23,8 +23,8 @@ struct OrigenDeImagen {
   std::function<Picture()> entera;
   LeerReducida reducida;
 };
-OrigenDeImagen OrigenDe(Picture picture);
-OrigenDeImagen OrigenDe(PictureCodec& codec, std::filesystem::path file);
+OrigenDeImagen OrigenDe(const Picture& picture);
+OrigenDeImagen OrigenDe(PictureCodec& codec, const std::filesystem::path& file);
 
 // Makes the produced text of a picture, as GenerarDe does, from one reading of it, and with `color` its
 // colours. Throws what reading throws, TextoExcesivo and DibujoExcesivo.

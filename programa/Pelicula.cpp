@@ -96,8 +96,7 @@ Pelicula PeliculaDeArchivo(PictureCodec& codec, std::string bytes, const std::st
   film.siguiente = [reader, name, k = std::size_t{0}]() mutable -> std::optional<Toma> {
     std::optional<Fotograma> frame = reader->Siguiente();
     if (!frame) return std::nullopt;
-    return Toma{name + ", fotograma " + std::to_string(++k), frame->milisegundos,
-                OrigenDe(std::move(frame->imagen))};
+    return Toma{name + ", fotograma " + std::to_string(++k), frame->milisegundos, OrigenDe(frame->imagen)};
   };
   film.aviso = [reader] { return reader->Aviso(); };
   return film;

@@ -16,9 +16,9 @@ namespace {
 
 constexpr int kPrisa = 7;  // of libimagequant, 1 (slow) to 10
 
-template <auto Free>
+template <auto soltar>
 struct Cierre {
-  void operator()(auto* p) const { Free(p); }
+  void operator()(auto* p) const { soltar(p); }
 };
 
 using Mapa = std::unique_ptr<ColorMapObject, Cierre<GifFreeMapObject>>;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <gif_lib.h>
 #include <vector>
 
@@ -19,7 +18,7 @@ struct Cinta {
   static int Tomar(GifFileType* gif, GifByteType* to, int n) {
     auto& tape = *static_cast<Cinta*>(gif->UserData);
     const std::size_t got = std::min<std::size_t>(static_cast<std::size_t>(n), tape.bytes.size() - tape.at);
-    std::memcpy(to, tape.bytes.data() + tape.at, got);
+    std::copy_n(tape.bytes.begin() + static_cast<std::ptrdiff_t>(tape.at), got, to);
     tape.at += got;
     return static_cast<int>(got);
   }
@@ -51,13 +50,14 @@ class Lector final : public LectorDeFotogramas {
   }
 
   std::optional<Fotograma> Siguiente() override {
-    while (!acabado_) {
+    while (!acabado_ && dados_ < cuantos_) {
       GifRecordType record = UNDEFINED_RECORD_TYPE;
       if (DGifGetRecordType(gif_.get(), &record) == GIF_ERROR) return Cortar();
       if (record == TERMINATE_RECORD_TYPE) break;
       if (record == EXTENSION_RECORD_TYPE && !LeerExtension()) return Cortar();
       if (record != IMAGE_DESC_RECORD_TYPE) continue;
       if (DGifGetImageDesc(gif_.get()) == GIF_ERROR) return Cortar();
+      ++dados_;
       return Componer();
     }
     acabado_ = true;
@@ -115,7 +115,8 @@ class Lector final : public LectorDeFotogramas {
     const std::array<std::uint32_t, 256> colours = Colores(d.ColorMap ? d.ColorMap : gif_->SColorMap);
     std::vector<GifByteType> line(static_cast<std::size_t>(std::max(1, d.Width)));
     std::uint32_t* const pixels = lienzo_.Writable();
-    for (int i = 0; i < d.Height && d.Width > 0; ++i) {
+    if (d.Width == 0 || d.Height == 0) return PasarSobreDatos();
+    for (int i = 0; i < d.Height; ++i) {
       if (DGifGetLine(gif_.get(), line.data(), d.Width) == GIF_ERROR) {
         Cortar();
         return i > 0;
@@ -127,6 +128,18 @@ class Lector final : public LectorDeFotogramas {
         if (line[static_cast<std::size_t>(x)] != control_.TransparentColor)
           to[x] = colours[line[static_cast<std::size_t>(x)]];
     }
+    return true;
+  }
+
+  // Those of a frame without pixels.
+  bool PasarSobreDatos() {
+    GifByteType* block = nullptr;
+    do {
+      if (DGifGetCodeNext(gif_.get(), &block) == GIF_ERROR) {
+        Cortar();
+        return false;
+      }
+    } while (block);
     return true;
   }
 
@@ -156,7 +169,7 @@ class Lector final : public LectorDeFotogramas {
   std::string nombre_;
   Cinta cinta_;
   std::unique_ptr<GifFileType, Cierre> gif_;
-  std::size_t cuantos_ = 0;
+  std::size_t cuantos_ = 0, dados_ = 0;
   GraphicsControlBlock control_ = kSinControl;
   Picture lienzo_;
   Zona porBlanquear_;
