@@ -16,9 +16,9 @@ namespace {
 
 constexpr int kPrisa = 7;  // of libimagequant, 1 (slow) to 10
 
-template <auto soltar>
+template <auto kSoltar>
 struct Cierre {
-  void operator()(auto* p) const { soltar(p); }
+  void operator()(auto* p) const { kSoltar(p); }
 };
 
 using Mapa = std::unique_ptr<ColorMapObject, Cierre<GifFreeMapObject>>;
