@@ -1,25 +1,25 @@
 #include "cli/Consola.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <set>
 #include <sys/ioctl.h>
+#include <thread>
 #include <unistd.h>
 
 #include <QGuiApplication>
 
+#include "cli/Adelanto.h"
 #include "cli/Destino.h"
 #include "cli/Frases.h"
 #include "platform/AtomicFile.h"
 #include "platform/CodePage.h"
+#include "platform/Hilos.h"
 #include "platform/ProgramFolder.h"
 #include "platform/Stretch.h"
-#include "platform/jpeg/JpegRows.h"
-#include "platform/jpeg/Segmentos.h"
+#include "platform/SuperficieCompartida.h"
 #include "platform/qt/QtPictureCodec.h"
 #include "platform/qt/QtTextSurface.h"
 
@@ -27,6 +27,7 @@ namespace pixmosa::cli {
 namespace {
 
 constexpr int kColumnasSinTerminal = 80;
+constexpr int kMasHilos = 32;  // as many unfinished files as a signal can remove
 
 std::string LeerEntrada() {
   return LeerFlujo(stdin, "-", kMasBytesDeImagen);
@@ -48,7 +49,8 @@ struct Consola::Servicios {
   char name[12] = "pixmosa-cli";
   char* argv[2] = {name, nullptr};
   QGuiApplication app{argc, argv};
-  QtTextSurface superficie;
+  QtTextSurface letras;
+  SuperficieCompartida superficie{letras};
   QtPictureCodec imagenes;
 };
 
@@ -77,54 +79,38 @@ Programa Consola::NuevoPrograma() {
   return {Superficie(), Imagenes(), ProgramFolder(), FontFolders()};
 }
 
-Picture Consola::LeerImagen(const std::string& operand) {
+Picture Consola::LeerImagen(const std::string& operand, const Aviso& say) {
   std::string warning;
   Picture picture = operand == "-" ? Imagenes().ReadBytes(LeerEntrada(), "-", &warning)
                                    : Imagenes().Read(operand, &warning);
-  if (!warning.empty()) Avisar(warning);
+  if (!warning.empty()) say ? say(warning) : Avisar(warning);
   return picture;
-}
-
-bool Consola::AdelantarLectura(const std::string& operand, Extent wanted) {
-  // What cannot be read twice waits for the reader that is asked.
-  if (std::error_code ec; !std::filesystem::is_regular_file(operand, ec)) return false;
-  std::array<char, 3> begin{};
-  std::ifstream(operand, std::ios::binary).read(begin.data(), begin.size());
-  if (!EsJpeg({begin.data(), begin.size()})) return false;
-  adelantada_ = operand;
-  lectura_ = std::async(std::launch::async, [operand, wanted] {
-    Adelanto read;
-    try {
-      read.imagen = ReadJpegReduced(LeerArchivo(operand, kMasBytesDeImagen), [&](Extent source) {
-        read.entera = source;
-        return CabeEnMemoria(source) ? wanted : Extent{};
-      });
-    } catch (const std::exception&) {
-      read.imagen.reset();  // the general reader says what is wrong
-    }
-    return read;
-  });
-  return true;
 }
 
 Picture Consola::LeerImagenReducida(const std::string& operand, Lectura how,
-                                    const std::function<Extent(Extent)>& size) {
+                                    const std::function<Extent(Extent)>& size, const Aviso& say) {
   const bool stretch = how == Lectura::Estirada;
   if (operand == "-") {
-    const Picture whole = LeerImagen(operand);
+    const Picture whole = LeerImagen(operand, say);
     const Extent wanted = size(whole.Size());
     return stretch ? Stretch(whole, wanted) : whole;
   }
-  if (!stretch && operand == adelantada_ && lectura_.valid())
-    if (const Adelanto read = lectura_.get(); read.imagen) {
-      size(read.entera);
-      return *read.imagen;
-    }
   std::string warning;
   Picture picture = stretch ? Imagenes().ReadStretched(operand, size, &warning)
                             : Imagenes().ReadReduced(operand, size, &warning);
-  if (!warning.empty()) Avisar(warning);
+  if (!warning.empty()) say ? say(warning) : Avisar(warning);
   return picture;
+}
+
+OrigenDeImagen Consola::Origen(const std::string& operand, const Aviso& say) {
+  const auto ahead = std::make_shared<Adelanto>();
+  return {[&, say] { return LeerImagen(operand, say); },
+          [&, say, ahead](Lectura how, const std::function<Extent(Extent)>& size) {
+            if (how == Lectura::Reducida)
+              if (const std::optional<Picture> picture = ahead->Tomar(size)) return *picture;
+            return LeerImagenReducida(operand, how, size, say);
+          },
+          [&, ahead](Extent wanted) { return operand != "-" && ahead->Empezar(operand, wanted); }};
 }
 
 std::string Consola::LeerBytes(const std::string& operand) {
@@ -169,9 +155,36 @@ int Consola::AnchoDeTerminal() const {
   return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : kColumnasSinTerminal;
 }
 
+int Consola::AltoDeTerminal() const {
+  winsize size{};
+  return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size.ws_row : 0;
+}
+
+Opcion OpcionDeHilos() {
+  return {"--hilos", Tipo::Entero,
+          "N",       "con --carpeta: cuántas imágenes a la vez; si falta, todos los núcleos",
+          1,         kMasHilos};
+}
+
+unsigned HilosPara(const Argumentos& arguments, std::size_t pieces) {
+  const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  const int wanted = arguments.Entero("--hilos", std::min(cores, kMasHilos));
+  return static_cast<unsigned>(
+      std::min<std::size_t>(static_cast<std::size_t>(wanted), std::max<std::size_t>(1, pieces)));
+}
+
+std::string CrearCarpeta(const Argumentos& arguments) {
+  std::string folder = arguments.Exigir("--carpeta");
+  std::error_code error;
+  std::filesystem::create_directories(folder, error);
+  if (error)
+    throw ErrorDeTrabajo("No se ha podido crear la carpeta \"" + folder +
+                         "\": " + RazonDelError(error.value()) + ".");
+  return folder;
+}
+
 int ConvertirACarpeta(Consola& consola, const Argumentos& arguments, const std::vector<std::string>& pictures,
-                      const std::string& ending,
-                      const std::function<void(const std::string&, const std::string&)>& work) {
+                      const std::string& ending, const TrabajoDeCarpeta& work) {
   namespace fs = std::filesystem;
   const std::string folder = arguments.Exigir("--carpeta");
   std::vector<std::string> files;
@@ -183,22 +196,35 @@ int ConvertirACarpeta(Consola& consola, const Argumentos& arguments, const std::
       throw ErrorDeUso("dos imágenes darían el mismo archivo \"" + files.back() + "\"");
     ExigirOtroArchivo(arguments, files.back());
   }
-  std::error_code error;
-  fs::create_directories(folder, error);
-  if (error)
-    throw ErrorDeTrabajo("No se ha podido crear la carpeta \"" + folder +
-                         "\": " + RazonDelError(error.value()) + ".");
+  CrearCarpeta(arguments);
   int status = 0;
-  for (std::size_t i = 0; i < pictures.size(); ++i) {
-    consola.Progreso("Imagen", i, pictures.size());
-    try {
-      Nombrando(pictures[i], [&] { work(pictures[i], files[i]); });
-    } catch (const std::exception& e) {
-      consola.Avisar(FraseDe(e));
-      status = 1;
-    }
-  }
-  consola.Progreso("Imagen", pictures.size(), pictures.size());
+  std::size_t taken = 0;
+  const auto next = [&]() -> std::optional<Encargo> {
+    if (taken == pictures.size()) return std::nullopt;
+    const std::size_t i = taken++;
+    const auto said = std::make_shared<std::vector<std::string>>();
+    const auto failed = std::make_shared<bool>(false);
+    return Encargo{[&, i, said, failed](unsigned thread) {
+                     try {
+                       Nombrando(pictures[i], [&] {
+                         work(pictures[i], files[i], thread,
+                              [&](std::string_view sentence) { said->emplace_back(sentence); });
+                       });
+                     } catch (const std::exception& e) {
+                       said->push_back(FraseDe(e));
+                       *failed = true;
+                     }
+                   },
+                   [&, i, said, failed] {
+                     for (const std::string& sentence : *said) consola.Avisar(sentence);
+                     consola.Progreso("Imagen", i + 1, pictures.size());
+                     if (*failed) status = 1;
+                     return true;
+                   }};
+  };
+  consola.Imagenes();  // the platform starts on this thread
+  consola.Progreso("Imagen", 0, pictures.size());
+  Repartir(HilosPara(arguments, pictures.size()), next);
   return status;
 }
 

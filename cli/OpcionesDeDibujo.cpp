@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "conversion/TextoGuardado.h"
+#include "platform/gif/EscritorDeGif.h"
 #include "platform/png/Png.h"
 
 namespace pixmosa::cli {
@@ -80,15 +81,21 @@ bool Exportacion::EsTexto() const {
   return formato == Formatos().data();
 }
 
+Medios Exportacion::MediosDe(Consola& consola, const Font& font) {
+  TextSurface& surface = consola.Superficie();
+  return {surface,
+          font,
+          surface.GetTextSize(font, "A"),
+          [](const Picture& picture) { return EscribirPng(picture, Empaquetado::Pequeno); },
+          [font](std::string_view text) { return TextoGuardado(font, text); },
+          EscribirGif};
+}
+
 std::string Exportacion::Bytes(Consola& consola, const Font& font, const Dibujo& drawing,
                                const std::string& title) const {
-  TextSurface& surface = consola.Superficie();
-  const Medios means = {surface, font, surface.GetTextSize(font, "A"),
-                        [](const Picture& picture) { return EscribirPng(picture, Empaquetado::Pequeno); },
-                        [&](std::string_view text) { return TextoGuardado(font, text); }};
   OpcionesDeExportar o = opciones;
   if (!conTitulo) o.titulo = title;
-  return formato->escribir(drawing, o, means);
+  return formato->escribir(drawing, o, MediosDe(consola, font));
 }
 
 }  // namespace pixmosa::cli

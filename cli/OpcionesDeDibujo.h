@@ -29,6 +29,9 @@ struct Exportacion {
   std::string Bytes(Consola& consola, const Font& font, const Dibujo& drawing,
                     const std::string& title) const;
 
+  // What its writers, and those of films, need.
+  static Medios MediosDe(Consola& consola, const Font& font);
+
   const Formato* formato;
   OpcionesDeExportar opciones;
   bool conTitulo;

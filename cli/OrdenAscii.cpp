@@ -7,59 +7,40 @@
 #include "cli/Ordenes.h"
 #include "conversion/TextoGuardado.h"
 #include "platform/AtomicFile.h"
-#include "platform/Stretch.h"
 #include "programa/Dibujar.h"
 #include "programa/Generar.h"
 
 namespace pixmosa::cli {
 namespace {
 
-// `read` gives the picture of the operand, stretched or reduced.
-void Convertir(Programa& p, const std::string& operand, int method, const LeerReducida& read) try {
-  GenerarDe(p, read, method);
+// The art of an operand's picture; the text alone is left in the program.
+Dibujo Convertir(Programa& p, const std::string& operand, const OrigenDeImagen& source, int method,
+                 const Exportacion& output) try {
+  if (!output.EsTexto()) return GenerarDibujo(p, source, method, output.ConColor());
+  GenerarDe(p, source.reducida, method);
+  return {};
 } catch (const TextoExcesivo& e) {
   throw TextoExcesivo(e.columnas, e.filas, operand);
-}
-
-void Convertir(Consola& consola, Programa& p, const std::string& operand, int method) {
-  Convertir(p, operand, method,
-            [&](Lectura how, const auto& size) { return consola.LeerImagenReducida(operand, how, size); });
-}
-
-// The text and the colours: of a photograph from two quick readings side by side, else from one.
-Dibujo ConvertirEnColor(Consola& consola, Programa& p, const std::string& operand, int method) {
-  const Extent wanted = PixelesDeFormas(p.basAscii.AsciiColumns);
-  const bool twice = !EsDeFormas(method) && consola.AdelantarLectura(operand, wanted);
-  Picture source, resized;
-  Convertir(p, operand, method, [&](Lectura how, const auto& size) {
-    if (how == Lectura::Reducida) return source = consola.LeerImagenReducida(operand, how, size);
-    if (twice) return resized = consola.LeerImagenReducida(operand, how, size);
-    source = consola.LeerImagen(operand);
-    return resized = Stretch(source, size(source.Size()));
-  });
-  if (source.IsEmpty())
-    source = consola.LeerImagenReducida(operand, Lectura::Reducida, [&](Extent) { return wanted; });
-  return DibujoEnColor(p, source, resized, method);
+} catch (const DibujoExcesivo& e) {
+  throw ErrorDeTrabajo("\"" + operand + "\": " + e.what());
 }
 
 // The saved text; where it is not as ever, that is said.
-std::string Guardado(Consola& consola, const Programa& p, const std::string& operand) {
+std::string Guardado(const Programa& p, const std::string& operand, const Aviso& say) {
   const BasAscii& ascii = p.basAscii;
   if (ascii.ProducedUtf8.empty()) return TextoGuardado(p.ajustes.font, ascii.ProducedText);
-  consola.Avisar("El texto de \"" + operand +
-                 "\" se guarda en UTF-8, porque tiene caracteres que faltan en la página de códigos.");
+  say("El texto de \"" + operand +
+      "\" se guarda en UTF-8, porque tiene caracteres que faltan en la página de códigos.");
   return TextoGuardadoUtf8(p.ajustes.font, ascii.ProducedUtf8);
 }
 
 // The file's bytes.
 std::string Convertido(Consola& consola, Programa& p, const std::string& operand, int method,
-                       const Exportacion& output) try {
+                       const Exportacion& output, const OrigenDeImagen& source, const Aviso& say) try {
   const std::string name = operand == "-" ? "Pixmosa" : std::filesystem::path(operand).stem().string();
-  if (output.ConColor())
-    return output.Bytes(consola, p.ajustes.font, ConvertirEnColor(consola, p, operand, method), name);
-  Convertir(consola, p, operand, method);
-  if (output.EsTexto()) return Guardado(consola, p, operand);
-  return output.Bytes(consola, p.ajustes.font, DibujoDe(p), name);
+  const Dibujo drawing = Convertir(p, operand, source, method, output);
+  if (output.EsTexto()) return Guardado(p, operand, say);
+  return output.Bytes(consola, p.ajustes.font, drawing, name);
 } catch (const DibujoExcesivo& e) {
   throw ErrorDeTrabajo("\"" + operand + "\": " + e.what());
 }
@@ -74,23 +55,30 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   const Exportacion output(arguments);
   const int method = MetodoDe(arguments);
   // A photograph is decoded while the fonts are loaded and measured.
-  if (EsDeFormas(method) && pictures.size() == 1 && arguments.Tiene("--columnas"))
-    consola.AdelantarLectura(pictures[0], PixelesDeFormas(arguments.Entero("--columnas", 0)));
+  const OrigenDeImagen first = consola.Origen(pictures[0]);
+  if (EsDeFormas(method) && !folder && arguments.Tiene("--columnas"))
+    first.adelantar(PixelesDeFormas(arguments.Entero("--columnas", 0)));
   Programa p = PrepararPrograma(consola, arguments);
   ExigirCaracteres(p);
   if (method == kAntiAlias) CargarPaleta3x2(p);
-  if (folder)
-    return ConvertirACarpeta(consola, arguments, pictures, output.Terminacion(),
-                             [&](const std::string& operand, const std::string& to) {
-                               EscribirArchivo(to, Convertido(consola, p, operand, method, output));
-                             });
+  if (EsDeFormas(method)) PrepararRepertorio(p.basAscii, p.ajustes, p.superficie);
+  if (folder) {
+    std::vector<Programa> own(HilosPara(arguments, pictures.size()), p);
+    return ConvertirACarpeta(
+        consola, arguments, pictures, output.Terminacion(),
+        [&](const std::string& operand, const std::string& to, unsigned thread, const Aviso& say) {
+          EscribirArchivo(to, Convertido(consola, own[thread], operand, method, output,
+                                         consola.Origen(operand, say), say));
+        });
+  }
+  const Aviso say = [&](std::string_view sentence) { consola.Avisar(sentence); };
   if (file) {
-    EscribirArchivo(*file, Convertido(consola, p, pictures[0], method, output));
+    EscribirArchivo(*file, Convertido(consola, p, pictures[0], method, output, first, say));
   } else if (output.EsTexto()) {
-    Convertir(consola, p, pictures[0], method);
+    Convertir(p, pictures[0], first, method, output);
     consola.EscribirLineas(TextoEnUtf8(p.basAscii));
   } else {
-    consola.EscribirArchivoEntero(Convertido(consola, p, pictures[0], method, output));
+    consola.EscribirArchivoEntero(Convertido(consola, p, pictures[0], method, output, first, say));
   }
   return 0;
 }
@@ -105,6 +93,7 @@ Orden OrdenAscii() {
       "pixmosa-cli ascii foto.jpg --columnas 100",
       Juntar(Juntar({{"-o", Tipo::Texto, "ARCHIVO", "archivo donde se guarda; si falta, la salida estándar"},
                      {"--carpeta", Tipo::Texto, "DIR", "carpeta donde se guarda un archivo de cada imagen"},
+                     OpcionDeHilos(),
                      OpcionDeSobrescribir(),
                      {"--metodo",
                       Tipo::Eleccion,

@@ -65,12 +65,13 @@ void Guardar(Consola& consola, const Picture& picture, const std::string& file, 
 
 // One picture through every step; the draws start anew for each picture.
 void Transformar(Consola& consola, const Argumentos& arguments, const Pedido& order,
-                 const std::string& operand, const std::string& file, const std::string& format) {
+                 const std::string& operand, const std::string& file, const std::string& format,
+                 const Aviso& say = {}) {
   MFiltros m;
   if (arguments.Tiene("--semilla"))
     m.random.Seed(static_cast<std::uint64_t>(arguments.Entero("--semilla", 0)));
   ImagenDeTrabajo image;
-  image.Cargar(consola.LeerImagen(operand));
+  image.Cargar(consola.LeerImagen(operand, say));
   for (const Paso& step : order.pasos) DarPaso(m, image, step);
   Guardar(consola, image.picMain, file, format);
 }
@@ -81,10 +82,11 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
   if (!file && !folder) throw ErrorDeUso("falta la opción -o con el archivo de la imagen nueva");
   const Pedido order = PedidoDe(arguments);
   if (folder)
-    return ConvertirACarpeta(consola, arguments, order.imagenes, ".png",
-                             [&](const std::string& operand, const std::string& to) {
-                               Transformar(consola, arguments, order, operand, to, "png");
-                             });
+    return ConvertirACarpeta(
+        consola, arguments, order.imagenes, ".png",
+        [&](const std::string& operand, const std::string& to, unsigned, const Aviso& say) {
+          Transformar(consola, arguments, order, operand, to, "png", say);
+        });
   if (order.imagenes.size() > 1) throw ErrorDeUso("varias imágenes necesitan la opción --carpeta");
   Transformar(consola, arguments, order, order.imagenes[0], *file, FormatoDe(consola, *file));
   return 0;
@@ -99,6 +101,7 @@ Orden OrdenEfecto() {
           "pixmosa-cli efecto foto.jpg 14=20 desenfocar espejo-arriba-abajo -o nueva.png",
           {{"-o", Tipo::Texto, "SALIDA", "archivo de la imagen nueva; su terminación da el formato"},
            {"--carpeta", Tipo::Texto, "DIR", "carpeta donde se guarda un NOMBRE.png de cada imagen"},
+           OpcionDeHilos(),
            OpcionDeSobrescribir(),
            {"--semilla", Tipo::Entero, "N", "empieza el azar de los efectos 4 y 29 en N, para repetirlo", 0,
             INT_MAX}},

@@ -52,8 +52,8 @@ int Despachar(Consola& consola, std::span<const std::string> words) {
 
 std::span<const Orden> Ordenes() {
   static const std::vector<Orden> orders = {
-      OrdenAscii(), OrdenTabla(),   OrdenEfecto(),  OrdenWeb(),          OrdenFotogramas(),
-      OrdenAnim(),  OrdenLetrero(), OrdenFuentes(), OrdenEstadisticas(), OrdenComparar()};
+      OrdenAscii(),    OrdenTabla(),   OrdenEfecto(),  OrdenWeb(),          OrdenFotogramas(), OrdenAnim(),
+      OrdenPelicula(), OrdenLetrero(), OrdenFuentes(), OrdenEstadisticas(), OrdenComparar()};
   return orders;
 }
 

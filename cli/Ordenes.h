@@ -12,6 +12,7 @@ Orden OrdenComparar();
 Orden OrdenWeb();
 Orden OrdenFotogramas();
 Orden OrdenAnim();
+Orden OrdenPelicula();
 Orden OrdenLetrero();
 Orden OrdenFuentes();
 Orden OrdenEstadisticas();

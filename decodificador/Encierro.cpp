@@ -22,7 +22,6 @@
 namespace pixmosa {
 namespace {
 
-constexpr rlim_t kSegundos = 6;
 constexpr rlim_t kMemoria = rlim_t{2} << 30;
 constexpr rlim_t kArchivos = 64;
 
@@ -153,7 +152,7 @@ bool Permitir(scmp_filter_ctx filter, bool reading) {
 
 }  // namespace
 
-bool Limitar() {
+bool Limitar(unsigned seconds) {
   const auto limit = [](auto what, rlim_t soft, rlim_t hard) {
     rlimit l{};
     if (::getrlimit(what, &l) != 0) return false;
@@ -163,7 +162,7 @@ bool Limitar() {
   };
   ::signal(SIGXFSZ, SIG_IGN);  // a write that is refused need not end the process
   // The soft limit of processor time ends with its own signal, which tells the client why.
-  return limit(RLIMIT_CPU, kSegundos, kSegundos + 1) && limit(RLIMIT_AS, kMemoria, kMemoria) &&
+  return limit(RLIMIT_CPU, seconds, rlim_t{seconds} + 1) && limit(RLIMIT_AS, kMemoria, kMemoria) &&
          limit(RLIMIT_FSIZE, 0, 0) && limit(RLIMIT_NOFILE, kArchivos, kArchivos) &&
          limit(RLIMIT_CORE, 0, 0) && ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
          ::prctl(PR_SET_PDEATHSIG, SIGKILL) == 0;

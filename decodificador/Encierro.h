@@ -6,9 +6,12 @@
 
 namespace pixmosa {
 
+// Of processor time: for a picture, and for all the frames of a film.
+inline constexpr unsigned kSegundosDeImagen = 6, kSegundosDePelicula = 120;
+
 // From the first moment: seconds of processor time, memory, no files written, no greater rights, and the end
 // with whoever started it. A limit that is lower already stays. False where the system refuses one.
-bool Limitar();
+bool Limitar(unsigned seconds = kSegundosDeImagen);
 
 // What could be raised.
 enum class Muros { Ninguno, SinCarpetas, Enteros };

@@ -1,5 +1,7 @@
-// The decoding process: a file's bytes on standard input, an answer (Respuesta.h) on standard output. It
+// The decoding process: a file's bytes on standard input, an answer (Respuesta.h) on standard output, or one
+// for each frame where it is asked for a film. It
 // reads the kinds of picture whose readers are not to be trusted, behind walls that hold when a reader fails.
+#include <algorithm>
 #include <cstdio>
 #include <new>
 #include <string>
@@ -45,6 +47,10 @@ bool Responder(const Decodificada& d) {
   c.ancho = static_cast<std::uint32_t>(size.width);
   c.alto = static_cast<std::uint32_t>(size.height);
   return Escribir(&c, sizeof c) && Escribir(d.imagen.Pixels(), d.imagen.PixelCount() * sizeof(std::uint32_t));
+}
+
+bool ResponderFotograma(const Decodificada& d, Ritmo pace = {}) {
+  return d.razon <= kUltimaRespondida && Escribir(&pace, sizeof pace) && Responder(d);
 }
 
 std::int64_t Pixeles(QSize size) {
@@ -94,34 +100,79 @@ Decodificada Juzgar(Decodificada d, Muros walls, bool letters) {
   return d;
 }
 
-Decodificada LeerConQt(const std::string& bytes) {
-  QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=true"));
-  CargarLectores();
-  QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  QBuffer buffer(&data);
-  buffer.open(QIODevice::ReadOnly);
-  const Muros walls = Encerrar(CarpetasDeLetras());
-  if (walls == Muros::Ninguno) return {Razon::Insegura};
-  QImageReader reader(&buffer);
-  QImageReader::setAllocationLimit(0);  // the process has a limit of its own
-  reader.setDecideFormatFromContent(true);
-  reader.setAutoTransform(true);
-  if (!reader.canRead()) return {Razon::Desconocida};
-  if (TamanoDeIcono(bytes)) IrAlMayor(reader);
-  const QSize size = reader.size();
-  if (size.isValid() && Pixeles(size) > kMasPixelesAparte)
-    return {Razon::Grande, {}, {size.width(), size.height()}};
-  if (size.isValid() && size.isEmpty()) return {Razon::Vacia};
-  const bool letters = reader.format().startsWith("svg");
-  QImage image;
-  if (!reader.read(&image)) {
-    // What the system cannot give is not the file's fault.
-    const bool room = !size.isValid() || !QImage(size, QImage::Format_ARGB32).isNull();
-    return Juzgar({room ? Razon::Danada : Razon::SinMemoria}, walls, letters);
+// A reader behind the walls, and what it says before it decodes: Hecha where it can go on.
+struct Abierta {
+  explicit Abierta(const std::string& bytes)
+      : data(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()))) {
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.svg*=true"));
+    CargarLectores();
+    buffer.open(QIODevice::ReadOnly);
+    walls = Encerrar(CarpetasDeLetras());
+    if (walls == Muros::Ninguno) return;
+    QImageReader::setAllocationLimit(0);  // the process has a limit of its own
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
   }
-  if (image.isNull()) return {Razon::Vacia};
-  if (Pixeles(image.size()) > kMasPixelesAparte) return {Razon::Grande, {}, {image.width(), image.height()}};
-  return Juzgar({Razon::Hecha, PictureOf(std::move(image)), {}}, walls, letters);
+
+  Decodificada Mirar(bool icon = false) {
+    if (walls == Muros::Ninguno) return {Razon::Insegura};
+    if (!reader.canRead()) return {Razon::Desconocida};
+    if (icon) IrAlMayor(reader);
+    const QSize size = reader.size();
+    if (size.isValid() && Pixeles(size) > kMasPixelesAparte)
+      return {Razon::Grande, {}, {size.width(), size.height()}};
+    if (size.isValid() && size.isEmpty()) return {Razon::Vacia};
+    letters = reader.format().startsWith("svg");
+    return {Razon::Hecha};
+  }
+
+  // One picture.
+  Decodificada Leer() { return Juzgar(Decodificar(), walls, letters); }
+
+  QByteArray data;
+  QBuffer buffer{&data};
+  Muros walls = Muros::Ninguno;
+  bool letters = false;
+  QImageReader reader{&buffer};
+
+ private:
+  Decodificada Decodificar() {
+    const QSize size = reader.size();
+    QImage image;
+    if (!reader.read(&image)) {
+      // What the system cannot give is not the file's fault.
+      const bool room = !size.isValid() || !QImage(size, QImage::Format_ARGB32).isNull();
+      return {room ? Razon::Danada : Razon::SinMemoria};
+    }
+    if (image.isNull()) return {Razon::Vacia};
+    if (Pixeles(image.size()) > kMasPixelesAparte)
+      return {Razon::Grande, {}, {image.width(), image.height()}};
+    return {Razon::Hecha, PictureOf(std::move(image)), {}};
+  }
+};
+
+Decodificada LeerConQt(const std::string& bytes) {
+  Abierta open(bytes);
+  const Decodificada first = open.Mirar(TamanoDeIcono(bytes).has_value());
+  if (first.razon != Razon::Hecha) return first;
+  return open.Leer();
+}
+
+// Answers every frame but the last word, which it gives: Vacia where the film is whole.
+Decodificada LeerPelicula(const std::string& bytes) {
+  Abierta open(bytes);
+  const Decodificada first = open.Mirar();
+  if (first.razon != Razon::Hecha) return first;
+  const bool moves = open.reader.supportsAnimation();
+  const int count = moves ? std::max(1, open.reader.imageCount()) : 1;
+  for (int k = 0; k < count; ++k) {
+    const Decodificada d = open.Leer();
+    const Ritmo pace = {static_cast<std::uint32_t>(std::max(0, moves ? open.reader.nextImageDelay() : 0)),
+                        static_cast<std::uint32_t>(count)};
+    if (!ConPixeles(d.razon)) return d;
+    if (!ResponderFotograma(d, pace)) ::_exit(1);
+  }
+  return {Razon::Vacia};
 }
 
 Decodificada LeerMetafile(const std::string& bytes) {
@@ -133,15 +184,15 @@ Decodificada LeerMetafile(const std::string& bytes) {
       walls, true);
 }
 
-Decodificada Leer(int argc, char** argv) {
-  if (!Limitar()) return {Razon::Insegura};
+Decodificada Leer(int argc, char** argv, bool film) {
+  if (!Limitar(film ? kSegundosDePelicula : kSegundosDeImagen)) return {Razon::Insegura};
   qInstallMessageHandler(AtenderMensaje);
   try {
     const std::string bytes = LeerEntrada();
     if (EsMetafile(bytes)) return LeerMetafile(bytes);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication app(argc, argv);
-    return LeerConQt(bytes);
+    return film ? LeerPelicula(bytes) : LeerConQt(bytes);
   } catch (const std::bad_alloc&) {
     return {Razon::SinMemoria};
   }
@@ -151,7 +202,10 @@ Decodificada Leer(int argc, char** argv) {
 }  // namespace pixmosa
 
 int main(int argc, char** argv) {
-  const pixmosa::Decodificada d = pixmosa::Leer(argc, argv);
+  const bool film = argc == 2 && argv[1] == std::string_view(pixmosa::kPedirPelicula);
+  const pixmosa::Decodificada d = pixmosa::Leer(argc, argv, film);
+  const bool answered =
+      film ? pixmosa::ResponderFotograma(d) : d.razon <= pixmosa::kUltimaRespondida && pixmosa::Responder(d);
   // Without tidying up after readers that may have left anything behind.
-  ::_exit(d.razon <= pixmosa::kUltimaRespondida && pixmosa::Responder(d) ? 0 : 1);
+  ::_exit(answered ? 0 : 1);
 }

@@ -15,10 +15,6 @@ constexpr Formato kFormatos[] = {
     {"ans", "Texto con colores para terminales", ComoAns},
 };
 
-char Minuscula(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
-
 }  // namespace
 
 std::span<const Formato> Formatos() {
@@ -27,7 +23,7 @@ std::span<const Formato> Formatos() {
 
 const Formato* FormatoDe(std::string_view ending) {
   for (const Formato& f : kFormatos)
-    if (std::ranges::equal(ending, std::string_view(f.terminacion), {}, Minuscula)) return &f;
+    if (std::ranges::equal(ending, std::string_view(f.terminacion), {}, MinusculaAscii)) return &f;
   return nullptr;
 }
 

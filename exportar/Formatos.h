@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/CodificadorDeAnimacion.h"
 #include "platform/Dibujo.h"
 #include "platform/Errores.h"
 #include "platform/TextSurface.h"
@@ -40,6 +41,7 @@ struct Medios {
   std::function<std::string(const Picture&)> codificarPng;
   // The saved form of a text of the 8-bit code page with CR LF between its rows.
   std::function<std::string(std::string_view)> guardarTexto;
+  AbrirCodificador abrirGif{};  // only films need it
 };
 
 // The bytes of the whole file. Throws DibujoExcesivo.
@@ -53,6 +55,10 @@ struct Formato {
 
 // Text first.
 std::span<const Formato> Formatos();
+
+constexpr char MinusculaAscii(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
 
 // The format of this ending, without its dot and in any case; nullptr for an unknown one.
 const Formato* FormatoDe(std::string_view ending);

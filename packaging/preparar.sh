@@ -15,6 +15,8 @@ run_packages=(
   "qt6-translations-l10n|the system's dialogs in Spanish"
   "libjpeg-dev|reading photographs row by row"
   "libpng-dev|PNG pictures"
+  "libgif-dev|the frames of animated GIFs, and films written as such"
+  "libimagequant-dev|the colours of films written as GIFs"
   "libwmf-dev|WMF pictures"
   "libseccomp-dev|the walls around the process that reads WMF and SVG pictures"
   "qt6-image-formats-plugins|WebP, TIFF and other pictures"

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +23,38 @@ class PictureError : public ErrorDelPrograma {
 
 // A picture file may have this many bytes; who reads one from a stream bounds it the same way.
 constexpr std::uintmax_t kMasBytesDeImagen = std::uintmax_t{1} << 30;
+
+// A picture of a film as it is shown: over those before it, transparent pixels on white.
+struct Fotograma {
+  Picture imagen;
+  int milisegundos = 0;  // how long it is shown, 20 or more
+};
+
+// A shorter delay (of which old films are full, meaning "as always") counts as this one.
+inline constexpr int kMenosMilisegundos = 20, kMilisegundosDeSiempre = 100;
+
+// What a file says of a delay, as it is played.
+constexpr int DuracionDe(std::int64_t milisegundos) {
+  constexpr std::int64_t kHora = 3'600'000;
+  if (milisegundos < kMenosMilisegundos) return kMilisegundosDeSiempre;
+  return static_cast<int>(milisegundos < kHora ? milisegundos : kHora);
+}
+
+// The frames of an animated picture, one after another; only one of them is kept.
+class LectorDeFotogramas {
+ public:
+  virtual ~LectorDeFotogramas() = default;
+
+  // The next one; nothing behind the last. Throws PictureError.
+  virtual std::optional<Fotograma> Siguiente() = 0;
+
+  // How many the file announces, and the size of each.
+  virtual std::size_t Cuantos() const = 0;
+  virtual Extent Tamaño() const = 0;
+
+  // After the last one: a Spanish sentence if the file was not whole; else empty.
+  virtual std::string Aviso() const { return {}; }
+};
 
 // A reader never gives an empty picture. `aviso`, where there is one, gets a Spanish sentence if the picture
 // can be shown but is not whole; otherwise it becomes empty.
@@ -45,6 +79,10 @@ class PictureCodec {
   // Throws PictureError.
   virtual Picture ReadReduced(const std::filesystem::path& file, const std::function<Extent(Extent)>& size,
                               std::string* aviso = nullptr) = 0;
+
+  // The frames of an animated picture; any other picture has one. `name` stands for it in messages. Throws
+  // PictureError.
+  virtual std::unique_ptr<LectorDeFotogramas> AbrirAnimacion(std::string bytes, const std::string& name) = 0;
 
   // The size that a file's first bytes declare, upright, without decoding anything; empty where only decoding
   // tells it, and for what is no picture.

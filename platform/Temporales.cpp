@@ -4,11 +4,13 @@
 #include <atomic>
 #include <csignal>
 #include <cstring>
+#include <ctime>
 #include <unistd.h>
 
 namespace pixmosa {
 namespace {
 
+constexpr long kMomento = 5'000'000;  // nanoseconds
 constexpr std::size_t kAtOnce = 32, kLongestPath = 4096;
 
 enum Estado { kLibre, kOcupado, kVivo };
@@ -22,9 +24,31 @@ struct Lugar {
 std::array<Lugar, kAtOnce> lugares;
 static_assert(std::atomic<int>::is_always_lock_free);
 
-extern "C" void QuitarYTerminar(int signal) {
+struct Adios {
+  std::atomic<const char*> bytes = nullptr;
+  std::size_t cuantos = 0;
+  int descriptor = -1;
+};
+Adios adios;
+
+std::atomic<bool> terminando = false;
+static_assert(std::atomic<const char*>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
+
+void QuitarTodos() {
   for (const Lugar& place : lugares)
     if (place.estado.load(std::memory_order_acquire) == kVivo) ::unlink(place.path);
+}
+
+extern "C" void QuitarYTerminar(int signal) {
+  terminando.store(true);
+  QuitarTodos();
+  if (const char* bytes = adios.bytes.load(std::memory_order_acquire))
+    if (::write(adios.descriptor, bytes, adios.cuantos) < 0)
+      terminando.store(true);  // nobody is left to tell
+  // Another thread may have been about to make its file.
+  timespec moment{0, kMomento};
+  ::nanosleep(&moment, nullptr);
+  QuitarTodos();
   ::raise(signal);  // the handler is gone: the signal does what it always does
 }
 
@@ -40,6 +64,17 @@ Temporal::Temporal(const std::filesystem::path& file) {
     lugares[i].estado.store(kVivo, std::memory_order_release);
     place_ = static_cast<int>(i);
   }
+  while (terminando.load()) ::pause();  // the program is over: no new file
+}
+
+Despedida::Despedida(int descriptor, std::string_view bytes) {
+  adios.descriptor = descriptor;
+  adios.cuantos = bytes.size();
+  adios.bytes.store(bytes.data(), std::memory_order_release);
+}
+
+Despedida::~Despedida() {
+  adios.bytes.store(nullptr);
 }
 
 Temporal::~Temporal() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 
 namespace pixmosa {
 
@@ -16,6 +17,16 @@ class Temporal {
 
  private:
   int place_ = -1;
+};
+
+// While it lives, these bytes go to a descriptor when the program is ended by a signal: what gives a terminal
+// back as it was. They stay where they are as long; one at a time.
+class Despedida {
+ public:
+  Despedida(int descriptor, std::string_view bytes);
+  ~Despedida();
+  Despedida(const Despedida&) = delete;
+  Despedida& operator=(const Despedida&) = delete;
 };
 
 // For the start of a program, once: SIGINT, SIGTERM and SIGHUP remove every file that a Temporal stands for

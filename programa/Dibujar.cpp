@@ -61,4 +61,41 @@ Dibujo DibujoDeVentana(const Programa& p, std::string_view utf8) {
   return drawing;
 }
 
+OrigenDeImagen OrigenDe(const Picture& picture) {
+  return {[picture] { return picture; },
+          [picture](Lectura how, const std::function<Extent(Extent)>& size) {
+            const Extent wanted = size(picture.Size());
+            return how == Lectura::Estirada ? Stretch(picture, wanted) : picture;
+          }};
+}
+
+OrigenDeImagen OrigenDe(PictureCodec& codec, const std::filesystem::path& file) {
+  return {[&codec, file] { return codec.Read(file); },
+          [&codec, file](Lectura how, const std::function<Extent(Extent)>& size) {
+            return how == Lectura::Estirada ? codec.ReadStretched(file, size) : codec.ReadReduced(file, size);
+          }};
+}
+
+Dibujo GenerarDibujo(Programa& p, const OrigenDeImagen& source, int method, bool color) {
+  if (!color) {
+    GenerarDe(p, source.reducida, method);
+    return DibujoDe(p);
+  }
+  // Of a photograph two quick readings side by side take less time than the whole of it.
+  const Extent wanted = PixelesDeFormas(p.basAscii.AsciiColumns);
+  const bool twice = !EsDeFormas(method) && source.adelantar(wanted);
+  Picture picture, resized;
+  GenerarDe(
+      p,
+      [&](Lectura how, const std::function<Extent(Extent)>& size) {
+        if (how == Lectura::Reducida) return picture = source.reducida(how, size);
+        if (twice) return resized = source.reducida(how, size);
+        picture = source.entera();
+        return resized = Stretch(picture, size(picture.Size()));
+      },
+      method);
+  if (picture.IsEmpty()) picture = source.reducida(Lectura::Reducida, [&](Extent) { return wanted; });
+  return DibujoEnColor(p, picture, resized, method);
+}
+
 }  // namespace pixmosa

@@ -3,6 +3,7 @@
 
 #include "exportar/Formatos.h"
 #include "platform/Dibujo.h"
+#include "programa/Generar.h"
 #include "programa/Programa.h"
 
 namespace pixmosa {
@@ -20,5 +21,19 @@ Dibujo DibujoEnColor(const Programa& p, const Picture& source, const Picture& re
 // A text as it stands in the window (UTF-8), in the colours of the working picture where p.exportar asks for
 // them and the text was made of it. Throws DibujoExcesivo.
 Dibujo DibujoDeVentana(const Programa& p, std::string_view utf8);
+// Where the picture of a drawing comes from: the whole of it, or only what a method needs of it.
+struct OrigenDeImagen {
+  std::function<Picture()> entera;
+  LeerReducida reducida;
+  // Begins reducida(Lectura::Reducida) for this size, to go on beside other readings; false where that would
+  // save nothing.
+  std::function<bool(Extent)> adelantar = [](Extent) { return false; };
+};
+OrigenDeImagen OrigenDe(const Picture& picture);
+OrigenDeImagen OrigenDe(PictureCodec& codec, const std::filesystem::path& file);
+
+// Makes the produced text of a picture, as GenerarDe does, from one reading of it, and with `color` its
+// colours. Throws what reading throws, TextoExcesivo and DibujoExcesivo.
+Dibujo GenerarDibujo(Programa& p, const OrigenDeImagen& source, int method, bool color);
 
 }  // namespace pixmosa

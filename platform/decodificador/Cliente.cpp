@@ -31,8 +31,9 @@ std::vector<std::string> Entorno() {
   return lines;
 }
 
-// Starts the program with `socket` as its standard input and output and no other file; its number, or -1.
-pid_t Lanzar(const std::filesystem::path& program, int socket) {
+// Starts the program with `socket` as its standard input and output and no other file, and `word`, where
+// there is one, as its argument; its number, or -1.
+pid_t Lanzar(const std::filesystem::path& program, int socket, std::string word) {
   posix_spawn_file_actions_t files;
   posix_spawnattr_t how;
   if (posix_spawn_file_actions_init(&files) != 0) return -1;
@@ -53,7 +54,7 @@ pid_t Lanzar(const std::filesystem::path& program, int socket) {
   posix_spawnattr_setflags(&how, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
 
   std::string path = program.string();
-  char* argv[] = {path.data(), nullptr};
+  char* argv[] = {path.data(), word.empty() ? nullptr : word.data(), nullptr};
   std::vector<std::string> lines = Entorno();
   std::vector<char*> environment;
   environment.reserve(lines.size() + 1);
@@ -69,11 +70,11 @@ pid_t Lanzar(const std::filesystem::path& program, int socket) {
 // The running process and our end of its socket; both are gone with it.
 class Proceso {
  public:
-  explicit Proceso(const std::filesystem::path& program) {
+  explicit Proceso(const std::filesystem::path& program, const char* word = "") {
     int ends[2];
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return;
     socket_ = ends[0];
-    pid_ = Lanzar(program, ends[1]);
+    pid_ = Lanzar(program, ends[1], word);
     ::close(ends[1]);
   }
   ~Proceso() {
@@ -118,12 +119,37 @@ void Enviar(int socket, std::string_view& rest) {
 }
 
 // Takes what has come; false where nothing more comes or is wanted.
+template <typename Respuesta>
 bool Recibir(int socket, Respuesta& answer) {
   const std::span<std::byte> gap = answer.Hueco();
   if (gap.empty()) return false;
   const ssize_t n = ::recv(socket, gap.data(), gap.size(), MSG_DONTWAIT);
   if (n > 0) answer.Llegan(static_cast<std::size_t>(n));
   return n > 0 || (n < 0 && (errno == EAGAIN || errno == EINTR));
+}
+
+// Sends the bytes and takes an answer until it is whole or cannot become so. Hecha where the time sufficed,
+// else why not.
+template <typename Respuesta>
+Razon Atender(const Proceso& process, std::string_view& bytes, Respuesta& answer,
+              const std::function<void()>& mientras, milliseconds plazo) {
+  const Clock::time_point end = Clock::now() + plazo;
+  Clock::time_point next = Clock::now() + kPaso;
+  for (bool more = !answer.Hueco().empty(); more;) {
+    const Clock::time_point now = Clock::now();
+    if (now >= end) return Razon::Tarde;
+    if (mientras && now >= next) {
+      mientras();
+      next = Clock::now() + kPaso;
+    }
+    const auto wait = std::chrono::ceil<milliseconds>((mientras ? std::min(next, end) : end) - Clock::now());
+    pollfd p{process.Enchufe(), static_cast<short>(bytes.empty() ? POLLIN : POLLIN | POLLOUT), 0};
+    if (::poll(&p, 1, static_cast<int>(std::max<std::int64_t>(0, wait.count()))) < 0 && errno != EINTR)
+      return Razon::Caida;
+    if (p.revents & POLLOUT) Enviar(process.Enchufe(), bytes);
+    if (p.revents & (POLLIN | POLLHUP | POLLERR)) more = Recibir(process.Enchufe(), answer);
+  }
+  return Razon::Hecha;
 }
 
 }  // namespace
@@ -144,24 +170,36 @@ Decodificada Decodificar(const std::filesystem::path& programa, std::string_view
   Proceso process(programa);
   if (!process.EnMarcha()) return {Razon::Ausente};
   Respuesta answer;
-  const Clock::time_point end = Clock::now() + plazo;
-  Clock::time_point next = Clock::now() + kPaso;
-  for (bool more = true; more;) {
-    const Clock::time_point now = Clock::now();
-    if (now >= end) return {Razon::Tarde};
-    if (mientras && now >= next) {
-      mientras();
-      next = Clock::now() + kPaso;
-    }
-    const auto wait = std::chrono::ceil<milliseconds>((mientras ? std::min(next, end) : end) - Clock::now());
-    pollfd p{process.Enchufe(), static_cast<short>(bytes.empty() ? POLLIN : POLLIN | POLLOUT), 0};
-    if (::poll(&p, 1, static_cast<int>(std::max<std::int64_t>(0, wait.count()))) < 0 && errno != EINTR)
-      return {Razon::Caida};
-    if (p.revents & POLLOUT) Enviar(process.Enchufe(), bytes);
-    if (p.revents & (POLLIN | POLLHUP | POLLERR)) more = Recibir(process.Enchufe(), answer);
-  }
+  if (const Razon r = Atender(process, bytes, answer, mientras, plazo); r != Razon::Hecha) return {r};
   Decodificada result = answer.Tomar();
   if (result.razon == Razon::Caida) result.razon = process.PorQueCayo();
+  return result;
+}
+
+struct PeliculaAparte::Proceso : pixmosa::Proceso {
+  using pixmosa::Proceso::Proceso;
+};
+
+PeliculaAparte::PeliculaAparte(const std::filesystem::path& programa, std::string bytes,
+                               std::function<void()> mientras, milliseconds plazo)
+    : bytes_(std::move(bytes)),
+      resto_(bytes_),
+      mientras_(std::move(mientras)),
+      plazo_(plazo),
+      proceso_(std::make_unique<Proceso>(programa, kPedirPelicula)) {}
+
+PeliculaAparte::~PeliculaAparte() = default;
+
+Decodificada PeliculaAparte::Siguiente() {
+  if (bytes_.size() > kMasBytesAparte) return {Razon::SinMemoria};
+  if (!proceso_->EnMarcha()) return {Razon::Ausente};
+  RespuestaDeFotograma answer;
+  if (const Razon r = Atender(*proceso_, resto_, answer, mientras_, plazo_); r != Razon::Hecha) return {r};
+  Ritmo pace;
+  Decodificada result = answer.Tomar(pace);
+  if (result.razon == Razon::Caida) result.razon = proceso_->PorQueCayo();
+  milisegundos_ = pace.milisegundos;
+  if (ConPixeles(result.razon)) cuantos_ = pace.cuantos;
   return result;
 }
 

@@ -32,4 +32,23 @@ Decodificada Respuesta::Tomar() {
   return d;
 }
 
+std::span<std::byte> RespuestaDeFotograma::Hueco() {
+  if (hay_ < sizeof ritmo_) return std::as_writable_bytes(std::span(&ritmo_, 1)).subspan(hay_);
+  return respuesta_.Hueco();
+}
+
+void RespuestaDeFotograma::Llegan(std::size_t n) {
+  if (hay_ < sizeof ritmo_) {
+    hay_ += n;
+  } else {
+    respuesta_.Llegan(n);
+  }
+}
+
+Decodificada RespuestaDeFotograma::Tomar(Ritmo& pace) {
+  Decodificada d = respuesta_.Tomar();
+  pace = d.razon == Razon::Caida ? Ritmo{} : ritmo_;
+  return d;
+}
+
 }  // namespace pixmosa

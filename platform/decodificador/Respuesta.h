@@ -1,5 +1,7 @@
 // What the decoding process answers: sixteen bytes (mark, reason, width, height; whole numbers of the
-// machine) and, only for a picture, its pixels. The receiver trusts none of it.
+// machine) and, only for a picture, its pixels. Asked for a film it answers so for each frame, eight bytes
+// (milliseconds, how many frames there are) before each; behind the last one comes Razon::Vacia. The receiver
+// trusts none of it.
 #pragma once
 
 #include <array>
@@ -68,6 +70,29 @@ class Respuesta {
   Cabecera cabecera_;
   Picture imagen_;
   std::size_t hay_ = 0;  // bytes that have come, header included
+};
+
+// The word that asks for a film, the process's only argument.
+constexpr const char* kPedirPelicula = "pelicula";
+
+struct Ritmo {
+  std::uint32_t milisegundos = 0, cuantos = 0;
+};
+static_assert(sizeof(Ritmo) == 8);
+
+// Collects the answer for one frame in the same way.
+class RespuestaDeFotograma {
+ public:
+  std::span<std::byte> Hueco();
+  void Llegan(std::size_t n);
+
+  // The pace is 0, 0 where it is not whole.
+  Decodificada Tomar(Ritmo& pace);
+
+ private:
+  Ritmo ritmo_;
+  std::size_t hay_ = 0;  // bytes of the pace that have come
+  Respuesta respuesta_;
 };
 
 }  // namespace pixmosa

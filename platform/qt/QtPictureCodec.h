@@ -10,9 +10,6 @@
 
 namespace pixmosa {
 
-// A picture may take a quarter of the machine's memory: the picture, its undo copy and a running effect fit.
-bool CabeEnMemoria(Extent size);
-
 class QtPictureCodec final : public PictureCodec {
  public:
   // `mientras` is called about every 15 ms while the decoding process works. `decodificador` is its program;
@@ -25,6 +22,7 @@ class QtPictureCodec final : public PictureCodec {
                       std::string* aviso = nullptr) override;
   Picture ReadStretched(const std::filesystem::path& file, const std::function<Extent(Extent)>& size,
                         std::string* aviso = nullptr) override;
+  std::unique_ptr<LectorDeFotogramas> AbrirAnimacion(std::string bytes, const std::string& name) override;
   Extent Size(std::string_view bytes) override;
   std::string Encode(const Picture& picture, const std::string& format) override;
   std::vector<std::string> Formatos() override;

@@ -54,6 +54,8 @@ TEST_F(FallosTest, OneSentenceEach) {
             "la opción --semilla espera un número entero de 0 en adelante, no \"-1\""},
            {"p ascii --metodo=x", 2,
             "la opción --metodo espera grises, bordes, antialias, tono o formas, no \"x\""},
+           {"p pelicula grande.gif -o x.html", 1,
+            "La película \"grande.gif\" es demasiado grande: 200 fotogramas de 5000 x 5000 píxeles"},
            {"p ascii - -- - --carpeta x", 2, "la entrada estándar (\"-\") solo se puede leer una vez"},
            {"p tabla x", 2, "sobra el operando \"x\""},
            {"p ascii", 2, "falta la imagen"},

@@ -29,6 +29,22 @@ class FakePictureCodec final : public PictureCodec {
     const Picture whole = Read(file);
     return Stretch(whole, size(whole.Size()));
   }
+  // The frames named "1", "2", ..., a second each more than the one before.
+  std::unique_ptr<LectorDeFotogramas> AbrirAnimacion(std::string, const std::string&) override {
+    struct Lector final : LectorDeFotogramas {
+      std::map<std::string, Picture>& files;
+      int k = 0;
+      explicit Lector(std::map<std::string, Picture>& all) : files(all) {}
+      std::optional<Fotograma> Siguiente() override {
+        const auto at = files.find(std::to_string(++k));
+        if (at == files.end()) return std::nullopt;
+        return Fotograma{at->second, k * 1000};
+      }
+      std::size_t Cuantos() const override { return files.size(); }
+      Extent Tamaño() const override { return files.begin()->second.Size(); }
+    };
+    return std::make_unique<Lector>(files);
+  }
   Extent Size(std::string_view) override { return {}; }
   std::vector<std::string> Formatos() override { return {"png"}; }
   std::vector<std::string> FormatosLegibles() override { return {"png"}; }
