@@ -42,6 +42,19 @@ Destino DestinoDe(const Argumentos& arguments) {
   return file ? Destino::Archivo : folder ? Destino::Carpeta : Destino::Terminal;
 }
 
+// Nothing in the folder that is read gives way to what is written.
+void ExigirOtraCarpeta(const Argumentos& arguments, Destino where) {
+  namespace fs = std::filesystem;
+  std::error_code none;
+  if (where == Destino::Terminal || arguments.Tiene(kSobrescribir)) return;
+  const fs::path to = *arguments.Texto(where == Destino::Archivo ? "-o" : "--carpeta"),
+                 folder = where == Destino::Archivo ? fs::absolute(to, none).parent_path() : to;
+  if (where == Destino::Archivo && !fs::exists(to, none)) return;
+  if (fs::equivalent(folder, arguments.Operandos()[0], none))
+    throw ErrorDeUso("\"" + to.string() + "\" está entre las imágenes de partida; con " + kSobrescribir +
+                     " se sustituyen");
+}
+
 Pelicula PeliculaDe(Consola& consola, const Argumentos& arguments) {
   const std::string& operand = arguments.Operandos()[0];
   if (std::error_code none; std::filesystem::is_directory(operand, none)) {
@@ -59,6 +72,7 @@ int Hacer(Consola& consola, const Argumentos& arguments) try {
   const Exportacion output(arguments);
   const FormatoDePelicula* format =
       where == Destino::Archivo ? &FormatoPedido(*arguments.Texto("-o")) : nullptr;
+  ExigirOtraCarpeta(arguments, where);
   Programa p = PrepararPrograma(consola, arguments);
   ExigirCaracteres(p);
   const int method = MetodoDe(arguments);
@@ -67,6 +81,7 @@ int Hacer(Consola& consola, const Argumentos& arguments) try {
   Revelado how = {method, output.opciones, Exportacion::MediosDe(consola, p.ajustes.font)};
   if (where == Destino::Carpeta) how.opciones.color = output.ConColor();
   const Pelicula film = PeliculaDe(consola, arguments);
+  how.hilos = HilosPara(arguments, film.cuantas);
   const Seguir go = [&](std::size_t k, const std::string& failure) {
     if (!failure.empty()) consola.Avisar(failure);
     consola.Progreso("Fotograma", k, std::max(film.cuantas, k + 2));
@@ -75,8 +90,7 @@ int Hacer(Consola& consola, const Argumentos& arguments) try {
   if (where == Destino::Terminal) {
     Reproducir(consola, p, film, how, !arguments.Tiene("--columnas"));
   } else if (where == Destino::Carpeta) {
-    EscribirFotogramas(p, film, CrearCarpeta(arguments), *output.formato, how,
-                       HilosPara(arguments, film.cuantas), go);
+    EscribirFotogramas(p, film, CrearCarpeta(arguments), *output.formato, how, go);
   } else {
     EscribirPelicula(p, film, *arguments.Texto("-o"), *format, how, go);
   }

@@ -33,6 +33,7 @@ class Reparto {
   bool Hacer(unsigned threads) {
     std::vector<std::jthread> all;
     enMarcha_ = threads;
+    masEnFila_ = std::size_t{2} * threads;
     try {
       for (unsigned n = 0; n < threads; ++n)
         all.emplace_back([this, n] {
@@ -52,7 +53,8 @@ class Reparto {
   std::shared_ptr<Turno> Tomar() {
     const std::lock_guard taking(mano_);
     {
-      const std::lock_guard lock(llave_);
+      std::unique_lock lock(llave_);
+      aviso_.wait(lock, [this] { return acabado_ || fila_.size() < masEnFila_; });
       if (acabado_) return nullptr;
     }
     auto turn = std::make_shared<Turno>();
@@ -91,6 +93,7 @@ class Reparto {
       if (fila_.empty()) return true;
       const std::shared_ptr<Turno> turn = fila_.front();
       fila_.pop_front();
+      aviso_.notify_all();
       lock.unlock();
       bool more = false;
       try {
@@ -111,6 +114,7 @@ class Reparto {
   void Parar() {
     const std::lock_guard lock(llave_);
     acabado_ = true;
+    aviso_.notify_all();
   }
 
   const std::function<std::optional<Encargo>()>& siguiente_;
@@ -118,6 +122,7 @@ class Reparto {
   std::condition_variable aviso_;
   std::deque<std::shared_ptr<Turno>> fila_;  // taken, in order
   unsigned enMarcha_ = 0;
+  std::size_t masEnFila_ = 0;
   bool acabado_ = false;
 };
 

@@ -14,8 +14,9 @@ struct Encargo {
 };
 
 // Takes pieces until there are none, by one thread at a time, and does them on `threads` threads (with one:
-// on the caller's own); as many are under way at most. What a piece throws is thrown here in its turn. False
-// where a piece ended the work. Everything that was begun is finished when this returns or throws.
+// on the caller's own); as many are under way at most, and as many again wait for their turn. What a piece
+// throws is thrown here in its turn. False where a piece ended the work. Everything that was begun is
+// finished when this returns or throws.
 bool Repartir(unsigned threads, const std::function<std::optional<Encargo>()>& siguiente);
 
 }  // namespace pixmosa

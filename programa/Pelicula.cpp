@@ -60,6 +60,40 @@ std::string ArchivoDe(const Programa& p, const Dibujo& drawing, const Formato& f
   return format.escribir(drawing, options, how.medios);
 }
 
+// Makes each frame into a drawing and hands it on, in order, on the caller's thread; no ends the work.
+using TomarDibujo = std::function<void(const Dibujo&, int milliseconds)>;
+
+bool Recorrer(const Programa& p, const Pelicula& film, const Revelado& how, const TomarDibujo& take,
+              const Seguir& seguir) {
+  struct Hecha {
+    Toma toma;
+    Dibujo dibujo;
+    std::string fallo;
+  };
+  std::vector<Programa> own(how.hilos, p);
+  std::size_t taken = 0, shown = 0;
+  const auto next = [&]() -> std::optional<Encargo> {
+    std::optional<Toma> shot = film.siguiente();
+    if (!shot) return std::nullopt;
+    const auto made = std::make_shared<Hecha>(Hecha{std::move(*shot), {}, {}});
+    return Encargo{[&, made](unsigned thread) {
+                     made->dibujo =
+                         Revelar(own[thread], made->toma, how.metodo, how.opciones.color, made->fallo);
+                     made->toma.origen = {};  // its picture may go
+                   },
+                   [&, made, k = taken++] {
+                     if (made->fallo.empty()) {
+                       ++shown;
+                       take(made->dibujo, made->toma.milisegundos);
+                     }
+                     return seguir(k, made->fallo);
+                   }};
+  };
+  if (!Repartir(how.hilos, next)) return false;
+  if (shown == 0) Vacia(film);
+  return true;
+}
+
 }  // namespace
 
 bool OrdenNatural(const std::string& a, const std::string& b) {
@@ -130,25 +164,8 @@ Pelicula PeliculaDeCarpeta(PictureCodec& codec, const std::filesystem::path& fol
   return film;
 }
 
-bool RecorrerPelicula(Programa& p, const Pelicula& film, int method, bool color, const MostrarDibujo& show,
-                      const Seguir& seguir) {
-  std::size_t k = 0, shown = 0;
-  for (; const std::optional<Toma> shot = film.siguiente(); ++k) {
-    std::string failure;
-    const Dibujo drawing = Revelar(p, *shot, method, color, failure);
-    if (failure.empty()) {
-      ++shown;
-      if (!show(drawing, shot->milisegundos)) return false;
-    }
-    if (!seguir(k, failure)) return false;
-  }
-  if (shown == 0) Vacia(film);
-  return true;
-}
-
 bool EscribirPelicula(const Programa& p, const Pelicula& film, const std::filesystem::path& file,
                       const FormatoDePelicula& format, const Revelado& how, const Seguir& seguir) {
-  Programa own = p;
   AtomicFile out(file);
   std::unique_ptr<EscritorDePelicula> writer;
   double characters = 0;
@@ -157,24 +174,23 @@ bool EscribirPelicula(const Programa& p, const Pelicula& film, const std::filesy
   const auto write = [&](const Dibujo& drawing, int milliseconds) {
     const auto columns = static_cast<int>(drawing.Columnas()), rows = static_cast<int>(drawing.filas.size());
     if (!writer) {
-      set.cuadro = {std::max(columns, int{own.basAscii.AsciiColumns}), std::max(1, rows)};
+      set.cuadro = {std::max(columns, int{p.basAscii.AsciiColumns}), std::max(1, rows)};
       writer = format.abrir(set);
     }
     characters += static_cast<double>(set.cuadro.width) * rows;
     if (characters > kMasCaracteresDePelicula)
       throw DibujoExcesivo("La película sería demasiado grande: más de 400 millones de caracteres.");
     writer->Poner(drawing, milliseconds);
-    return true;
   };
-  if (!RecorrerPelicula(own, film, how.metodo, how.opciones.color, write, seguir)) return false;
+  if (!Recorrer(p, film, how, write, seguir)) return false;
   writer->Acabar();
   out.Commit();
   return true;
 }
 
 bool EscribirFotogramas(const Programa& p, const Pelicula& film, const std::filesystem::path& folder,
-                        const Formato& format, const Revelado& how, unsigned threads, const Seguir& seguir) {
-  std::vector<Programa> own(threads, p);
+                        const Formato& format, const Revelado& how, const Seguir& seguir) {
+  std::vector<Programa> own(how.hilos, p);
   std::size_t taken = 0, written = 0;
   const auto next = [&]() -> std::optional<Encargo> {
     const std::shared_ptr<const std::optional<Toma>> shot =
@@ -195,7 +211,7 @@ bool EscribirFotogramas(const Programa& p, const Pelicula& film, const std::file
                      return seguir(k, *failure);
                    }};
   };
-  if (!Repartir(threads, next)) return false;
+  if (!Repartir(how.hilos, next)) return false;
   if (written == 0) Vacia(film);
   return true;
 }

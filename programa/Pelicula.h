@@ -46,6 +46,8 @@ struct Revelado {
   int metodo = kGrayscale;
   OpcionesDeExportar opciones;  // opciones.color: the colours of the pictures
   Medios medios;
+  // Threads that read and convert frames. With more than one the codec works away from the caller's thread.
+  unsigned hilos = 1;
 };
 
 // Writes the film, whole or not at all, with the settings of `p`, which does not change. A frame that cannot
@@ -54,15 +56,9 @@ struct Revelado {
 bool EscribirPelicula(const Programa& p, const Pelicula& film, const std::filesystem::path& file,
                       const FormatoDePelicula& format, const Revelado& how, const Seguir& seguir);
 
-// Writes each frame as a file of its own, "NAME 001.html", on so many threads; the folder is there. What is
-// written when the work ends early stays.
+// Writes each frame as a file of its own, "NAME 001.html"; the folder is there. What is written when the work
+// ends early stays.
 bool EscribirFotogramas(const Programa& p, const Pelicula& film, const std::filesystem::path& folder,
-                        const Formato& format, const Revelado& how, unsigned threads, const Seguir& seguir);
-
-// Makes each frame into a drawing and hands it on, in order, with its delay; no ends the work. The same
-// rules.
-using MostrarDibujo = std::function<bool(const Dibujo&, int milliseconds)>;
-bool RecorrerPelicula(Programa& p, const Pelicula& film, int method, bool color, const MostrarDibujo& show,
-                      const Seguir& seguir);
+                        const Formato& format, const Revelado& how, const Seguir& seguir);
 
 }  // namespace pixmosa

@@ -1,11 +1,15 @@
-// The animation page of 300 frames of 500 x 400 at 100 columns, beside the decoding of the same frames.
+// The animation page and the player page of 300 frames of 500 x 400 at 100 columns, each beside the decoding
+// of the same frames; the player's are composited.
 #include <benchmark/benchmark.h>
 
 #include "conversion/basAscii.h"
 #include "platform/PrivateFolder.h"
 #include "platform/Random.h"
+#include "platform/png/Png.h"
 #include "platform/qt/QtPictureCodec.h"
 #include "platform/qt/QtTextSurface.h"
+#include "programa/Ajustes.h"
+#include "programa/Pelicula.h"
 #include "tests/support/GuiApplication.h"
 #include "web/AnimArt.h"
 #include "web/basGIF.h"
@@ -92,5 +96,39 @@ void AnimationPage(benchmark::State& state) {
   state.counters["frames"] = frames.gif.Seleccionados.size();
 }
 BENCHMARK(AnimationPage)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3);
+
+void CompositingOfTheFrames(benchmark::State& state) {
+  test::NeedGuiApplication();
+  QtPictureCodec pictures;
+  const std::string gif = AnimatedGif();
+  for (auto _ : state)
+    for (const auto frames = pictures.AbrirAnimacion(gif, "x"); const auto frame = frames->Siguiente();)
+      benchmark::DoNotOptimize(frame->imagen.Pixels());
+}
+BENCHMARK(CompositingOfTheFrames)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3);
+
+// On one thread; with an argument of 1 in the pictures' colours.
+void PlayerPage(benchmark::State& state) {
+  test::NeedGuiApplication();
+  QtPictureCodec pictures;
+  QtTextSurface surface;
+  const PrivateFolder folder{fs::temp_directory_path(), "pixmosa-bench-pelicula"};
+  Programa p{surface, pictures, folder.Path()};
+  Medir(p);
+  p.basAscii.AsciiColumns = kColumns;
+  Revelado how{.metodo = kGrayscale,
+               .opciones = {},
+               .medios = {surface,
+                          p.ajustes.font,
+                          surface.GetTextSize(p.ajustes.font, "A"),
+                          [](const Picture& picture) { return EscribirPng(picture, Empaquetado::Pequeno); },
+                          {}}};
+  how.opciones.color = state.range(0) == 1;
+  const std::string gif = AnimatedGif();
+  for (auto _ : state)
+    EscribirPelicula(p, PeliculaDeArchivo(pictures, gif, "x"), folder.Path() / "pagina.bmp",
+                     *FormatoDePeliculaDe("html"), how, [](std::size_t, const std::string&) { return true; });
+}
+BENCHMARK(PlayerPage)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(1)->Repetitions(3);
 
 }  // namespace

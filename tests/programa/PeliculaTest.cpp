@@ -97,6 +97,7 @@ TEST_F(PeliculaTest, FolderGoesInOrderAndLeavesOutWhatCannotBeRead) {
   p.basAscii.ProducedText = "antes";
   const Pelicula film = PeliculaDeCarpeta(codec, folder.Path(), 40);
   EXPECT_EQ(film.cuantas, 4U);
+  how.hilos = 3;
   EXPECT_TRUE(Escribir(film));
   EXPECT_EQ(LeerArchivo(file), "[" + folder.Path().filename().string() + " 2x1] 40;<  40; < 40;fin")
       << "a dark row is dropped";
@@ -117,8 +118,9 @@ TEST_F(PeliculaTest, FramesOfAFileAreFilesOfTheirOwnOnAnyNumberOfThreads) {
     const std::filesystem::path out = folder.Path() / std::to_string(threads);
     std::filesystem::create_directory(out);
     std::vector<std::size_t> order;
+    how.hilos = threads;
     EXPECT_TRUE(EscribirFotogramas(p, PeliculaDeArchivo(codec, "", "cine/a.gif"), out, *FormatoDe("txt"), how,
-                                   threads, [&](std::size_t k, const std::string&) {
+                                   [&](std::size_t k, const std::string&) {
                                      order.push_back(k);
                                      return true;
                                    }));
