@@ -76,6 +76,13 @@ void frmMain::CrearMenus() {
       acciones_[menu.entradas[i].nombre] = m->actions().at(static_cast<qsizetype>(i));
     if (m->objectName() == "mnuArchivo") menuBar()->addMenu(imagen_->Menu());
   }
+  QMenu* asciiArt = menuBar()->findChild<QMenu*>("mnuAsciiArt");
+  auto* copy = named<QMenu>("mnuCopiarComo", QStringLiteral("Copiar co&mo"), asciiArt);
+  copy->setToolTipsVisible(true);
+  LlenarMenu<Entrada>(copy, CopiarComo(), this,
+                      Con(desktop_.dialogos, [this](const Entrada& row) { (this->*row.hacer)(); }));
+  QAction* behind = asciiArt->actions().at(asciiArt->actions().indexOf(acciones_.at("mnuClipboard")) + 1);
+  acciones_["mnuCopiarComo"] = asciiArt->insertMenu(behind, copy);
 }
 
 void frmMain::CrearBarras() {

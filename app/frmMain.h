@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,6 +38,7 @@ class frmPreview;
 class MenuDeImagen;
 class MarcoDeImagen;
 struct Dibujo;
+struct Pelicula;
 
 class frmMain final : public QMainWindow {
   Q_OBJECT
@@ -66,6 +68,7 @@ class frmMain final : public QMainWindow {
     std::vector<Entrada> entradas;
   };
   static const std::vector<Menu>& Menus();
+  static const std::vector<Entrada>& CopiarComo();
   void CrearMenus();
   void CrearBarras();
   void CrearSelectorDeModo();
@@ -84,8 +87,13 @@ class frmMain final : public QMainWindow {
 
   // --- frmMain_Exportar.cpp ---
   void Exportar();
+  void ExportarPelicula();
+  std::optional<Pelicula> PeliculaDeLaImagen() const;  // of the file at hand, where it moves
+  void EscribirPelicula(const Pelicula& film, const std::string& ending);
+  void CopiarComoTexto();
   void CopiarConFormato();
   void CopiarComoImagen();
+  Medios MediosDeExportar();
   std::string EnFormato(const Dibujo& drawing, const Formato& format);
 
   // --- frmMain_Generar.cpp ---

@@ -118,7 +118,7 @@ void frmMain::ActualizarAcciones() {
   opciones_->PonerImagenDisponible(picture);
   acciones_.at("mnuComparar")->setEnabled(picture);
   acciones_.at("mnuGuardar")->setEnabled(text);
-  for (const char* name : {"mnuClipboard", "mnuExportar", "mnuCopiarConFormato", "mnuCopiarComoImagen"})
+  for (const char* name : {"mnuClipboard", "mnuExportar", "mnuCopiarComo"})
     acciones_.at(name)->setEnabled(text);
   acciones_.at("mnuPreviewAsciiArt")->setEnabled(!p_.basAscii.ProducedText.empty());
 }

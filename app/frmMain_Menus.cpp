@@ -17,6 +17,9 @@ const std::vector<frmMain::Menu>& frmMain::Menus() {
         {{"mnuExportar", "&Exportar...", "document-export", "Ctrl+Shift+S",
           "Guarda el dibujo como página web, imagen, vector o texto de terminal, con sus colores"},
          &frmMain::Exportar},
+        {{"mnuExportarPelicula", "Exportar pelíc&ula...", "video-x-generic", nullptr,
+          "Convierte una imagen animada, o las imágenes de una carpeta, en una película de texto"},
+         &frmMain::ExportarPelicula},
         {{"mnuGrabarIni", "Grabar la con&figuración", "document-properties", nullptr,
           "Escribe las opciones y la fuente en KTV.ini"},
          &frmMain::GrabarIni},
@@ -32,12 +35,6 @@ const std::vector<frmMain::Menu>& frmMain::Menus() {
         {{"mnuClipboard", "&Copiar en el portapapeles", "edit-copy", "Ctrl+Shift+C",
           "Copia el último dibujo generado"},
          &frmMain::CopiarTexto},
-        {{"mnuCopiarConFormato", "Copiar con f&ormato", "edit-copy", "Ctrl+Alt+C",
-          "Copia el dibujo con su fuente y sus colores, para procesadores de texto y correos"},
-         &frmMain::CopiarConFormato},
-        {{"mnuCopiarComoImagen", "Copiar como &imagen", "image-x-generic", "Ctrl+Alt+I",
-          "Copia una imagen del dibujo"},
-         &frmMain::CopiarComoImagen},
         kSeparador,
         {{"mnuAnimArtDirectorio", "Animación de una car&peta...", "video-x-generic", nullptr,
           "Crea una página que muestra en orden las imágenes de una carpeta"},
@@ -78,6 +75,19 @@ const std::vector<frmMain::Menu>& frmMain::Menus() {
          &frmMain::AcercaDe}}},
   };
   return menus;
+}
+
+const std::vector<frmMain::Entrada>& frmMain::CopiarComo() {
+  static const std::vector<Entrada> entries = {
+      {{"mnuCopiarComoTexto", "&Texto", "edit-copy", nullptr, "Copia el texto tal como se ve"},
+       &frmMain::CopiarComoTexto},
+      {{"mnuCopiarConFormato", "Texto con &formato", "edit-copy", "Ctrl+Alt+C",
+        "Copia el dibujo con su fuente y sus colores, para procesadores de texto y correos"},
+       &frmMain::CopiarConFormato},
+      {{"mnuCopiarComoImagen", "&Imagen", "image-x-generic", "Ctrl+Alt+I", "Copia una imagen del dibujo"},
+       &frmMain::CopiarComoImagen},
+  };
+  return entries;
 }
 
 }  // namespace pixmosa

@@ -2,6 +2,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QRadioButton>
 #include <QSpinBox>
 #include <QTimer>
 
@@ -17,6 +18,7 @@ class VentanaExportarTest : public QObject {
  private slots:
   void TheEndingPicksTheFormatAndOptionsAreKept();
   void CopiesWithItsLooks();
+  void FilmsOfAFolder();
 
  private:
   // A picture, red at the left and blue at the right, converted into dense characters.
@@ -81,6 +83,8 @@ void VentanaExportarTest::CopiesWithItsLooks() {
   test::MainWindow m;
   Prepare(m);
   m.program.exportar.color = true;
+  m.Trigger("mnuCopiarComoTexto");
+  QCOMPARE(m.shell.clipboard, TextoEnUtf8(m.program.basAscii));
   m.Trigger("mnuCopiarConFormato");
   QVERIFY(m.shell.log.back().find("color:#c80000") != std::string::npos);
   QVERIFY(m.shell.clipboard.find("\r\n") != std::string::npos);
@@ -89,6 +93,28 @@ void VentanaExportarTest::CopiesWithItsLooks() {
   const std::size_t rows = DibujoDeTexto(ascii.ProducedText).filas.size();
   QCOMPARE(m.shell.log.back(), "CopyPicture|" + std::to_string(20 * ascii.CellWidth) + "x" +
                                    std::to_string(2 * rows * static_cast<std::size_t>(ascii.CellHeight)));
+}
+
+void VentanaExportarTest::FilmsOfAFolder() {
+  test::MainWindow m;
+  std::filesystem::create_directory(m.folder.File("cine"));
+  m.Save(Picture::Filled(60, 60, kBlack), "cine/foto10.png");
+  m.Save(Picture::Filled(60, 60, kWhite), "cine/foto2.png");
+  m.program.basAscii.AsciiColumns = 6;
+  m.dialogs.paths = {m.folder.File("cine"), m.folder.File("cine.cast")};
+  QTimer::singleShot(0, &m.window, [] {
+    auto* dialog = QApplication::activeModalWidget();
+    QVERIFY(!Find<QRadioButton>(*dialog, "optAnimada").isEnabled());
+    QVERIFY(Find<QRadioButton>(*dialog, "optCarpeta").isChecked());
+    Find<QSpinBox>(*dialog, "numRitmo").setValue(250);
+    QTest::mouseClick(&Find<QAbstractButton>(*dialog, "cmdExportarPelicula"), Qt::LeftButton);
+  });
+  m.Trigger("mnuExportarPelicula");
+  const std::string cast = LeerArchivo(m.folder.File("cine.cast"));
+  QVERIFY(cast.starts_with("{\"version\": 2") || cast.starts_with("{\"version\":2"));
+  QVERIFY(cast.find("[0.25") != std::string::npos);
+  QVERIFY(Find<QLabel>(m.window, "lblEnlace").text().contains("cine.cast"));
+  QVERIFY2(!HayImagen(m.program), "the working picture stays as it was");
 }
 
 QTEST_MAIN(VentanaExportarTest)
