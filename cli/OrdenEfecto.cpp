@@ -7,6 +7,8 @@
 #include "cli/Pasos.h"
 #include "platform/AtomicFile.h"
 #include "platform/CodePage.h"
+#include "platform/ProgramFolder.h"
+#include "programa/Recetas.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -22,15 +24,33 @@ bool PareceUnPaso(const std::string& word) {
   return word != "-" && word.find_first_of("./") == std::string::npos && !std::filesystem::exists(word, none);
 }
 
-// Pictures first, then steps.
+std::vector<Paso> PasosDe(const std::string& recipe) {
+  const std::string file = ArchivoDeReceta(RecipeFolder(), recipe).string();
+  std::vector<Paso> steps;
+  for (const LineaDeReceta& line : PasosDeReceta(LeerArchivo(file))) {
+    const std::string where = "en la receta \"" + file + "\", línea " + std::to_string(line.numero) + ": ";
+    try {
+      const std::optional<Paso> step = PasoDe(line.paso);
+      if (!step) throw ErrorDeUso("no existe el paso \"" + line.paso + "\"");
+      steps.push_back(*step);
+    } catch (const ErrorDeUso& e) {
+      throw ErrorDeUso(where + e.what());
+    }
+  }
+  return steps;
+}
+
+// Pictures first, then steps; those of a recipe before them.
 Pedido PedidoDe(const Argumentos& arguments) {
   Pedido order;
+  if (const auto recipe = arguments.Texto("--receta")) order.pasos = PasosDe(*recipe);
+  const std::size_t fromRecipe = order.pasos.size();
   for (const std::string& word : arguments.Operandos()) {
     const std::optional<Paso> step = PasoDe(word);
     if (step) {
       if (order.imagenes.empty()) throw ErrorDeUso("falta la imagen antes del paso \"" + word + "\"");
       order.pasos.push_back(*step);
-    } else if (!order.pasos.empty() || (!order.imagenes.empty() && PareceUnPaso(word))) {
+    } else if (order.pasos.size() > fromRecipe || (!order.imagenes.empty() && PareceUnPaso(word))) {
       throw ErrorDeUso("no existe el paso \"" + word + "\"; \"pixmosa-cli efecto --help\" los explica todos");
     } else {
       order.imagenes.push_back(word);
@@ -95,18 +115,21 @@ int Hacer(Consola& consola, const Argumentos& arguments) {
 }  // namespace
 
 Orden OrdenEfecto() {
-  return {"efecto",
-          "IMAGEN... PASO...",
-          "Retoca imágenes con los efectos, giros y espejos del programa.",
-          "pixmosa-cli efecto foto.jpg 14=20 desenfocar espejo-arriba-abajo -o nueva.png",
-          {{"-o", Tipo::Texto, "SALIDA", "archivo de la imagen nueva; su terminación da el formato"},
-           {"--carpeta", Tipo::Texto, "DIR", "carpeta donde se guarda un NOMBRE.png de cada imagen"},
-           OpcionDeHilos(),
-           OpcionDeSobrescribir(),
-           {"--semilla", Tipo::Entero, "N", "empieza el azar de los efectos 4 y 29 en N, para repetirlo", 0,
-            INT_MAX}},
-          Hacer,
-          AyudaDePasos};
+  return {
+      "efecto",
+      "IMAGEN... PASO...",
+      "Retoca imágenes con los efectos, giros y espejos del programa.",
+      "pixmosa-cli efecto foto.jpg 14=20 desenfocar espejo-arriba-abajo -o nueva.png",
+      {{"-o", Tipo::Texto, "SALIDA", "archivo de la imagen nueva; su terminación da el formato"},
+       {"--carpeta", Tipo::Texto, "DIR", "carpeta donde se guarda un NOMBRE.png de cada imagen"},
+       OpcionDeHilos(),
+       OpcionDeSobrescribir(),
+       {"--receta", Tipo::Texto, "NOMBRE",
+        "da primero los pasos de una receta: un archivo con un paso por línea, o el nombre de una guardada"},
+       {"--semilla", Tipo::Entero, "N", "empieza el azar de los efectos 4 y 29 en N, para repetirlo", 0,
+        INT_MAX}},
+      Hacer,
+      AyudaDePasos};
 }
 
 }  // namespace pixmosa::cli

@@ -1,6 +1,11 @@
 #include "cli/Pasos.h"
 
+#include <algorithm>
+#include <climits>
+#include <vector>
+
 #include "cli/Argumentos.h"
+#include "cli/Lista.h"
 #include "effects/EntradasDeImagen.h"
 #include "effects/basFiltrosConfig.h"
 #include "platform/CodePage.h"
@@ -8,6 +13,8 @@
 
 namespace pixmosa::cli {
 namespace {
+
+constexpr const char* kRecortar = "recortar";
 
 std::string Rango(std::int32_t from, std::int32_t to) {
   return "de " + std::to_string(from) + " a " + std::to_string(to);
@@ -54,12 +61,26 @@ std::optional<Paso> PasoPorNumero(const std::string& name, const std::string& wo
   return PasoDeEfecto(*n, Efecto(*n)->menu, word, value);
 }
 
+// X,Y,W,H.
+Paso PasoDeRecorte(const std::string& word, const std::optional<std::string>& value) {
+  constexpr std::size_t kNumeros = 4;
+  const std::vector<std::string> parts = Separar(value.value_or(""));
+  std::vector<int> numbers;
+  for (const std::string& part : parts)
+    numbers.push_back(EnteroDeTexto(part, numbers.size() < 2 ? 0 : 1, INT_MAX).value_or(-1));
+  if (parts.size() != kNumeros || std::count(numbers.begin(), numbers.end(), -1) > 0)
+    throw ErrorDeUso("el paso \"" + word + "\" necesita cuatro enteros, como \"" + kRecortar +
+                     "=X,Y,ANCHO,ALTO\"");
+  return {.recorte = Zona{numbers[0], numbers[1], numbers[2], numbers[3]}};
+}
+
 std::optional<Paso> PasoPorNombre(const std::string& name, const std::string& word,
                                   const std::optional<std::string>& value) {
+  if (name == kRecortar) return PasoDeRecorte(word, value);
   for (const Giro& g : Giros())
     if (name == g.orden) {
       if (value) RechazarValor(word);
-      return Paso{0, 0, &g};
+      return Paso{.giro = &g};
     }
   for (int n = 1; n <= kEfectos; ++n)
     if (name == NombreDeOrden(Efecto(n)->caption)) return PasoDeEfecto(n, Efecto(n)->menu, word, value);
@@ -118,6 +139,11 @@ void DarPaso(MFiltros& m, ImagenDeTrabajo& image, const Paso& step) {
     Girar(image, *step.giro);
     return;
   }
+  if (step.recorte) {
+    image.SaveUndo();
+    image.picMain = Recortada(image.picMain, *step.recorte);
+    return;
+  }
   NoProgress progress;
   ApplyEffect(m, image, step.efecto, image, step.argumento, progress, false);
 }
@@ -134,6 +160,7 @@ std::string AyudaDePasos() {
                  "lo mismo que " + std::to_string(e.efecto) + "=" + std::to_string(e.argumento) +
                      " y que \"" + NombreDeOrden(e.caption) + "\"");
   for (const Giro& g : Giros()) s += Linea("", g.orden, g.caption, "");
+  s += Linea("", kRecortar, "Recortar", "valor X,Y,ANCHO,ALTO en píxeles, obligatorio");
   return s;
 }
 

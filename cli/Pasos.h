@@ -1,4 +1,4 @@
-// The steps of the order `efecto`: an effect with its argument, or a flip or mirror.
+// The steps of the order `efecto`: an effect with its argument, a turn, flip or mirror, or a crop.
 #pragma once
 
 #include <cstdint>
@@ -7,14 +7,16 @@
 #include <string_view>
 
 #include "effects/Giros.h"
+#include "effects/Recorte.h"
 #include "effects/mFiltros.h"
 
 namespace pixmosa::cli {
 
 struct Paso {
-  int efecto = 0;  // 1..32, or 0 for a flip or mirror
+  int efecto = 0;  // 1..32, or 0 for the others
   std::int32_t argumento = 0;
   const Giro* giro = nullptr;
+  std::optional<Zona> recorte{};
 };
 
 // The step that a word means: NUMBER, NUMBER=VALUE, NAME or NAME=VALUE; nothing where it is neither a number

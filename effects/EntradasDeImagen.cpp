@@ -35,6 +35,8 @@ std::vector<EntradaDeImagen> Arbol() {
       Submenu(0, "mnuGirar", "Girar"),
       DeGiro("mnuHFlip"),
       DeGiro("mnuVFLip"),
+      DeGiro("mnuGirar90"),
+      DeGiro("mnuGirar270"),
       Submenu(0, "mnuColores", "Colores"),
       DeEfecto(1, 12),
       DeEfecto(1, 2),

@@ -9,9 +9,11 @@
 namespace pixmosa {
 namespace {
 
-constexpr std::array<Giro, 6> kGiros = {{
+constexpr std::array<Giro, 8> kGiros = {{
     {"mnuHFlip", "Horizontalmente", "girar-horizontal", FlipHorizontal},
     {"mnuVFLip", "Verticalmente", "girar-vertical", FlipVertical},
+    {"mnuGirar90", "90 grados a la derecha", "girar-90", TurnRight},
+    {"mnuGirar270", "90 grados a la izquierda", "girar-270", TurnLeft},
     {"mnuEspejoDenI", "Reflejar parte derecha en la izquierda", "espejo-derecha-izquierda",
      MirrorRightToLeft},
     {"mnuEspejoIenD", "Reflejar parte izquierda en la derecha", "espejo-izquierda-derecha",
@@ -33,6 +35,22 @@ std::ptrdiff_t En(const Picture& p, std::ptrdiff_t x, std::ptrdiff_t y) {
 template <typename Copy>
 void PorParejas(int size, Copy copy) {
   for (int i = 1; i <= Ultima(size); ++i) copy(i, size - i);
+}
+
+// The picture whose pixel at (x, y) is the one that `place(picture, x, y)` says, its sides changed. It goes
+// over squares, so that what is read and what is written lies near in memory.
+template <typename Place>
+Picture Traspuesta(const Picture& from, Place place) {
+  constexpr int kLado = 32;
+  Picture turned(from.Height(), from.Width());
+  std::uint32_t* to = turned.Writable();
+  const std::uint32_t* pixels = from.Pixels();
+  for (int top = 0; top < turned.Height(); top += kLado)
+    for (int left = 0; left < turned.Width(); left += kLado)
+      for (int y = top; y < std::min(top + kLado, turned.Height()); ++y)
+        for (int x = left; x < std::min(left + kLado, turned.Width()); ++x)
+          to[En(turned, x, y)] = pixels[place(from, x, y)];
+  return turned;
 }
 
 void CopiarFila(Picture& p, int from, int to) {
@@ -58,6 +76,16 @@ void FlipVertical(Picture& picture) {
   for (int y = picture.Height() - 1; y >= 0; --y, to += picture.Width())
     std::copy_n(picture.Row(y).begin(), picture.Width(), to);
   picture = std::move(flipped);
+}
+
+void TurnRight(Picture& picture) {
+  picture = Traspuesta(picture,
+                       [](const Picture& from, int x, int y) { return En(from, y, from.Height() - 1 - x); });
+}
+
+void TurnLeft(Picture& picture) {
+  picture = Traspuesta(picture,
+                       [](const Picture& from, int x, int y) { return En(from, from.Width() - 1 - y, x); });
 }
 
 void MirrorTopToBottom(Picture& picture) {

@@ -11,6 +11,10 @@ namespace pixmosa {
 void FlipHorizontal(Picture& picture);
 void FlipVertical(Picture& picture);
 
+// A quarter turn to the right or to the left; width and height change places.
+void TurnRight(Picture& picture);
+void TurnLeft(Picture& picture);
+
 // One half copied onto the other, reflected about H / 2 or W / 2: the first row or column has its mirror
 // place just outside the picture, so it is neither copied nor replaced, and the middle of an even size stays.
 // Rows (or columns) 0 .. round(H / 2 - 1), rounded half to even, and their mirror places H - y take part.

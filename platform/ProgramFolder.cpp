@@ -42,4 +42,9 @@ std::vector<std::filesystem::path> FontFolders() {
   return folders;
 }
 
+std::filesystem::path RecipeFolder() {
+  const std::filesystem::path data = DataHome();
+  return data.empty() ? data : data / "pixmosa" / "recetas";
+}
+
 }  // namespace pixmosa

@@ -15,4 +15,7 @@ std::filesystem::path ProgramFolder();
 // user without a home has none.
 std::vector<std::filesystem::path> FontFolders();
 
+// The folder of the user's recipes, which may not exist; empty for a user without a home.
+std::filesystem::path RecipeFolder();
+
 }  // namespace pixmosa

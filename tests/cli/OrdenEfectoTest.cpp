@@ -49,6 +49,41 @@ TEST_F(OrdenEfectoTest, StepsByNumberAndByNameFromLeftToRight) {
   for (const char* step : {"rgb-->-gbr", "rgb-a-gbr", "16=2"}) EXPECT_EQ(After({step}), (Rows{{2}})) << step;
 }
 
+TEST_F(OrdenEfectoTest, QuarterTurnsCropsAndRecipes) {
+  EXPECT_EQ(After({"girar-90"}), (Rows{{40, 10}, {50, 20}, {60, 30}}));
+  EXPECT_EQ(After({"girar-270"}), (Rows{{30, 60}, {20, 50}, {10, 40}}));
+  EXPECT_EQ(After({"recortar=1,0,2,1", "negativo"}), (Rows{{235, 225}}));
+  const std::string recipe = folder.File("suave.txt");
+  EscribirArchivo(recipe, "\xEF\xBB\xBF# una receta\r\n girar-90  # al lado\r\n\r\nrecortar=0,0,2,1\n");
+  EXPECT_EQ(After({"--receta", recipe}), (Rows{{40, 10}}));
+  EXPECT_EQ(After({"negativo", "--receta", recipe}), (Rows{{215, 245}})) << "its steps come first";
+  // A large one, turned back to what it was, over several squares.
+  Picture p(70, 33);
+  for (int i = 0; i < 70 * 33; ++i) p.Writable()[i] = PixelOfColour(Rgb(i % 251, i % 251, i % 251));
+  Save(picture, p);
+  EXPECT_EQ(After({"girar-90"})[3][5], Levels(p)[27][3]);
+  EXPECT_EQ(After({"girar-90", "girar-270"}), Levels(p));
+
+  struct Row {
+    std::vector<std::string> words;
+    int status;
+    const char* says;
+  };
+  EscribirArchivo(recipe, "negativo\nno-existe\n");
+  for (const Row& r :
+       {Row{{"recortar=60,0,11,5"}, 1, "se sale de la imagen, que tiene 70 x 33."},
+        Row{{"recortar=1,2,0,5"}, 2, "necesita cuatro enteros"},
+        Row{{"recortar"}, 2, "necesita cuatro enteros"}, Row{{"girar-90=1"}, 2, "no lleva valor"},
+        Row{{"--receta", recipe}, 2, "línea 2: no existe el paso \"no-existe\"."},
+        Row{{"--receta", "ninguna"}, 1, "No hay ninguna receta ni ningún archivo \"ninguna\"."}}) {
+    std::vector<std::string> words = {"efecto", picture, "-o", made};
+    words.insert(words.end(), r.words.begin(), r.words.end());
+    const Resultado result = Cli(words);
+    EXPECT_EQ(result.status, r.status) << r.words[0];
+    EXPECT_NE(result.err.find(r.says), std::string::npos) << result.err;
+  }
+}
+
 TEST_F(OrdenEfectoTest, SeedRepeatsTheNoise) {
   Save(picture, Picture::Filled(40, 40, Rgb(128, 128, 128)));
   const Rows first = After({"29", "--semilla", "7"});

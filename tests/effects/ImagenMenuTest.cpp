@@ -50,6 +50,8 @@ struct Turn {
 const Turn kTurns[] = {
     {"mnuHFlip", {{4, 3, 2, 1}, {8, 7, 6, 5}, {12, 11, 10, 9}, {16, 15, 14, 13}}},
     {"mnuVFLip", {{13, 14, 15, 16}, {9, 10, 11, 12}, {5, 6, 7, 8}, {1, 2, 3, 4}}},
+    {"mnuGirar90", {{13, 9, 5, 1}, {14, 10, 6, 2}, {15, 11, 7, 3}, {16, 12, 8, 4}}},
+    {"mnuGirar270", {{4, 8, 12, 16}, {3, 7, 11, 15}, {2, 6, 10, 14}, {1, 5, 9, 13}}},
     {"mnuEspejoAenB", {{1, 2, 3, 4}, {5, 6, 7, 8}, {9, 10, 11, 12}, {5, 6, 7, 8}}},
     {"mnuEspejoBenA", {{1, 2, 3, 4}, {13, 14, 15, 16}, {9, 10, 11, 12}, {13, 14, 15, 16}}},
     {"mnuEspejoDenI", {{1, 4, 3, 4}, {5, 8, 7, 8}, {9, 12, 11, 12}, {13, 16, 15, 16}}},
@@ -91,7 +93,7 @@ class ImagenMenuTest : public QObject {
     QCOMPARE(
         Tree(menu),
         QString(
-            "Girar[Horizontalmente|Verticalmente]|"
+            "Girar[Horizontalmente|Verticalmente|90 grados a la derecha|90 grados a la izquierda]|"
             "Colores[Escala de grises|Negativo|Blanco y negro[Método 1|Método 2|Método 3|Método 4|Método 5|"
             "Método 6]|Intercambiar RGB[RGB -> BRG|RGB -> GBR|RGB -> RBG|RGB -> BGR|RGB -> GRB]|"
             "Corrección gamma]|Intensidad[Brillo|Contraste|Saturacion]|"
