@@ -73,8 +73,7 @@ TEST(Cast, IsARecordingOfTheFrames) {
   const std::string esc = "\\u001b[";
   const std::string first = esc + "H" + esc + "38;2;255;0;0ma" + esc + "39m";
   EXPECT_EQ(all[0], R"({"version": 2, "width": 2, "height": 2, "title": "la \"uno\"\\"})");
-  EXPECT_EQ(all[1],
-            "[0.000, \"o\", \"" + esc + "?25l" + esc + "2J" + first + "\\\"\\u000d\\u000ab \"]");
+  EXPECT_EQ(all[1], "[0.000, \"o\", \"" + esc + "?25l" + esc + "2J" + first + "\\\"\\u000d\\u000ab \"]");
   EXPECT_EQ(all[2], "[0.070, \"o\", \"" + esc + "Hc" + esc + "K\\u000d\\u000a" + esc + "J\"]")
       << "what the frame before left is wiped";
   EXPECT_TRUE(all[3].starts_with("[1.570, ")) << all[3];
