@@ -6,6 +6,7 @@
 #include "cli/Ordenes.h"
 #include "cli/Reproducir.h"
 #include "platform/AtomicFile.h"
+#include "platform/png/Png.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -79,7 +80,13 @@ int Hacer(Consola& consola, const Argumentos& arguments) try {
   if (method == kAntiAlias) CargarPaleta3x2(p);
   if (EsDeFormas(method)) PrepararRepertorio(p.basAscii, p.ajustes, p.superficie);
   Revelado how = {method, output.opciones, Exportacion::MediosDe(consola, p.ajustes.font)};
-  if (where == Destino::Carpeta) how.opciones.color = output.ConColor();
+  if (where == Destino::Carpeta) {
+    how.opciones.color = output.ConColor();
+  } else {
+    how.medios.codificarPng = [](const Picture& picture) {
+      return EscribirPng(picture, Empaquetado::Mediano);
+    };
+  }
   const Pelicula film = PeliculaDe(consola, arguments);
   how.hilos = HilosPara(arguments, film.cuantas);
   const Seguir go = [&](std::size_t k, const std::string& failure) {

@@ -130,7 +130,7 @@ struct Writer {
       png_set_compression_strategy(png, Z_RLE);
       png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_UP);
     } else {
-      png_set_compression_level(png, Z_DEFAULT_COMPRESSION);
+      png_set_compression_level(png, packing == Empaquetado::Mediano ? Z_BEST_SPEED : Z_DEFAULT_COMPRESSION);
       png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_ALL_FILTERS);
     }
     png_write_info(png, info);

@@ -23,7 +23,8 @@ Picture LeerPng(std::string_view bytes);
 
 // Rapido: each row less the row above, then lengths of runs, the quickest way that still packs. Pequeno:
 // every filter and the usual search, for what is kept, sent or part of a page; several times as long.
-enum class Empaquetado { Rapido, Pequeno };
+// Mediano: every filter and a short search, for the many pictures of a film.
+enum class Empaquetado { Rapido, Mediano, Pequeno };
 
 // The bytes of a file of three 8-bit parts a pixel. Throws std::bad_alloc.
 std::string EscribirPng(const Picture& picture, Empaquetado packing = Empaquetado::Rapido);
