@@ -72,7 +72,7 @@ void MenuDeImagen::Hacer(const EntradaDeImagen& entry) {
     case Accion::Separador:
       return;
   }
-  Avisar();
+  Avisar(entry.caption);
 }
 
 void MenuDeImagen::Aplicar(int effect, std::int32_t argument, bool askConfig) {
@@ -81,7 +81,7 @@ void MenuDeImagen::Aplicar(int effect, std::int32_t argument, bool askConfig) {
       [&] {
         if (ApplyEffect(program_.mFiltros, program_.imagen, effect, program_.imagen, argument, progress_,
                         askConfig))
-          Avisar();
+          Avisar(Efecto(effect)->caption);
       },
       "Efectos");
 }
@@ -93,7 +93,10 @@ void MenuDeImagen::PonerEnBlancoYNegro() {
 void MenuDeImagen::AbrirDialogo(int effect) {
   if (!dialog_) {
     dialog_ = new frmEfectConfig(program_.mFiltros, program_.imagen, dialogs_, window_);
-    connect(dialog_, &frmEfectConfig::Aplicado, this, &MenuDeImagen::ImagenCambiada);
+    connect(dialog_, &frmEfectConfig::Aplicado, this, [this] {
+      const EffectConfig* applied = Efecto(program_.mFiltros.CurrentDialogEffect);
+      emit ImagenCambiada(Q(applied ? applied->caption : "Efecto"));
+    });
   }
   dialog_->Abrir(effect);
 }
@@ -102,8 +105,8 @@ void MenuDeImagen::SeguirImagen() {
   if (dialog_) dialog_->SeguirImagen();
 }
 
-void MenuDeImagen::Avisar() {
-  emit ImagenCambiada();
+void MenuDeImagen::Avisar(const char* step) {
+  emit ImagenCambiada(Q(step));
   SeguirImagen();
 }
 

@@ -46,12 +46,12 @@ class MenuDeImagen final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  signals:
-  void ImagenCambiada();
+  void ImagenCambiada(const QString& paso);  // what was done to it
 
  private:
   void Hacer(const EntradaDeImagen& entry);
   void AbrirDialogo(int effect);
-  void Avisar();
+  void Avisar(const char* step);
 
   Programa& program_;
   Progress& progress_;

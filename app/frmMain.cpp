@@ -76,6 +76,7 @@ void frmMain::CrearMenus() {
       acciones_[menu.entradas[i].nombre] = m->actions().at(static_cast<qsizetype>(i));
     if (m->objectName() == "mnuArchivo") menuBar()->addMenu(imagen_->Menu());
   }
+  CrearEntradasDeHistorial();
   QMenu* asciiArt = menuBar()->findChild<QMenu*>("mnuAsciiArt");
   auto* copy = named<QMenu>("mnuCopiarComo", QStringLiteral("Copiar co&mo"), asciiArt);
   copy->setToolTipsVisible(true);
@@ -178,7 +179,7 @@ void frmMain::CrearPaneles() {
           [this](int method) { RecordarConversion(desktop_.registro, method); });
   connect(opciones_, &frmOpcAlgoritmo::ComparacionPedida, this, Con(dialogs, [this] { Comparar(); }));
   connect(opciones_, &frmOpcAlgoritmo::Aviso, this, [this](const QString& sentence) { Decir(sentence); });
-  connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::MostrarImagen);
+  connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::PasoDado);
   // The text area keeps the Tab key to itself: it comes last, after the options.
   setTabOrder(previousInFocusChain(), chkAsciiPrev_);
   setTabOrder(chkAsciiPrev_, txtAscii_);

@@ -33,6 +33,7 @@ namespace pixmosa {
 class AreaDeTexto;
 class frmEditor;
 class frmFiglet;
+class frmHistorial;
 class frmOpcAlgoritmo;
 class frmPreview;
 class MenuDeImagen;
@@ -95,6 +96,17 @@ class frmMain final : public QMainWindow {
   void CopiarComoImagen();
   Medios MediosDeExportar();
   std::string EnFormato(const Dibujo& drawing, const Formato& format);
+
+  // --- frmMain_Imagen.cpp ---
+  static const std::vector<Entrada>& EntradasDeHistorial();
+  void CrearEntradasDeHistorial();
+  void PasoDado(const QString& name);  // the working picture was changed
+  void MostrarPasos();
+  void IrA(std::size_t step);
+  void DeshacerPaso();
+  void RehacerPaso();
+  void MostrarHistorial();
+  void GuardarImagen();
 
   // --- frmMain_Generar.cpp ---
   void Play();
@@ -170,6 +182,7 @@ class frmMain final : public QMainWindow {
   frmPreview* preview_ = nullptr;
   frmEditor* editor_ = nullptr;
   frmFiglet* figlet_ = nullptr;
+  frmHistorial* historial_ = nullptr;
   QLabel* lblEnlace_ = nullptr;
   std::function<void()> alSeguirEnlace_;
   QPushButton* cmdCancelar_ = nullptr;

@@ -30,7 +30,7 @@ bool frmMain::AbrirImagen(const std::filesystem::path& file) {
     return false;
   }
   opciones_->MostrarAnimArt();
-  MostrarImagen();
+  PasoDado(Q("Cargar " + file.filename().string()));
   imagen_->SeguirImagen();
   return true;
 }

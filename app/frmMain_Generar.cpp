@@ -118,6 +118,9 @@ void frmMain::ActualizarAcciones() {
   opciones_->PonerImagenDisponible(picture);
   acciones_.at("mnuComparar")->setEnabled(picture);
   acciones_.at("mnuGuardar")->setEnabled(text);
+  acciones_.at("mnuDeshacerImagen")->setEnabled(PuedeDeshacerPaso(p_));
+  acciones_.at("mnuRehacerImagen")->setEnabled(PuedeRehacerPaso(p_));
+  for (const char* name : {"mnuHistorial", "mnuGuardarImagen"}) acciones_.at(name)->setEnabled(picture);
   for (const char* name : {"mnuClipboard", "mnuExportar", "mnuCopiarComo"})
     acciones_.at(name)->setEnabled(text);
   acciones_.at("mnuPreviewAsciiArt")->setEnabled(!p_.basAscii.ProducedText.empty());

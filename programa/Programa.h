@@ -13,6 +13,7 @@
 #include "figlet/basFigLet.h"
 #include "platform/PictureCodec.h"
 #include "platform/TextSurface.h"
+#include "programa/HistorialDeImagen.h"
 #include "programa/Modos.h"
 #include "web/basGIF.h"
 #include "web/basWeb.h"
@@ -34,6 +35,7 @@ struct Programa {
 
   std::filesystem::path archivo{};  // that the working picture came from
   ImagenDeTrabajo imagen{};
+  HistorialDeImagen historial{};
   MFiltros mFiltros{};
   BasAscii basAscii{};
   AsciiSettings ajustes{};

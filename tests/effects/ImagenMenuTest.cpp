@@ -1,4 +1,5 @@
 #include <QLabel>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProgressBar>
@@ -103,7 +104,8 @@ class ImagenMenuTest : public QObject {
             "Aumentar exposición|Pixelizar]|"
             "Espejos[Reflejar parte derecha en la izquierda|Reflejar parte izquierda en la derecha|"
             "Reflejar parte inferior en la superior|Reflejar parte superior en la inferior]|-|"
-            "Deshacer cambios|Volver a la imagen original"));
+            "Deshacer cambios|Volver a la imagen original|-|"
+            "Deshacer el últi&mo paso|&Rehacer el paso|&Historial...|-|G&uardar la imagen..."));
   }
 
   void entriesWithoutAPictureDoNothing() {
@@ -112,6 +114,33 @@ class ImagenMenuTest : public QObject {
          {"mnuNegativo", "mnuHFlip", "mnuUndoPicture", "mnuImageReload", "mnuAumentarbrillo"})
       w.Trigger(name);
     QVERIFY(!w.window.findChild<QDialog*>("frmEfectConfig") && w.program.imagen.picMain.IsEmpty());
+  }
+
+  void everyStepIsUndoneAndDoneAgain() {
+    EffectWindow w;
+    const Rows loaded = w.Now();
+    QVERIFY(!Find<QAction>(w.window, "mnuDeshacerImagen").isEnabled());
+    w.Trigger("mnuNegativo");
+    const Rows negative = w.Now();
+    w.Trigger("mnuGirar90");
+    const Rows turned = w.Now();
+    w.Trigger("mnuDeshacerImagen");
+    QCOMPARE(w.Now(), negative);
+    w.Trigger("mnuDeshacerImagen");
+    QCOMPARE(w.Now(), loaded);
+    w.Trigger("mnuRehacerImagen");
+    w.Trigger("mnuRehacerImagen");
+    QCOMPARE(w.Now(), turned);
+    QVERIFY(!Find<QAction>(w.window, "mnuRehacerImagen").isEnabled());
+    w.Trigger("mnuHistorial");
+    auto& list = Find<QListWidget>(w.window, "lsvHistorial");
+    QCOMPARE(list.count(), 3);
+    QCOMPARE(list.item(1)->text(), QString("Negativo"));
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(0)).center());
+    QCOMPARE(w.Now(), loaded);
+    w.dialogs.paths.push_back(w.folder.File("retocada.png"));
+    w.Trigger("mnuGuardarImagen");
+    QCOMPARE(Levels(w.pictures.Read(w.folder.File("retocada.png"))), loaded);
   }
 
   // A configurable entry opens its dialog; chosen again, it runs with the menu's own argument.

@@ -124,6 +124,44 @@ TEST_F(ProgramaTest, TextsFarTooLargeAreRefusedBeforeTheyAreMade) {
   }
 }
 
+TEST_F(ProgramaTest, HistoryGoesBackAndForthAndIsBounded) {
+  const auto now = [&] { return p.imagen.picMain.ColourAt(0, 0) & 0xFF; };
+  AnotarPaso(p, "nada");
+  EXPECT_TRUE(p.historial.pasos.empty()) << "there is no picture";
+  p.imagen.Cargar(Grays({{10}}));
+  AnotarPaso(p, "Cargar");
+  AnotarPaso(p, "Cargar");
+  EXPECT_FALSE(PuedeDeshacerPaso(p)) << "the same picture is no step";
+  for (const int level : {20, 30, 40}) {
+    p.imagen.SaveUndo();
+    p.imagen.picMain = Grays({{level}});
+    AnotarPaso(p, "Paso");
+  }
+  IrAlPaso(p, 1);
+  EXPECT_EQ(now(), 20);
+  EXPECT_EQ(p.imagen.picUndo.ColourAt(0, 0) & 0xFF, 10) << "with its own undo copy";
+  EXPECT_EQ(p.imagen.picMainAsignada.ColourAt(0, 0) & 0xFF, 10) << "and its original";
+  IrAlPaso(p, 3);
+  EXPECT_EQ(now(), 40);
+  EXPECT_FALSE(PuedeRehacerPaso(p));
+  IrAlPaso(p, 0);
+  p.imagen.picMain = Grays({{50}});
+  AnotarPaso(p, "Otro");
+  EXPECT_EQ(p.historial.pasos.size(), 2U) << "what was undone gives way";
+  p.mFiltros.EffectBusy = true;
+  IrAlPaso(p, 0);
+  EXPECT_EQ(now(), 50) << "not while an effect runs";
+  p.mFiltros.EffectBusy = false;
+  // Three pictures of 4 bytes each at most: the oldest go.
+  for (int i = 0; i < 5; ++i) {
+    p.imagen.Cargar(Grays({{100 + i}}));
+    AnotarPaso(p, "Cargar", 12);
+  }
+  EXPECT_EQ(p.historial.pasos.size(), 3U);
+  IrAlPaso(p, 0);
+  EXPECT_EQ(now(), 102);
+}
+
 TEST_F(ProgramaTest, WhatPlayRuns) {
   EXPECT_EQ(QueGenerar(p), Trabajo::PedirImagen);
   p.imagen.Cargar(Grays({{0}}));

@@ -1,0 +1,32 @@
+#include "app/frmHistorial.h"
+
+#include <QListWidget>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include "platform/qt/Named.h"
+#include "platform/qt/QtText.h"
+
+namespace pixmosa {
+
+frmHistorial::frmHistorial(QWidget* parent) : QDialog(parent) {
+  setObjectName("frmHistorial");
+  setWindowTitle(QStringLiteral("Historial de la imagen"));
+  lsvHistorial_ = named<QListWidget>("lsvHistorial");
+  lsvHistorial_->setToolTip(QStringLiteral("Un clic en un paso deja la imagen como estaba en él"));
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(lsvHistorial_);
+  resize(280, 320);
+  connect(lsvHistorial_, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row >= 0) emit PasoElegido(row);
+  });
+}
+
+void frmHistorial::Mostrar(const HistorialDeImagen& history) {
+  const QSignalBlocker quiet(lsvHistorial_);
+  lsvHistorial_->clear();
+  for (const PasoDeImagen& step : history.pasos) lsvHistorial_->addItem(Q(step.nombre));
+  lsvHistorial_->setCurrentRow(static_cast<int>(history.actual));
+}
+
+}  // namespace pixmosa

@@ -1,0 +1,27 @@
+// The steps of the working picture as a list; a click on one goes there.
+#pragma once
+
+#include <QDialog>
+
+#include "programa/HistorialDeImagen.h"
+
+class QListWidget;
+
+namespace pixmosa {
+
+class frmHistorial final : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit frmHistorial(QWidget* parent);
+
+  void Mostrar(const HistorialDeImagen& history);
+
+ signals:
+  void PasoElegido(int k);  // from 0
+
+ private:
+  QListWidget* lsvHistorial_;
+};
+
+}  // namespace pixmosa
