@@ -7,7 +7,6 @@
 #include "programa/Programa.h"
 
 class QAbstractButton;
-class QButtonGroup;
 class QCheckBox;
 class QComboBox;
 class QFrame;
@@ -37,7 +36,7 @@ class frmOpcAlgoritmo final : public QWidget {
   // There is a working picture, or none: what works on it can be chosen, or not.
   void PonerImagenDisponible(bool available);
 
-  // Presses the button of a conversion of the grayscale mode: kGrayscale, kTono or kFormas.
+  // Chooses a conversion of the grayscale mode: kGrayscale, kTono or kFormas.
   void ElegirConversion(int method);
 
  signals:
@@ -85,7 +84,7 @@ class frmOpcAlgoritmo final : public QWidget {
   QWidget* mrcweb_[2];
   QComboBox* cboPaletas_;
   QCheckBox* chkAsciiNegativo_;
-  QButtonGroup* conversion_;  // ids are the methods
+  QComboBox* cboConversion_;  // the items' data are the methods
   QPushButton* cmdComparar_;
   QWidget* mrcFormas_;
   QWidget* mrcNitidez_;
