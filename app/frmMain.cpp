@@ -59,6 +59,7 @@ frmMain::frmMain(Programa& program, const Escritorio& desktop)
   CrearCentro();
   CrearEstados();
   CrearPaneles();
+  PrepararVista();
   ActualizarAcciones();
 }
 
@@ -123,6 +124,7 @@ void frmMain::CrearCentro() {
   text->setContentsMargins(3, 6, 6, 6);
   text->addLayout(head);
   text->addWidget(txtAscii_, 1);
+  text->addWidget(CrearMedidas());
 
   auto* splitter = named<QSplitter>("divisor", Qt::Horizontal);
   splitter->addWidget(left);

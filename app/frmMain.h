@@ -132,6 +132,16 @@ class frmMain final : public QMainWindow {
   void Cancelar();
   void NombrarArchivo(const QString& what, const std::string& file);
 
+  // --- frmMain_Ver.cpp: how near picture and drawing are seen ---
+  void PrepararVista();
+  QLabel* CrearMedidas();
+  void MostrarMedidas(QPoint cell);
+  void AjustarImagen();
+  void VerTodo();
+  void Acercar();
+  void Alejar();
+  void TamañoReal();
+
   // --- frmMain_Ventanas.cpp ---
   void Salir();
   bool PuedePerderseElTexto();  // asks where it was edited by hand
@@ -151,6 +161,7 @@ class frmMain final : public QMainWindow {
   std::vector<QToolBar*> barras_;
   AreaDeTexto* txtAscii_ = nullptr;
   MarcoDeImagen* marco_ = nullptr;
+  QLabel* lblMedidas_ = nullptr;
   QWidget* PicAlgoritmos_ = nullptr;
   frmOpcAlgoritmo* opciones_ = nullptr;
   QLabel* lblModo_ = nullptr;

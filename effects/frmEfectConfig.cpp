@@ -41,16 +41,11 @@ void ImagenEstirable::Mostrar(const Picture& picture, bool stretch) {
 void ImagenEstirable::paintEvent(QPaintEvent*) {
   if (picture_.IsEmpty()) return;
   QPainter painter(this);
-  const QImage image = ImageOf(picture_);
   if (!stretch_) {
-    painter.drawImage(0, 0, image);
+    painter.drawImage(0, 0, ImageOf(picture_));
     return;
   }
-  // A large picture is thinned out before it is smoothed: a preview of millions of pixels has to be quick.
-  const QSize target = size() * devicePixelRatioF();
-  const QSize thinned = image.size().boundedTo(4 * target);
-  painter.drawImage(rect(),
-                    image.scaled(thinned).scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  painter.drawImage(rect(), Vista(picture_, size() * devicePixelRatioF()));
 }
 
 frmEfectConfig::frmEfectConfig(MFiltros& m, ImagenDeTrabajo& image, Dialogs& dialogs, QWidget* parent)

@@ -25,6 +25,8 @@ AreaDeTexto::AreaDeTexto(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
   setFrameShape(NoFrame);
   document()->setDocumentMargin(2);
+  viewport()->setMouseTracking(true);
+  viewport()->grabGesture(Qt::PinchGesture);
   connect(document(), &QTextDocument::contentsChange, this,
           [this](int position, int, int added) { CuidarCeldas(position, added); });
 }
@@ -113,15 +115,6 @@ void AreaDeTexto::CuidarCeldas(int position, int added) {
   if (NecesitaFormato(range.selectedText())) celdas_ = std::make_unique<FormatoDeCeldas>(document());
 }
 
-void AreaDeTexto::PonerFuente(const Font& font) {
-  const QFont f = QtFontOf(font);
-  setFont(f);
-  document()->setDefaultFont(f);
-  if (celdas_) celdas_->Medir();
-  // Getting a font counts as an edit of an empty document.
-  if (document()->isEmpty()) document()->clearUndoRedoStacks();
-}
-
 void AreaDeTexto::PonerColores(QColor background, QColor text) {
   QPalette colours = palette();
   colours.setColor(QPalette::Base, background);
@@ -148,7 +141,8 @@ void AreaDeTexto::AjustarAlineacion() {
   int columns = 0;
   for (QTextBlock line = document()->begin(); line.isValid(); line = line.next())
     columns = std::max(columns, line.length() - 1);
-  const qreal width = columns * fontMetrics().horizontalAdvance(u'0') + 2 * document()->documentMargin();
+  const qreal width = columns * QFontMetricsF(document()->defaultFont()).horizontalAdvance(u'0') +
+                      2 * document()->documentMargin();
   setLineWrapMode(width > viewport()->width() ? NoWrap : WidgetWidth);
 }
 

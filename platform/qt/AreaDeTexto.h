@@ -1,5 +1,5 @@
-// A text area for character art: it shows text in a fixed-pitch font and gives back every byte of the 8-bit
-// code page, and every other character, that it was given.
+// A text area for character art: it shows text in a fixed-pitch font, nearer or farther, and gives back every
+// byte of the 8-bit code page, and every other character, that it was given.
 #pragma once
 
 #include <memory>
@@ -62,12 +62,26 @@ class AreaDeTexto : public QPlainTextEdit {
   void PonerPista(const QString& hint);
 
   void PonerFuente(const Font& font);
+
+  // Shows the text nearer or farther by so many steps, in cells of the font's own proportions; what is in the
+  // middle stays there. Ctrl with the wheel and two fingers do the same about the pointer. The font and the
+  // text stay what they are.
+  void Acercar(int steps);
+  void TamañoReal();
+
+  // As near as the whole text can be seen, and no nearer than its real size.
+  void VerTodo();
+
+  // The longest line's characters, and the lines; 0 x 0 where it is empty.
+  QSize Medidas() const;
+
   void PonerColores(QColor background, QColor text);
 
   // How each line lies within the visible width. Text wider than that lies at the left and scrolls.
   void Alinear(Qt::Alignment alignment);
 
  signals:
+  void Senalada(QPoint cell);  // column and row under the pointer, from 1; 0, 0 where there is none
   void TextoSustituido();  // a text edited by hand gave way to another; Undo brings it back
 
  protected:
@@ -75,6 +89,9 @@ class AreaDeTexto : public QPlainTextEdit {
   void contextMenuEvent(QContextMenuEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   QMimeData* createMimeDataFromSelection() const override;
   void keyPressEvent(QKeyEvent* event) override;
 
@@ -84,6 +101,16 @@ class AreaDeTexto : public QPlainTextEdit {
   void CuidarCeldas(int position, int added);
   void AjustarAlineacion();
 
+  // --- AreaDeTexto_Vista.cpp: nearer and farther, and what the pointer is on ---
+  void MostrarFuente();
+  double Alto() const;  // of a row, in whole pixels
+  void AcercarA(int steps, QPointF about);
+  void PonerEscala(double scale, QPointF about);
+  QPoint CeldaEn(QPoint position) const;
+
+  Font fuente_{};
+  double escala_ = 1;  // of what is shown; 1 is the font's own size
+  int giro_ = 0;     // of the wheel, not yet followed
   std::unique_ptr<FormatoDeCeldas> celdas_;  // where there are characters that need it
   std::string puesta_;                       // the text that was put last, UTF-8 as those below
   std::string guardada_;                     // the text that was saved last
