@@ -173,6 +173,8 @@ void frmMain::CrearPaneles() {
           [this](int method) { RecordarConversion(desktop_.registro, method); });
   connect(opciones_, &frmOpcAlgoritmo::ComparacionPedida, this, Con(dialogs, [this] { Comparar(); }));
   connect(opciones_, &frmOpcAlgoritmo::Aviso, this, [this](const QString& sentence) { Decir(sentence); });
+  connect(opciones_, &frmOpcAlgoritmo::AnchoPedido, this,
+          [this] { opciones_->PonerAncho(txtAscii_->ColumnasVisibles()); });
   connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::MostrarImagen);
   // The text area keeps the Tab key to itself: it comes last, after the options.
   setTabOrder(previousInFocusChain(), chkAsciiPrev_);

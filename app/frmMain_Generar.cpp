@@ -116,6 +116,7 @@ void frmMain::ActualizarAcciones() {
   const bool picture = HayImagen(p_), text = !txtAscii_->EstaVacia();
   imagen_->PonerDisponible(picture);
   opciones_->PonerImagenDisponible(picture);
+  opciones_->MostrarColumnas();
   acciones_.at("mnuComparar")->setEnabled(picture);
   acciones_.at("mnuGuardar")->setEnabled(text);
   for (const char* name : {"mnuClipboard", "mnuExportar", "mnuCopiarConFormato", "mnuCopiarComoImagen"})

@@ -58,6 +58,7 @@ frmOpcAlgoritmo::frmOpcAlgoritmo(Programa& program, Dialogs& dialogs, QWidget* p
   Conectar();
   ConectarWeb();
   ConectarConversion();
+  ConectarColumnas();
   MostrarConversion();
   MostrarPaneles();
 }
@@ -127,10 +128,12 @@ void frmOpcAlgoritmo::MostrarPaneles() {
   for (int i = 0; i < 2; ++i) Poner(mrcAlgoritmo_[i], row.algoritmo[i]);
   for (int i = 0; i < 3; ++i) Poner(mrcAscii_[i], row.ascii[i]);
   for (int i = 0; i < 2; ++i) Poner(mrcweb_[i], row.web[i]);
+  MostrarColumnas();
 }
 
 void frmOpcAlgoritmo::TamañoCambiado(int value) {
   PonerTamaño(program_, value);
+  MostrarColumnas();
   program_.vistaPrevia = false;
   emit TextoCaducado(MetodoDe(program_));
 }
@@ -139,6 +142,7 @@ void frmOpcAlgoritmo::SaltarATamaño(int value) {
   const QSignalBlocker quiet(sldTamaño_);
   sldTamaño_->setValue(value);
   PonerTamaño(program_, value);
+  MostrarColumnas();
 }
 
 bool frmOpcAlgoritmo::ElegirColor(QPushButton* swatch, Colour& colour) {

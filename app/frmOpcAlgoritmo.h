@@ -14,6 +14,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QSlider;
+class QSpinBox;
 class QToolBar;
 class QVBoxLayout;
 
@@ -36,6 +37,12 @@ class frmOpcAlgoritmo final : public QWidget {
   // There is a working picture, or none: what works on it can be chosen, or not.
   void PonerImagenDisponible(bool available);
 
+  // The columns that the text's window shows, which were asked for; the size and the text follow.
+  void PonerAncho(int columns);
+
+  // The columns and the rows that they give, again after something else has changed them.
+  void MostrarColumnas();
+
   // Chooses a conversion of the grayscale mode: kGrayscale, kTono or kFormas.
   void ElegirConversion(int method);
 
@@ -47,6 +54,7 @@ class frmOpcAlgoritmo final : public QWidget {
   void FotogramasPedidos();
   void ConversionElegida(int method);  // by the user or by ElegirConversion
   void ComparacionPedida();
+  void AnchoPedido();                   // as many columns as the text's window shows
   void Aviso(const QString& sentence);  // what is wrong with what was typed
 
  protected:
@@ -69,6 +77,11 @@ class frmOpcAlgoritmo final : public QWidget {
   void MostrarConversion();  // the controls that apply to the chosen one
   void CaracteresEscritos();
   void ProporcionEscrita();
+
+  // --- frmOpcAlgoritmo_Columnas.cpp: the size as a number ---
+  QLayout* CrearColumnas();
+  void ConectarColumnas();
+  void PonerColumnas(int columns);
 
   // --- frmOpcAlgoritmo.cpp: how it reacts ---
   void Conectar();
@@ -96,7 +109,11 @@ class frmOpcAlgoritmo final : public QWidget {
   QComboBox* cboProporcion_;
   QSlider* sldLuminosidad_;
   QAbstractButton* label1_;
+  QSpinBox* numLuminosidad_;
   QSlider* sldTamaño_;
+  QSpinBox* numColumnas_;
+  QLabel* lblFilas_;
+  QComboBox* cboPresetColumnas_;
   QAbstractButton* lblTamañoAsciiMin_;
   QAbstractButton* lblTamañoAsciiMax_;
   QAbstractButton* lbl100_;

@@ -75,6 +75,9 @@ class AreaDeTexto : public QPlainTextEdit {
   // The longest line's characters, and the lines; 0 x 0 where it is empty.
   QSize Medidas() const;
 
+  // As many characters as a line may have and be seen whole, as near as it is seen now; 1 at least.
+  int ColumnasVisibles() const;
+
   void PonerColores(QColor background, QColor text);
 
   // How each line lies within the visible width. Text wider than that lies at the left and scrolls.
@@ -82,7 +85,7 @@ class AreaDeTexto : public QPlainTextEdit {
 
  signals:
   void Senalada(QPoint cell);  // column and row under the pointer, from 1; 0, 0 where there is none
-  void TextoSustituido();  // a text edited by hand gave way to another; Undo brings it back
+  void TextoSustituido();      // a text edited by hand gave way to another; Undo brings it back
 
  protected:
   bool canInsertFromMimeData(const QMimeData* source) const override;
@@ -103,14 +106,15 @@ class AreaDeTexto : public QPlainTextEdit {
 
   // --- AreaDeTexto_Vista.cpp: nearer and farther, and what the pointer is on ---
   void MostrarFuente();
-  double Alto() const;  // of a row, in whole pixels
+  double Margen() const;  // beside the lines, both sides together
+  double Alto() const;    // of a row, in whole pixels
   void AcercarA(int steps, QPointF about);
   void PonerEscala(double scale, QPointF about);
   QPoint CeldaEn(QPoint position) const;
 
   Font fuente_{};
-  double escala_ = 1;  // of what is shown; 1 is the font's own size
-  int giro_ = 0;     // of the wheel, not yet followed
+  double escala_ = 1;                        // of what is shown; 1 is the font's own size
+  int giro_ = 0;                             // of the wheel, not yet followed
   std::unique_ptr<FormatoDeCeldas> celdas_;  // where there are characters that need it
   std::string puesta_;                       // the text that was put last, UTF-8 as those below
   std::string guardada_;                     // the text that was saved last

@@ -97,11 +97,15 @@ void AreaDeTexto::TamañoReal() {
   PonerEscala(1, viewport()->rect().center());
 }
 
+double AreaDeTexto::Margen() const {
+  return 4 * document()->documentMargin() + 1;  // twice on each side, and rounded up
+}
+
 void AreaDeTexto::VerTodo() {
   const QSize text = Medidas();
   if (text.isEmpty()) return;
   const QSizeF cell = CeldaDe(QtFontOf(fuente_));
-  const double margin = 4 * document()->documentMargin() + 1;  // twice on each side, and rounded up
+  const double margin = Margen();
   const double width = maximumViewportSize().width() - margin,
                height = maximumViewportSize().height() - margin;
   const double row =
@@ -117,6 +121,11 @@ QSize AreaDeTexto::Medidas() const {
   for (QTextBlock line = document()->begin(); line.isValid(); line = line.next())
     if (line.length() > columns) columns = std::max(columns, Letras(line.text()));
   return {columns, blockCount()};
+}
+
+int AreaDeTexto::ColumnasVisibles() const {
+  const double width = maximumViewportSize().width() - verticalScrollBar()->sizeHint().width() - Margen();
+  return std::max(1, static_cast<int>(width / CeldaDe(document()->defaultFont()).width()));
 }
 
 QPoint AreaDeTexto::CeldaEn(QPoint position) const {
