@@ -88,6 +88,7 @@ void frmMain::CrearBarras() {
     button->setObjectName(b.clave);
     button->setToolTip(entry->toolTip() + " (" + entry->shortcut().toString(QKeySequence::NativeText) + ")");
     bar->addAction(button);
+    if (entry == acciones_.at("mnuPlay")) CrearAlMomento(bar);
     connect(button, &QAction::triggered, entry, &QAction::trigger);
     connect(entry, &QAction::changed, button, [button, entry] { button->setEnabled(entry->isEnabled()); });
   }
@@ -176,6 +177,8 @@ void frmMain::CrearPaneles() {
   connect(opciones_, &frmOpcAlgoritmo::AnchoPedido, this,
           [this] { opciones_->PonerAncho(txtAscii_->ColumnasVisibles()); });
   connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::MostrarImagen);
+  connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::AlMomento);
+  connect(opciones_, &frmOpcAlgoritmo::RellenoCambiado, this, &frmMain::AlMomento);
   // The text area keeps the Tab key to itself: it comes last, after the options.
   setTabOrder(previousInFocusChain(), chkAsciiPrev_);
   setTabOrder(chkAsciiPrev_, txtAscii_);

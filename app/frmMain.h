@@ -93,6 +93,8 @@ class frmMain final : public QMainWindow {
   void Generar(int method);        // and shows the text; there is a picture
   bool QuiereElTexto(int method);  // asks before one that is far too large
   void Regenerar();
+  void CrearAlMomento(QToolBar* bar);
+  void AlMomento();          // the text once more, where that is wanted of what changes by itself
   void Caducar(int method);  // the text is made again once the waiting events are handled
   void ShowPreview();
   void OfrecerFormas(int method);  // once, for a photograph
@@ -166,6 +168,7 @@ class frmMain final : public QMainWindow {
   frmOpcAlgoritmo* opciones_ = nullptr;
   QLabel* lblModo_ = nullptr;
   QCheckBox* chkAsciiPrev_ = nullptr;
+  QCheckBox* chkAlMomento_ = nullptr;
   QLabel* panelFuente_ = nullptr;
   QLabel* panelFiglet_ = nullptr;
   QLabel* panelTamaño_ = nullptr;

@@ -47,6 +47,7 @@ void frmMain::ElegirModo(Modo mode) {
   p_.modo = mode;
   lblModo_->setText(QString::fromUtf8(kModos[mode]));
   if (!PicAlgoritmos_->isHidden()) opciones_->MostrarPaneles();
+  AlMomento();
 }
 
 void frmMain::CrearLetreros(QVBoxLayout* area) {

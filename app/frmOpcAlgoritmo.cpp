@@ -94,7 +94,10 @@ void frmOpcAlgoritmo::Conectar() {
   connect(lblAsciiForeColor_, &QAbstractButton::clicked, this, [this] {
     if (ElegirColor(lblAsciiForeColor_, program_.colorTexto)) emit ColoresCambiados();
   });
-  connect(chkRelleno_, &QCheckBox::toggled, this, [this](bool fill) { program_.ajustes.relleno = fill; });
+  connect(chkRelleno_, &QCheckBox::toggled, this, [this](bool fill) {
+    program_.ajustes.relleno = fill;
+    emit RellenoCambiado();
+  });
   connect(chkAnimArt_, &QCheckBox::toggled, this, [this](bool animate) { program_.animArt = animate; });
   connect(cmdBN_, &QAbstractButton::clicked, this, &frmOpcAlgoritmo::BlancoYNegroPedido);
   connect(cmdGIFAvance_, &QAbstractButton::clicked, this, &frmOpcAlgoritmo::FotogramasPedidos);

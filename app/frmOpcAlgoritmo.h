@@ -50,6 +50,7 @@ class frmOpcAlgoritmo final : public QWidget {
   void TextoCaducado(int method);  // the text has to be made again by this method
   void LetrerosVisibles(bool shown);
   void ColoresCambiados();
+  void RellenoCambiado();
   void BlancoYNegroPedido();
   void FotogramasPedidos();
   void ConversionElegida(int method);  // by the user or by ElegirConversion

@@ -43,16 +43,22 @@ void AreaDeTexto::PonerTexto(std::string_view bytes) {
 
 void AreaDeTexto::PonerUtf8(std::string_view utf8) {
   const bool edited = EditadaAMano();
-  if (edited) editada_ = Utf8();
+  if (edited) Conservar();
   puesta_ = utf8;
   Mostrar(utf8);
   if (edited) emit TextoSustituido();
 }
 
 void AreaDeTexto::RecibirTexto(std::string_view bytes) {
-  editada_ = Utf8();
+  Conservar();
   Mostrar(Utf8OfBytes(bytes));
   document()->setModified(true);
+}
+
+void AreaDeTexto::Conservar() {
+  constexpr std::size_t kMasTextos = 20;
+  if (editadas_.size() == kMasTextos) editadas_.erase(editadas_.begin());
+  editadas_.push_back(Utf8());
 }
 
 void AreaDeTexto::Mostrar(std::string_view utf8) {
@@ -76,14 +82,15 @@ void AreaDeTexto::DarPorGuardada() {
 }
 
 bool AreaDeTexto::PuedeDeshacer() const {
-  return document()->isUndoAvailable() || editada_;
+  return document()->isUndoAvailable() || !editadas_.empty();
 }
 
 void AreaDeTexto::Deshacer() {
   if (document()->isUndoAvailable()) {
     undo();
-  } else if (editada_) {
-    const std::string text = *std::exchange(editada_, std::nullopt);
+  } else if (!editadas_.empty()) {
+    const std::string text = std::move(editadas_.back());
+    editadas_.pop_back();
     Mostrar(text);
     document()->setModified(true);
   }
@@ -168,7 +175,7 @@ bool AreaDeTexto::canInsertFromMimeData(const QMimeData* source) const {
 
 void AreaDeTexto::contextMenuEvent(QContextMenuEvent* event) {
   const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
-  if (editada_ && !document()->isUndoAvailable()) {
+  if (!editadas_.empty() && !document()->isUndoAvailable()) {
     auto* back = new QAction(QStringLiteral("Recuperar el texto editado"), menu.get());
     connect(back, &QAction::triggered, this, &AreaDeTexto::Deshacer);
     menu->insertAction(menu->actions().value(0), back);

@@ -3,9 +3,9 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <QPlainTextEdit>
 
@@ -28,7 +28,7 @@ class AreaDeTexto : public QPlainTextEdit {
   ~AreaDeTexto() override;
 
   // Replaces the whole text; bytes of the 8-bit code page. The history of edits starts anew, but a text that
-  // was edited by hand is kept, and Undo brings it back.
+  // was edited by hand is kept, and Undo brings it back; so are those before it.
   void PonerTexto(std::string_view bytes);
 
   // The same of UTF-8.
@@ -100,6 +100,7 @@ class AreaDeTexto : public QPlainTextEdit {
 
  private:
   bool EditadaAMano() const;
+  void Conservar();
   void Mostrar(std::string_view utf8);
   void CuidarCeldas(int position, int added);
   void AjustarAlineacion();
@@ -118,7 +119,7 @@ class AreaDeTexto : public QPlainTextEdit {
   std::unique_ptr<FormatoDeCeldas> celdas_;  // where there are characters that need it
   std::string puesta_;                       // the text that was put last, UTF-8 as those below
   std::string guardada_;                     // the text that was saved last
-  std::optional<std::string> editada_;       // a text that gave way to another
+  std::vector<std::string> editadas_;        // texts that gave way to others, the last one last
   QString pista_;
   Qt::Alignment alineacion_ = Qt::AlignLeft;
 };
