@@ -15,8 +15,10 @@
 
 #include "app/MarcoDeImagen.h"
 #include "app/MenuDeImagen.h"
+#include "app/PiezasDePanel.h"
 #include "app/Recuerdos.h"
 #include "app/frmOpcAlgoritmo.h"
+#include "figlet/frmFiglet.h"
 #include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Intentar.h"
 #include "platform/qt/Menus.h"
@@ -159,11 +161,11 @@ void frmMain::CrearBarraDeEstado() {
 }
 
 void frmMain::CrearPaneles() {
-  auto* area = new QVBoxLayout(PicAlgoritmos_);
-  area->setContentsMargins(0, 0, 0, 0);
-  CrearLetreros(area);
+  CrearLetreros();
   opciones_ = new frmOpcAlgoritmo(p_, desktop_.dialogos, PicAlgoritmos_);
-  area->addWidget(opciones_);
+  QGridLayout* area = Superpuestos({figlet_, opciones_});
+  area->setContentsMargins(0, 0, 0, 0);
+  PicAlgoritmos_->setLayout(area);
   Dialogs& dialogs = desktop_.dialogos;
   connect(opciones_, &frmOpcAlgoritmo::TextoCaducado, this, Con(dialogs, [this](int m) { Caducar(m); }));
   connect(opciones_, &frmOpcAlgoritmo::LetrerosVisibles, this, &frmMain::MostrarLetreros);

@@ -25,7 +25,7 @@ class QProgressBar;
 class QPushButton;
 class QShortcut;
 class QToolBar;
-class QVBoxLayout;
+class QToolButton;
 
 namespace pixmosa {
 
@@ -73,7 +73,7 @@ class frmMain final : public QMainWindow {
   void CrearBarraDeEstado();
   void CrearPaneles();
   void CrearEstados();
-  void CrearLetreros(QVBoxLayout* area);
+  void CrearLetreros();
 
   // --- frmMain_Archivo.cpp: pictures in, text out ---
   void CargarImagen();
@@ -114,6 +114,7 @@ class frmMain final : public QMainWindow {
 
   // --- frmMain_Modos.cpp ---
   void ElegirModo(Modo mode);
+  void PresentarModo();  // the chosen one's icon and sentence
   void PonerLetrero(const std::string& banner);
   void MostrarLetreros(bool shown);  // the banner panel in front of the options, or not
 
@@ -166,6 +167,7 @@ class frmMain final : public QMainWindow {
   QLabel* lblMedidas_ = nullptr;
   QWidget* PicAlgoritmos_ = nullptr;
   frmOpcAlgoritmo* opciones_ = nullptr;
+  QToolButton* cmdModo_ = nullptr;
   QLabel* lblModo_ = nullptr;
   QCheckBox* chkAsciiPrev_ = nullptr;
   QCheckBox* chkAlMomento_ = nullptr;

@@ -13,6 +13,7 @@
 #include <QSlider>
 #include <QVBoxLayout>
 
+#include "app/PiezasDePanel.h"
 #include "platform/qt/Intentar.h"
 #include "platform/qt/Muestra.h"
 #include "platform/qt/QtText.h"
@@ -53,7 +54,7 @@ frmOpcAlgoritmo::frmOpcAlgoritmo(Programa& program, Dialogs& dialogs, QWidget* p
   layout->setContentsMargins(0, 4, 0, 0);
   mrcAlgoritmo_[0] = CrearPaginaAscii();
   mrcAlgoritmo_[1] = CrearPaginaWeb();
-  for (QWidget* page : mrcAlgoritmo_) layout->addWidget(page);
+  layout->addLayout(Superpuestos({mrcAlgoritmo_[0], mrcAlgoritmo_[1]}));
   MostrarAnimArt();
   Conectar();
   ConectarWeb();

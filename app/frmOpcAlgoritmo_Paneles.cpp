@@ -101,7 +101,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
   colours->addWidget(lblAsciiForeColor_);
   layout->addLayout(colours);
   layout->addLayout(FilaDePanel("P&roporción", CrearProporcion()));
-  for (QWidget* frame : mrcAscii_) layout->addWidget(frame);
+  layout->addLayout(Superpuestos({mrcAscii_[0], mrcAscii_[1], mrcAscii_[2]}));
   cmdBN_ = named<QPushButton>("cmdBN", QStringLiteral("&Blanco y negro"));
   cmdBN_->setToolTip(
       QStringLiteral("Deja la imagen en blanco y negro puros, como la piden los bordes y el "
