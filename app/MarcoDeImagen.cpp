@@ -4,6 +4,7 @@
 
 #include <QFrame>
 #include <QGridLayout>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -25,16 +26,30 @@ VistaDeImagen::VistaDeImagen(QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void VistaDeImagen::Mostrar(const Picture& picture) {
+void VistaDeImagen::Mostrar(const Picture& picture, QSize room) {
   picture_ = picture;
-  resize(picture.Width(), picture.Height());
+  encogida_ = {};
+  Ajustar(room);
   setVisible(!picture.IsEmpty());
   update();
 }
 
+void VistaDeImagen::Ajustar(QSize room) {
+  const bool larger = Natural().width() > room.width() || Natural().height() > room.height();
+  resize(room.isEmpty() || !larger ? Natural()
+                                   : Natural().scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1}));
+}
+
 void VistaDeImagen::paintEvent(QPaintEvent* event) {
   if (picture_.IsEmpty()) return;
-  QPainter(this).drawImage(event->rect(), ImageOf(picture_), event->rect());
+  QPainter painter(this);
+  if (size() == Natural()) {
+    painter.drawImage(event->rect(), ImageOf(picture_), event->rect());
+    return;
+  }
+  const QSize pixels = size() * devicePixelRatioF();
+  if (encogida_.size() != pixels) encogida_ = QPixmap::fromImage(Vista(picture_, pixels));
+  painter.drawPixmap(rect(), encogida_);
 }
 
 MarcoDeImagen::MarcoDeImagen(QWidget* parent) : QWidget(parent) {
@@ -42,7 +57,9 @@ MarcoDeImagen::MarcoDeImagen(QWidget* parent) : QWidget(parent) {
   frame->setFrameShape(QFrame::NoFrame);
   frame->setAutoFillBackground(true);
   frame->setBackgroundRole(QPalette::Dark);
-  frame->setToolTip(tr("Imagen de trabajo: arrastre aquí una imagen para cargarla"));
+  frame->setToolTip(
+      tr("Imagen de trabajo: arrastre aquí una imagen para cargarla; "
+         "doble clic para verla entera o a tamaño natural"));
   marco_ = frame;
   vista_ = named<VistaDeImagen>("picMain", frame);
   vista_->hide();
@@ -66,12 +83,44 @@ QSize MarcoDeImagen::sizeHint() const {
 
 void MarcoDeImagen::Mostrar(const Picture& picture) {
   const QSize before = vista_->size();
-  vista_->Mostrar(picture);
+  vista_->Mostrar(picture, Sitio());
   AjustarBarras();
-  if (before == vista_->size()) return;
-  horizontal_->setValue(0);
-  vertical_->setValue(0);
+  if (before != vista_->size()) {
+    horizontal_->setValue(0);
+    vertical_->setValue(0);
+  }
   Mover();
+}
+
+QSize MarcoDeImagen::Sitio() const {
+  return ajustada_ ? marco_->size() : QSize();
+}
+
+void MarcoDeImagen::PonerAjustada(bool fitted) {
+  ajustada_ = fitted;
+  Colocar();
+}
+
+void MarcoDeImagen::PonerBoton(QWidget* button) {
+  static_cast<QGridLayout*>(layout())->addWidget(button, 1, 1);
+}
+
+void MarcoDeImagen::Colocar() {
+  vista_->Ajustar(Sitio());
+  vista_->update();
+  AjustarBarras();
+  Mover();
+}
+
+void MarcoDeImagen::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (vista_->isHidden()) return;
+  const QPointF at = event->position() - marco_->pos() - vista_->pos();
+  const double across = at.x() / vista_->width(), down = at.y() / vista_->height();
+  emit AjustePedido();
+  if (ajustada_) return;
+  // What was clicked on comes to the middle.
+  horizontal_->setValue(RoundHalfEven(across * vista_->width() - marco_->width() / 2.0));
+  vertical_->setValue(RoundHalfEven(down * vista_->height() - marco_->height() / 2.0));
 }
 
 int MarcoDeImagen::Desplazamiento(int hidden, int value, int maximum, int step) {
@@ -86,12 +135,17 @@ void MarcoDeImagen::AjustarBarras() {
     bar->setSingleStep(step);
     bar->setEnabled(whole > visible);
   };
-  const bool shown = !vista_->isHidden();
+  const bool shown = !vista_->isHidden() && !ajustada_;
   adjust(horizontal_, shown ? vista_->width() : 0, marco_->width(), kStepAcross);
   adjust(vertical_, shown ? vista_->height() : 0, marco_->height(), kStepDown);
 }
 
 void MarcoDeImagen::Mover() {
+  if (ajustada_) {
+    const QSize spare = marco_->size() - vista_->size();
+    vista_->move(spare.width() / 2, spare.height() / 2);
+    return;
+  }
   vista_->move(Desplazamiento(vista_->width() - marco_->width(), horizontal_->value(), horizontal_->maximum(),
                               kStepAcross),
                Desplazamiento(vista_->height() - marco_->height(), vertical_->value(), vertical_->maximum(),
@@ -101,8 +155,7 @@ void MarcoDeImagen::Mover() {
 void MarcoDeImagen::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   layout()->activate();
-  AjustarBarras();
-  Mover();
+  Colocar();
 }
 
 void MarcoDeImagen::wheelEvent(QWheelEvent* event) {

@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QCursor>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSlider>
@@ -63,6 +64,19 @@ inline QHBoxLayout* FilaDePanel(const char* text, QWidget* control) {
   row->addWidget(Titulo(text, control));
   row->addWidget(control, 1);
   return row;
+}
+
+// Widgets in one another's place, of which one is seen: the place is as large as the largest, so that nothing
+// around it moves when another is shown.
+inline QGridLayout* Superpuestos(std::initializer_list<QWidget*> widgets) {
+  auto* place = new QGridLayout;
+  for (QWidget* widget : widgets) {
+    QSizePolicy keep = widget->sizePolicy();
+    keep.setRetainSizeWhenHidden(true);
+    widget->setSizePolicy(keep);
+    place->addWidget(widget, 0, 0, Qt::AlignTop);
+  }
+  return place;
 }
 
 // A slider with its number beside it.

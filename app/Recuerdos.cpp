@@ -8,7 +8,7 @@ namespace pixmosa {
 namespace {
 
 constexpr char kClave[] = "Software\\Pixmosa";
-constexpr char kConversion[] = "Conversion", kOferta[] = "FormasOfrecida";
+constexpr char kConversion[] = "Conversion", kOferta[] = "FormasOfrecida", kAlMomento[] = "AlMomento";
 
 int Numero(Registry& registry, const char* name) {
   const auto value = ReadValue(registry, kClave, name);
@@ -39,6 +39,14 @@ bool FormasOfrecida(Registry& registry) {
 
 void RecordarOferta(Registry& registry) {
   Escribir(registry, kOferta, 1);
+}
+
+bool AlMomentoRecordado(Registry& registry) {
+  return Numero(registry, kAlMomento) != 0;
+}
+
+void RecordarAlMomento(Registry& registry, bool atOnce) {
+  Escribir(registry, kAlMomento, atOnce);
 }
 
 }  // namespace pixmosa

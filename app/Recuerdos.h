@@ -14,4 +14,8 @@ void RecordarConversion(Registry& registry, int method);
 bool FormasOfrecida(Registry& registry);
 void RecordarOferta(Registry& registry);
 
+// The text is made again by itself.
+bool AlMomentoRecordado(Registry& registry);
+void RecordarAlMomento(Registry& registry, bool atOnce);
+
 }  // namespace pixmosa

@@ -15,8 +15,10 @@
 
 #include "app/MarcoDeImagen.h"
 #include "app/MenuDeImagen.h"
+#include "app/PiezasDePanel.h"
 #include "app/Recuerdos.h"
 #include "app/frmOpcAlgoritmo.h"
+#include "figlet/frmFiglet.h"
 #include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Intentar.h"
 #include "platform/qt/Menus.h"
@@ -59,6 +61,7 @@ frmMain::frmMain(Programa& program, const Escritorio& desktop)
   CrearCentro();
   CrearEstados();
   CrearPaneles();
+  PrepararVista();
   ActualizarAcciones();
 }
 
@@ -95,6 +98,7 @@ void frmMain::CrearBarras() {
     button->setObjectName(b.clave);
     button->setToolTip(entry->toolTip() + " (" + entry->shortcut().toString(QKeySequence::NativeText) + ")");
     bar->addAction(button);
+    if (entry == acciones_.at("mnuPlay")) CrearAlMomento(bar);
     connect(button, &QAction::triggered, entry, &QAction::trigger);
     connect(entry, &QAction::changed, button, [button, entry] { button->setEnabled(entry->isEnabled()); });
   }
@@ -131,6 +135,7 @@ void frmMain::CrearCentro() {
   text->setContentsMargins(3, 6, 6, 6);
   text->addLayout(head);
   text->addWidget(txtAscii_, 1);
+  text->addWidget(CrearMedidas());
 
   auto* splitter = named<QSplitter>("divisor", Qt::Horizontal);
   splitter->addWidget(left);
@@ -164,11 +169,11 @@ void frmMain::CrearBarraDeEstado() {
 }
 
 void frmMain::CrearPaneles() {
-  auto* area = new QVBoxLayout(PicAlgoritmos_);
-  area->setContentsMargins(0, 0, 0, 0);
-  CrearLetreros(area);
+  CrearLetreros();
   opciones_ = new frmOpcAlgoritmo(p_, desktop_.dialogos, PicAlgoritmos_);
-  area->addWidget(opciones_);
+  QGridLayout* area = Superpuestos({figlet_, opciones_});
+  area->setContentsMargins(0, 0, 0, 0);
+  PicAlgoritmos_->setLayout(area);
   Dialogs& dialogs = desktop_.dialogos;
   connect(opciones_, &frmOpcAlgoritmo::TextoCaducado, this, Con(dialogs, [this](int m) { Caducar(m); }));
   connect(opciones_, &frmOpcAlgoritmo::LetrerosVisibles, this, &frmMain::MostrarLetreros);
@@ -179,7 +184,11 @@ void frmMain::CrearPaneles() {
           [this](int method) { RecordarConversion(desktop_.registro, method); });
   connect(opciones_, &frmOpcAlgoritmo::ComparacionPedida, this, Con(dialogs, [this] { Comparar(); }));
   connect(opciones_, &frmOpcAlgoritmo::Aviso, this, [this](const QString& sentence) { Decir(sentence); });
+  connect(opciones_, &frmOpcAlgoritmo::AnchoPedido, this,
+          [this] { opciones_->PonerAncho(txtAscii_->ColumnasVisibles()); });
   connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::PasoDado);
+  connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::AlMomento);
+  connect(opciones_, &frmOpcAlgoritmo::RellenoCambiado, this, &frmMain::AlMomento);
   // The text area keeps the Tab key to itself: it comes last, after the options.
   setTabOrder(previousInFocusChain(), chkAsciiPrev_);
   setTabOrder(chkAsciiPrev_, txtAscii_);

@@ -26,7 +26,7 @@ class QProgressBar;
 class QPushButton;
 class QShortcut;
 class QToolBar;
-class QVBoxLayout;
+class QToolButton;
 
 namespace pixmosa {
 
@@ -77,7 +77,7 @@ class frmMain final : public QMainWindow {
   void CrearBarraDeEstado();
   void CrearPaneles();
   void CrearEstados();
-  void CrearLetreros(QVBoxLayout* area);
+  void CrearLetreros();
 
   // --- frmMain_Archivo.cpp: pictures in, text out ---
   void CargarImagen();
@@ -113,6 +113,8 @@ class frmMain final : public QMainWindow {
   void Generar(int method);        // and shows the text; there is a picture
   bool QuiereElTexto(int method);  // asks before one that is far too large
   void Regenerar();
+  void CrearAlMomento(QToolBar* bar);
+  void AlMomento();          // the text once more, where that is wanted of what changes by itself
   void Caducar(int method);  // the text is made again once the waiting events are handled
   void ShowPreview();
   void OfrecerFormas(int method);  // once, for a photograph
@@ -132,6 +134,7 @@ class frmMain final : public QMainWindow {
 
   // --- frmMain_Modos.cpp ---
   void ElegirModo(Modo mode);
+  void PresentarModo();  // the chosen one's icon and sentence
   void PonerLetrero(const std::string& banner);
   void MostrarLetreros(bool shown);  // the banner panel in front of the options, or not
 
@@ -152,6 +155,16 @@ class frmMain final : public QMainWindow {
   void Cancelar();
   void NombrarArchivo(const QString& what, const std::string& file);
 
+  // --- frmMain_Ver.cpp: how near picture and drawing are seen ---
+  void PrepararVista();
+  QLabel* CrearMedidas();
+  void MostrarMedidas(QPoint cell);
+  void AjustarImagen();
+  void VerTodo();
+  void Acercar();
+  void Alejar();
+  void TamañoReal();
+
   // --- frmMain_Ventanas.cpp ---
   void Salir();
   bool PuedePerderseElTexto();  // asks where it was edited by hand
@@ -171,10 +184,13 @@ class frmMain final : public QMainWindow {
   std::vector<QToolBar*> barras_;
   AreaDeTexto* txtAscii_ = nullptr;
   MarcoDeImagen* marco_ = nullptr;
+  QLabel* lblMedidas_ = nullptr;
   QWidget* PicAlgoritmos_ = nullptr;
   frmOpcAlgoritmo* opciones_ = nullptr;
+  QToolButton* cmdModo_ = nullptr;
   QLabel* lblModo_ = nullptr;
   QCheckBox* chkAsciiPrev_ = nullptr;
+  QCheckBox* chkAlMomento_ = nullptr;
   QLabel* panelFuente_ = nullptr;
   QLabel* panelFiglet_ = nullptr;
   QLabel* panelTamaño_ = nullptr;

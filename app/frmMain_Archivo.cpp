@@ -23,15 +23,19 @@ void frmMain::CargarImagen() {
 }
 
 bool frmMain::AbrirImagen(const std::filesystem::path& file) {
+  std::string warning;
   try {
-    Decir(Q(pixmosa::CargarImagen(p_, file)));
+    warning = pixmosa::CargarImagen(p_, file);
   } catch (const std::exception& e) {
     desktop_.dialogos.Fail("No se ha podido cargar la imagen", "Error en la carga", FraseDe(e));
     return false;
   }
+  Decir({});
   opciones_->MostrarAnimArt();
   PasoDado(Q("Cargar " + file.filename().string()));
   imagen_->SeguirImagen();
+  AlMomento();
+  if (!warning.empty()) Decir(Q(warning));
   return true;
 }
 

@@ -3,6 +3,7 @@
 
 #include "app/frmFonts.h"
 #include "app/frmMain.h"
+#include "app/frmOpcAlgoritmo.h"
 #include "conversion/TextoGuardado.h"
 #include "conversion/mFontSize.h"
 #include "platform/qt/AreaDeTexto.h"
@@ -29,6 +30,7 @@ void frmMain::ApplyFont(const Font& font) {
 void frmMain::MostrarFuente() {
   const Font& font = p_.ajustes.font;
   txtAscii_->PonerFuente(font);
+  opciones_->MostrarColumnas();
   panelFuente_->setText(Q(PanelFuente(font)));
   panelTamaño_->setText(Q(PanelTamaño(font)));
 }

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QScrollBar>
+#include <QToolBar>
 
 #include "app/MarcoDeImagen.h"
 #include "app/MenuDeImagen.h"
@@ -11,7 +12,10 @@
 #include "app/frmOpcAlgoritmo.h"
 #include "app/frmPreview.h"
 #include "platform/qt/AreaDeTexto.h"
+#include "platform/qt/Intentar.h"
 #include "platform/qt/Muestra.h"
+#include "platform/qt/Named.h"
+#include "platform/qt/QtText.h"
 #include "programa/Fotografia.h"
 #include "programa/Generar.h"
 
@@ -55,6 +59,30 @@ void frmMain::Regenerar() {
               .arg(huge->height));
   } else {
     Generar(caducadoPor_);
+  }
+}
+
+void frmMain::CrearAlMomento(QToolBar* bar) {
+  chkAlMomento_ = named<QCheckBox>("chkAlMomento", QStringLiteral("Generar al m&omento"));
+  chkAlMomento_->setToolTip(
+      QStringLiteral("Vuelve a dibujar sin pulsar Generar al cargar una imagen, retocarla o elegir un modo"));
+  chkAlMomento_->setChecked(AlMomentoRecordado(desktop_.registro));
+  bar->addWidget(chkAlMomento_);
+  connect(chkAlMomento_, &QCheckBox::toggled, this, [this](bool atOnce) {
+    RecordarAlMomento(desktop_.registro, atOnce);
+    AlMomento();
+  });
+}
+
+void frmMain::AlMomento() {
+  // Pages and animations ask for a file: they are never made by themselves.
+  if (!chkAlMomento_->isChecked() || QueGenerar(p_) != Trabajo::Texto) return;
+  caducadoPor_ = MetodoDe(p_);
+  try {
+    Regenerar();
+    OfrecerFormas(caducadoPor_);
+  } catch (const std::exception& e) {
+    Decir(Q(FraseDe(e)));
   }
 }
 
@@ -116,6 +144,7 @@ void frmMain::ActualizarAcciones() {
   const bool picture = HayImagen(p_), text = !txtAscii_->EstaVacia();
   imagen_->PonerDisponible(picture);
   opciones_->PonerImagenDisponible(picture);
+  opciones_->MostrarColumnas();
   acciones_.at("mnuComparar")->setEnabled(picture);
   acciones_.at("mnuGuardar")->setEnabled(text);
   acciones_.at("mnuDeshacerImagen")->setEnabled(PuedeDeshacerPaso(p_));

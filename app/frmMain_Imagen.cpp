@@ -50,6 +50,7 @@ void frmMain::IrA(std::size_t step) {
   MostrarPasos();
   MostrarImagen();
   imagen_->SeguirImagen();
+  AlMomento();
 }
 
 void frmMain::DeshacerPaso() {

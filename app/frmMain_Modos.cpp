@@ -1,33 +1,55 @@
 // The mode drop-down and what a mode shows: the options panel or the banner panel.
+#include <array>
+
 #include <QActionGroup>
 #include <QLabel>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 #include "app/frmMain.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "figlet/frmFiglet.h"
 #include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Intentar.h"
+#include "platform/qt/Menus.h"
 #include "platform/qt/Named.h"
 
 namespace pixmosa {
+namespace {
+
+struct Presentacion {
+  const char *icono, *frase;
+};
+constexpr std::array<Presentacion, kModos.size()> kPresentaciones = {{
+    {"modo-grises", "Imita los claros y oscuros de la imagen, carácter a carácter"},
+    {"modo-bordes", "Sigue los contornos de un dibujo negro sobre blanco con trazos de caracteres"},
+    {"modo-antialias", "Elige los caracteres por la forma de cada trozo de un dibujo negro sobre blanco"},
+    {"modo-texto", "Escribe un texto con letras grandes hechas de caracteres"},
+    {"modo-mosaico", "Una página web con un texto que se repite en los colores de la imagen"},
+    {"modo-copia", "Una página web que copia cada color de la imagen, con los bordes que usted elija"},
+}};
+
+}  // namespace
 
 void frmMain::CrearSelectorDeModo() {
   auto* bar = named<QToolBar>("Toolbar2", QStringLiteral("Modo"));
-  auto* button = named<QToolButton>("Modo");
+  auto* button = cmdModo_ = named<QToolButton>("Modo");
   button->setText(QStringLiteral("&Modo"));
-  button->setToolTip(QStringLiteral("Elige cómo se convierte la imagen (Alt+M)"));
   button->setShortcut(QKeySequence("Alt+M"));
-  button->setPopupMode(QToolButton::InstantPopup);
-  button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+  button->setPopupMode(QToolButton::MenuButtonPopup);
+  button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  button->setFocusPolicy(Qt::TabFocus);
+  connect(button, &QAbstractButton::clicked, button, &QToolButton::showMenu);
   auto* menu = named<QMenu>("mnuModo", button);
+  menu->setToolTipsVisible(true);
   auto* group = new QActionGroup(menu);
   for (std::size_t mode = 0; mode < kModos.size(); ++mode) {
     QAction* item = menu->addAction(QString::fromUtf8(kModos[mode]));
     item->setObjectName(QString::fromUtf8(kModos[mode]));
+    item->setIcon(Icono(kPresentaciones[mode].icono));
+    item->setToolTip(QString::fromUtf8(kPresentaciones[mode].frase));
+    item->setStatusTip(item->toolTip());
     item->setCheckable(true);
     item->setChecked(mode == p_.modo);
     group->addAction(item);
@@ -39,20 +61,31 @@ void frmMain::CrearSelectorDeModo() {
   lblModo_->setContentsMargins(8, 0, 8, 0);
   bar->addWidget(button);
   bar->addWidget(lblModo_);
+  button->setAutoRaise(false);
+  PresentarModo();
   addToolBar(bar);
   barras_.push_back(bar);
+}
+
+void frmMain::PresentarModo() {
+  const Presentacion& shown = kPresentaciones[p_.modo];
+  const QString sentence = QString::fromUtf8(shown.frase);
+  cmdModo_->setIcon(Icono(shown.icono));
+  cmdModo_->setToolTip(sentence + QStringLiteral(". Elige otro modo (Alt+M)"));
+  lblModo_->setToolTip(sentence);
 }
 
 void frmMain::ElegirModo(Modo mode) {
   p_.modo = mode;
   lblModo_->setText(QString::fromUtf8(kModos[mode]));
+  PresentarModo();
   if (!PicAlgoritmos_->isHidden()) opciones_->MostrarPaneles();
+  AlMomento();
 }
 
-void frmMain::CrearLetreros(QVBoxLayout* area) {
+void frmMain::CrearLetreros() {
   figlet_ = new frmFiglet(p_.basFigLet, p_.carpetasDeFuentes, desktop_.dialogos, PicAlgoritmos_);
   figlet_->hide();
-  area->addWidget(figlet_);
   const auto count = [this](int fonts) {
     panelFiglet_->setText(QStringLiteral("Fuentes FigLet encontradas (%1)").arg(fonts));
   };

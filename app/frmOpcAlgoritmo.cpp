@@ -13,6 +13,7 @@
 #include <QSlider>
 #include <QVBoxLayout>
 
+#include "app/PiezasDePanel.h"
 #include "platform/qt/Intentar.h"
 #include "platform/qt/Muestra.h"
 #include "platform/qt/QtText.h"
@@ -53,11 +54,12 @@ frmOpcAlgoritmo::frmOpcAlgoritmo(Programa& program, Dialogs& dialogs, QWidget* p
   layout->setContentsMargins(0, 4, 0, 0);
   mrcAlgoritmo_[0] = CrearPaginaAscii();
   mrcAlgoritmo_[1] = CrearPaginaWeb();
-  for (QWidget* page : mrcAlgoritmo_) layout->addWidget(page);
+  layout->addLayout(Superpuestos({mrcAlgoritmo_[0], mrcAlgoritmo_[1]}));
   MostrarAnimArt();
   Conectar();
   ConectarWeb();
   ConectarConversion();
+  ConectarColumnas();
   MostrarConversion();
   MostrarPaneles();
 }
@@ -93,7 +95,10 @@ void frmOpcAlgoritmo::Conectar() {
   connect(lblAsciiForeColor_, &QAbstractButton::clicked, this, [this] {
     if (ElegirColor(lblAsciiForeColor_, program_.colorTexto)) emit ColoresCambiados();
   });
-  connect(chkRelleno_, &QCheckBox::toggled, this, [this](bool fill) { program_.ajustes.relleno = fill; });
+  connect(chkRelleno_, &QCheckBox::toggled, this, [this](bool fill) {
+    program_.ajustes.relleno = fill;
+    emit RellenoCambiado();
+  });
   connect(chkAnimArt_, &QCheckBox::toggled, this, [this](bool animate) { program_.animArt = animate; });
   connect(cmdBN_, &QAbstractButton::clicked, this, &frmOpcAlgoritmo::BlancoYNegroPedido);
   connect(cmdGIFAvance_, &QAbstractButton::clicked, this, &frmOpcAlgoritmo::FotogramasPedidos);
@@ -127,10 +132,12 @@ void frmOpcAlgoritmo::MostrarPaneles() {
   for (int i = 0; i < 2; ++i) Poner(mrcAlgoritmo_[i], row.algoritmo[i]);
   for (int i = 0; i < 3; ++i) Poner(mrcAscii_[i], row.ascii[i]);
   for (int i = 0; i < 2; ++i) Poner(mrcweb_[i], row.web[i]);
+  MostrarColumnas();
 }
 
 void frmOpcAlgoritmo::TamañoCambiado(int value) {
   PonerTamaño(program_, value);
+  MostrarColumnas();
   program_.vistaPrevia = false;
   emit TextoCaducado(MetodoDe(program_));
 }
@@ -139,6 +146,7 @@ void frmOpcAlgoritmo::SaltarATamaño(int value) {
   const QSignalBlocker quiet(sldTamaño_);
   sldTamaño_->setValue(value);
   PonerTamaño(program_, value);
+  MostrarColumnas();
 }
 
 bool frmOpcAlgoritmo::ElegirColor(QPushButton* swatch, Colour& colour) {

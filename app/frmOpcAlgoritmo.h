@@ -7,7 +7,6 @@
 #include "programa/Programa.h"
 
 class QAbstractButton;
-class QButtonGroup;
 class QCheckBox;
 class QComboBox;
 class QFrame;
@@ -15,6 +14,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QSlider;
+class QSpinBox;
 class QToolBar;
 class QVBoxLayout;
 
@@ -37,17 +37,25 @@ class frmOpcAlgoritmo final : public QWidget {
   // There is a working picture, or none: what works on it can be chosen, or not.
   void PonerImagenDisponible(bool available);
 
-  // Presses the button of a conversion of the grayscale mode: kGrayscale, kTono or kFormas.
+  // The columns that the text's window shows, which were asked for; the size and the text follow.
+  void PonerAncho(int columns);
+
+  // The columns and the rows that they give, again after something else has changed them.
+  void MostrarColumnas();
+
+  // Chooses a conversion of the grayscale mode: kGrayscale, kTono or kFormas.
   void ElegirConversion(int method);
 
  signals:
   void TextoCaducado(int method);  // the text has to be made again by this method
   void LetrerosVisibles(bool shown);
   void ColoresCambiados();
+  void RellenoCambiado();
   void BlancoYNegroPedido();
   void FotogramasPedidos();
   void ConversionElegida(int method);  // by the user or by ElegirConversion
   void ComparacionPedida();
+  void AnchoPedido();                   // as many columns as the text's window shows
   void Aviso(const QString& sentence);  // what is wrong with what was typed
 
  protected:
@@ -71,6 +79,11 @@ class frmOpcAlgoritmo final : public QWidget {
   void CaracteresEscritos();
   void ProporcionEscrita();
 
+  // --- frmOpcAlgoritmo_Columnas.cpp: the size as a number ---
+  QLayout* CrearColumnas();
+  void ConectarColumnas();
+  void PonerColumnas(int columns);
+
   // --- frmOpcAlgoritmo.cpp: how it reacts ---
   void Conectar();
   void ConectarWeb();
@@ -85,7 +98,7 @@ class frmOpcAlgoritmo final : public QWidget {
   QWidget* mrcweb_[2];
   QComboBox* cboPaletas_;
   QCheckBox* chkAsciiNegativo_;
-  QButtonGroup* conversion_;  // ids are the methods
+  QComboBox* cboConversion_;  // the items' data are the methods
   QPushButton* cmdComparar_;
   QWidget* mrcFormas_;
   QWidget* mrcNitidez_;
@@ -97,7 +110,11 @@ class frmOpcAlgoritmo final : public QWidget {
   QComboBox* cboProporcion_;
   QSlider* sldLuminosidad_;
   QAbstractButton* label1_;
+  QSpinBox* numLuminosidad_;
   QSlider* sldTamaño_;
+  QSpinBox* numColumnas_;
+  QLabel* lblFilas_;
+  QComboBox* cboPresetColumnas_;
   QAbstractButton* lblTamañoAsciiMin_;
   QAbstractButton* lblTamañoAsciiMax_;
   QAbstractButton* lbl100_;

@@ -1,14 +1,12 @@
 // The conversions of the grayscale mode: which one, their settings and the characters they choose from.
 #include <optional>
 
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 
 #include "app/PiezasDePanel.h"
 #include "app/frmOpcAlgoritmo.h"
@@ -19,15 +17,14 @@
 namespace pixmosa {
 namespace {
 
-struct BotonDeConversion {
+struct Conversion {
   int metodo;
-  const char *nombre, *texto, *ayuda;
+  const char *texto, *ayuda;
 };
-constexpr BotonDeConversion kConversiones[] = {
-    {kGrayscale, "optClasica", "C&lásica", "Cada carácter por el gris de un solo píxel, como siempre"},
-    {kTono, "optTono", "T&ono",
-     "Cada carácter por la luz media de su trozo de imagen, con los tonos ajustados"},
-    {kFormas, "optFormas", "Forma&s",
+constexpr Conversion kConversiones[] = {
+    {kGrayscale, "Clásica", "Cada carácter por el gris de un solo píxel, como siempre"},
+    {kTono, "Tono", "Cada carácter por la luz media de su trozo de imagen, con los tonos ajustados"},
+    {kFormas, "Formas",
      "Cada carácter por la luz y por la forma de su trozo de imagen: lo más parecido, sobre todo en "
      "fotografías"},
 };
@@ -59,18 +56,17 @@ QWidget* frmOpcAlgoritmo::CrearConversion() {
   auto* layout = new QVBoxLayout(box);
   layout->setContentsMargins(6, 4, 6, 6);
   layout->setSpacing(5);
-  conversion_ = new QButtonGroup(box);
-  auto* choice = new QHBoxLayout;
-  for (const BotonDeConversion& b : kConversiones) {
-    auto* button = named<QRadioButton>(b.nombre, QString::fromUtf8(b.texto));
-    button->setToolTip(QString::fromUtf8(b.ayuda));
-    button->setChecked(b.metodo == program_.ajustes.conversion);
-    conversion_->addButton(button, b.metodo);
-    choice->addWidget(button);
+  cboConversion_ = named<QComboBox>("cboConversion");
+  cboConversion_->setAccessibleName(box->title());
+  for (const Conversion& c : kConversiones) {
+    cboConversion_->addItem(QString::fromUtf8(c.texto), c.metodo);
+    cboConversion_->setItemData(cboConversion_->count() - 1, QString::fromUtf8(c.ayuda), Qt::ToolTipRole);
   }
+  cboConversion_->setCurrentIndex(cboConversion_->findData(program_.ajustes.conversion));
+  auto* choice = new QHBoxLayout;
+  choice->addWidget(cboConversion_, 1);
   cmdComparar_ = named<QPushButton>("cmdComparar", QStringLiteral("Comparar..."));
   cmdComparar_->setToolTip(QStringLiteral("Muestra la imagen junto a lo que hacen de ella dos conversiones"));
-  choice->addStretch(1);
   choice->addWidget(cmdComparar_);
   layout->addLayout(choice);
 
@@ -117,8 +113,8 @@ QComboBox* frmOpcAlgoritmo::CrearProporcion() {
 }
 
 void frmOpcAlgoritmo::ConectarConversion() {
-  connect(conversion_, &QButtonGroup::idToggled, this, Con(dialogs_, [this](int method, bool pressed) {
-            if (!pressed) return;
+  connect(cboConversion_, &QComboBox::currentIndexChanged, this, Con(dialogs_, [this](int) {
+            const int method = cboConversion_->currentData().toInt();
             PonerConversion(program_, method);
             MostrarConversion();
             emit ConversionElegida(method);
@@ -147,7 +143,7 @@ void frmOpcAlgoritmo::ConectarConversion() {
 }
 
 void frmOpcAlgoritmo::ElegirConversion(int method) {
-  if (QAbstractButton* button = conversion_->button(method)) button->setChecked(true);
+  if (const int item = cboConversion_->findData(method); item >= 0) cboConversion_->setCurrentIndex(item);
 }
 
 void frmOpcAlgoritmo::MostrarConversion() {

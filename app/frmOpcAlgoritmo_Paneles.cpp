@@ -18,7 +18,9 @@
 #include "platform/qt/Menus.h"
 #include "platform/qt/Muestra.h"
 #include "platform/qt/Named.h"
+#include "platform/qt/Numero.h"
 #include "platform/qt/QtText.h"
+#include "programa/Ajustes.h"
 
 namespace pixmosa {
 namespace {
@@ -69,6 +71,8 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
   auto* light = new QHBoxLayout;
   light->addWidget(label1_);
   light->addWidget(sldLuminosidad_, 1);
+  numLuminosidad_ = Numero("numLuminosidad", sldLuminosidad_);
+  light->addWidget(numLuminosidad_);
   gray->addLayout(light);
   gray->addWidget(CrearAnimArt());
 
@@ -97,7 +101,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
   colours->addWidget(lblAsciiForeColor_);
   layout->addLayout(colours);
   layout->addLayout(FilaDePanel("P&roporción", CrearProporcion()));
-  for (QWidget* frame : mrcAscii_) layout->addWidget(frame);
+  layout->addLayout(Superpuestos({mrcAscii_[0], mrcAscii_[1], mrcAscii_[2]}));
   cmdBN_ = named<QPushButton>("cmdBN", QStringLiteral("&Blanco y negro"));
   cmdBN_->setToolTip(
       QStringLiteral("Deja la imagen en blanco y negro puros, como la piden los bordes y el "
@@ -107,7 +111,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
 }
 
 void frmOpcAlgoritmo::CrearTamaño(QVBoxLayout* layout) {
-  sldTamaño_ = Deslizador("sldTamaño", 1, 198, program_.ajustes.size,
+  sldTamaño_ = Deslizador("sldTamaño", 1, kMayorTamaño, program_.ajustes.size,
                           "Tanto por ciento de los caracteres que caben en la pantalla");
   lblTamañoAsciiMin_ = Etiqueta("lblTamañoAsciiMin", "Mín.", "El tamaño más pequeño");
   lbl100_ = Etiqueta("lbl100", "100 %", "Tantos caracteres como caben en la pantalla");
@@ -121,6 +125,7 @@ void frmOpcAlgoritmo::CrearTamaño(QVBoxLayout* layout) {
   grid->addWidget(lblTamañoAsciiMax_, 1, 3, Qt::AlignRight);
   for (int column = 1; column <= 3; ++column) grid->setColumnStretch(column, 1);
   layout->addLayout(grid);
+  layout->addLayout(CrearColumnas());
 }
 
 QWidget* frmOpcAlgoritmo::CrearAnimArt() {

@@ -14,6 +14,7 @@
 #include "platform/qt/Intentar.h"
 #include "platform/qt/Menus.h"
 #include "platform/qt/Named.h"
+#include "platform/qt/Numero.h"
 #include "platform/qt/QtPicture.h"
 #include "platform/qt/QtText.h"
 
@@ -41,16 +42,11 @@ void ImagenEstirable::Mostrar(const Picture& picture, bool stretch) {
 void ImagenEstirable::paintEvent(QPaintEvent*) {
   if (picture_.IsEmpty()) return;
   QPainter painter(this);
-  const QImage image = ImageOf(picture_);
   if (!stretch_) {
-    painter.drawImage(0, 0, image);
+    painter.drawImage(0, 0, ImageOf(picture_));
     return;
   }
-  // A large picture is thinned out before it is smoothed: a preview of millions of pixels has to be quick.
-  const QSize target = size() * devicePixelRatioF();
-  const QSize thinned = image.size().boundedTo(4 * target);
-  painter.drawImage(rect(),
-                    image.scaled(thinned).scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+  painter.drawImage(rect(), Vista(picture_, size() * devicePixelRatioF()));
 }
 
 frmEfectConfig::frmEfectConfig(MFiltros& m, ImagenDeTrabajo& image, Dialogs& dialogs, QWidget* parent)
@@ -60,6 +56,7 @@ frmEfectConfig::frmEfectConfig(MFiltros& m, ImagenDeTrabajo& image, Dialogs& dia
       dialogs_(dialogs),
       Image1_(named<ImagenEstirable>("Image1")),
       sldEfecto_(named<QSlider>("sldEfecto", Qt::Horizontal)),
+      numEfecto_(Numero("numEfecto", sldEfecto_)),
       lblEfecto_(named<QLabel>("lblEfecto")),
       lblRango_(named<QLabel>("lblRango")),
       lblValor_(named<QLabel>("lblValor")),
@@ -105,6 +102,7 @@ void frmEfectConfig::Componer() {
   slider->addWidget(named<QLabel>("Label1", Q("Min.")));
   slider->addWidget(sldEfecto_, 1);
   slider->addWidget(named<QLabel>("Label2", Q("Max.")));
+  slider->addWidget(numEfecto_);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch(1);
   buttons->addWidget(apply);
@@ -156,6 +154,7 @@ void frmEfectConfig::CargarEfecto(int effect) {
     sldEfecto_->setRange(config.Min, config.Max);
     sldEfecto_->setPageStep(std::max(1, (config.Max - config.Min) / 10));
   }
+  SeguirDeslizador(numEfecto_, sldEfecto_);
   Picture1_.Asignar(image_.picMain);
   lblEfecto_->setText(Q(config.caption));
   lblRango_->setText(Q("Rango del filtro: " + std::to_string(sldEfecto_->minimum()) + " , " +

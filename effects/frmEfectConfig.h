@@ -11,6 +11,7 @@
 class QLabel;
 class QProgressBar;
 class QSlider;
+class QSpinBox;
 
 namespace pixmosa {
 
@@ -67,6 +68,7 @@ class frmEfectConfig final : public QDialog {
   ImagenDeTrabajo Picture1_;  // the working copy that previews are computed on
   ImagenEstirable* Image1_;
   QSlider* sldEfecto_;
+  QSpinBox* numEfecto_;
   QLabel* lblEfecto_;
   QLabel* lblRango_;
   QLabel* lblValor_;

@@ -1,5 +1,9 @@
 #include "programa/Ajustes.h"
 
+#include <algorithm>
+
+#include "platform/Rounding.h"
+
 namespace pixmosa {
 namespace {
 
@@ -9,7 +13,11 @@ void MedirBrillo(Programa& p) {
 }
 
 void ContarColumnas(Programa& p) {
-  ComputeColumnCount(p.basAscii, p.ajustes.size, p.superficie.ScreenWidth());
+  if (p.columnas > 0) {
+    p.basAscii.AsciiColumns = p.columnas;
+  } else {
+    ComputeColumnCount(p.basAscii, p.ajustes.size, p.superficie.ScreenWidth());
+  }
 }
 
 }  // namespace
@@ -37,6 +45,14 @@ void PonerNegativo(Programa& p, bool negative) {
 
 void PonerTamaño(Programa& p, int percent) {
   p.ajustes.size = percent;
+  p.columnas = 0;
+  ContarColumnas(p);
+}
+
+void PonerColumnas(Programa& p, int columns) {
+  const double whole = static_cast<double>(p.superficie.ScreenWidth()) / p.basAscii.CellWidth;
+  p.ajustes.size = std::clamp(RoundHalfEven(100 * columns / whole), 1, kMayorTamaño);
+  p.columnas = columns;
   ContarColumnas(p);
 }
 

@@ -26,11 +26,15 @@ int MetodoDe(const Programa& p) {
   return p.modo <= kModoAntialias ? static_cast<int>(p.modo) : -1;
 }
 
+Extent MedidasDelTexto(const Programa& p, int method) {
+  const Extent text = ResizedExtent(p.basAscii, p.imagen.picMain.Size(), method);
+  return method == kAntiAlias ? Extent{text.width / 3, text.height / 3} : text;
+}
+
 std::optional<Extent> TextoEnorme(const Programa& p, int method) {
   constexpr int kMasFilas = 20'000;
   constexpr std::int64_t kMasLetras = 20'000'000;
-  Extent text = ResizedExtent(p.basAscii, p.imagen.picMain.Size(), method);
-  if (method == kAntiAlias) text = {text.width / 3, text.height / 3};
+  const Extent text = MedidasDelTexto(p, method);
   if (text.height <= kMasFilas && std::int64_t{text.width} * text.height <= kMasLetras) return std::nullopt;
   return text;
 }

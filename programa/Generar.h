@@ -18,7 +18,11 @@ Trabajo QueGenerar(const Programa& p);
 // The conversion method of the current mode, or nothing (-1) for the modes that make no text of a picture.
 int MetodoDe(const Programa& p);
 
-// The columns and rows that the text would have, where they are far more than anybody reads; else nothing.
+// The columns and rows that the text would have of the working picture, which is there, or a few rows less.
+// Throws TextoExcesivo.
+Extent MedidasDelTexto(const Programa& p, int method);
+
+// The same, where they are far more than anybody reads; else nothing.
 // Throws TextoExcesivo.
 std::optional<Extent> TextoEnorme(const Programa& p, int method);
 

@@ -39,6 +39,7 @@ struct Programa {
   MFiltros mFiltros{};
   BasAscii basAscii{};
   AsciiSettings ajustes{};
+  int columnas = 0;  // asked for as a number; 0 where the size says them
   BasEditor basEditor{};
   BasFigLet basFigLet{};
   BasWeb basWeb{};

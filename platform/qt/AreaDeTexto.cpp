@@ -25,6 +25,8 @@ AreaDeTexto::AreaDeTexto(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
   setFrameShape(NoFrame);
   document()->setDocumentMargin(2);
+  viewport()->setMouseTracking(true);
+  viewport()->grabGesture(Qt::PinchGesture);
   connect(document(), &QTextDocument::contentsChange, this,
           [this](int position, int, int added) { CuidarCeldas(position, added); });
 }
@@ -41,16 +43,22 @@ void AreaDeTexto::PonerTexto(std::string_view bytes) {
 
 void AreaDeTexto::PonerUtf8(std::string_view utf8) {
   const bool edited = EditadaAMano();
-  if (edited) editada_ = Utf8();
+  if (edited) Conservar();
   puesta_ = utf8;
   Mostrar(utf8);
   if (edited) emit TextoSustituido();
 }
 
 void AreaDeTexto::RecibirTexto(std::string_view bytes) {
-  editada_ = Utf8();
+  Conservar();
   Mostrar(Utf8OfBytes(bytes));
   document()->setModified(true);
+}
+
+void AreaDeTexto::Conservar() {
+  constexpr std::size_t kMasTextos = 20;
+  if (editadas_.size() == kMasTextos) editadas_.erase(editadas_.begin());
+  editadas_.push_back(Utf8());
 }
 
 void AreaDeTexto::Mostrar(std::string_view utf8) {
@@ -74,14 +82,15 @@ void AreaDeTexto::DarPorGuardada() {
 }
 
 bool AreaDeTexto::PuedeDeshacer() const {
-  return document()->isUndoAvailable() || editada_;
+  return document()->isUndoAvailable() || !editadas_.empty();
 }
 
 void AreaDeTexto::Deshacer() {
   if (document()->isUndoAvailable()) {
     undo();
-  } else if (editada_) {
-    const std::string text = *std::exchange(editada_, std::nullopt);
+  } else if (!editadas_.empty()) {
+    const std::string text = std::move(editadas_.back());
+    editadas_.pop_back();
     Mostrar(text);
     document()->setModified(true);
   }
@@ -113,15 +122,6 @@ void AreaDeTexto::CuidarCeldas(int position, int added) {
   if (NecesitaFormato(range.selectedText())) celdas_ = std::make_unique<FormatoDeCeldas>(document());
 }
 
-void AreaDeTexto::PonerFuente(const Font& font) {
-  const QFont f = QtFontOf(font);
-  setFont(f);
-  document()->setDefaultFont(f);
-  if (celdas_) celdas_->Medir();
-  // Getting a font counts as an edit of an empty document.
-  if (document()->isEmpty()) document()->clearUndoRedoStacks();
-}
-
 void AreaDeTexto::PonerColores(QColor background, QColor text) {
   QPalette colours = palette();
   colours.setColor(QPalette::Base, background);
@@ -148,7 +148,8 @@ void AreaDeTexto::AjustarAlineacion() {
   int columns = 0;
   for (QTextBlock line = document()->begin(); line.isValid(); line = line.next())
     columns = std::max(columns, line.length() - 1);
-  const qreal width = columns * fontMetrics().horizontalAdvance(u'0') + 2 * document()->documentMargin();
+  const qreal width = columns * QFontMetricsF(document()->defaultFont()).horizontalAdvance(u'0') +
+                      2 * document()->documentMargin();
   setLineWrapMode(width > viewport()->width() ? NoWrap : WidgetWidth);
 }
 
@@ -174,7 +175,7 @@ bool AreaDeTexto::canInsertFromMimeData(const QMimeData* source) const {
 
 void AreaDeTexto::contextMenuEvent(QContextMenuEvent* event) {
   const std::unique_ptr<QMenu> menu(createStandardContextMenu(event->pos()));
-  if (editada_ && !document()->isUndoAvailable()) {
+  if (!editadas_.empty() && !document()->isUndoAvailable()) {
     auto* back = new QAction(QStringLiteral("Recuperar el texto editado"), menu.get());
     connect(back, &QAction::triggered, this, &AreaDeTexto::Deshacer);
     menu->insertAction(menu->actions().value(0), back);

@@ -14,6 +14,7 @@ FormatoDeCeldas::FormatoDeCeldas(QTextDocument* document) : QSyntaxHighlighter(d
 void FormatoDeCeldas::Medir() {
   propia_ = prestada_ = document()->defaultFont();
   prestada_.setStyleStrategy(QFont::NoAntialias);  // glyphs lent by other families
+  prestada_.setLetterSpacing(QFont::PercentageSpacing, 100);
   espacios_.clear();
   rehighlight();
 }

@@ -21,6 +21,13 @@ QImage ImageOf(const Picture& picture) {
           keep};
 }
 
+QImage Vista(const Picture& picture, QSize size) {
+  constexpr int kPorPixel = 4;  // of the picture's pixels, each way, what smoothing takes
+  const QImage image = ImageOf(picture);
+  const QImage thinned = image.scaled(image.size().boundedTo(kPorPixel * size));
+  return thinned.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 Picture PictureOf(QImage image) {
   if (image.isNull()) return {};
   if (image.hasAlphaChannel()) {

@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QSlider>
 #include <QTest>
 #include <QTextBlock>
@@ -48,6 +47,14 @@ struct Loaded : test::MainWindow {
   void Click(const char* name) {
     auto& button = Find<QAbstractButton>(window, name);
     QTest::mouseClick(&button, Qt::LeftButton, {}, {8, button.height() / 2});
+    Follow();
+  }
+  // By the keyboard, from the list's first item downwards.
+  void Choose(const char* conversion) {
+    auto& list = Find<QComboBox>(window, "cboConversion");
+    QTest::keyClick(&list, Qt::Key_Home);
+    for (int i = 1; i < list.count() && list.currentText() != QString::fromUtf8(conversion); ++i)
+      QTest::keyClick(&list, Qt::Key_Down);
     Follow();
   }
   void Type(const char* list, const char* text) {
@@ -95,29 +102,29 @@ class FormasTest : public QObject {
 void FormasTest::AConversionIsOneClickAndIsRemembered() {
   Loaded m;
   struct Row {
-    const char* button;
+    const char* conversion;
     int method;
     bool group, sharpness;
   };
-  for (const Row& r : {Row{"optFormas", kFormas, true, true},
-                       {"optTono", kTono, true, false},
-                       {"optClasica", kGrayscale, false, false},
-                       {"optFormas", kFormas, true, true}}) {
-    m.Click(r.button);
+  for (const Row& r : {Row{"Formas", kFormas, true, true},
+                       {"Tono", kTono, true, false},
+                       {"Clásica", kGrayscale, false, false},
+                       {"Formas", kFormas, true, true}}) {
+    m.Choose(r.conversion);
     QCOMPARE(m.program.ajustes.conversion, r.method);
-    QVERIFY2(m.Area().Utf8() == m.Expected(r.method), r.button);
+    QVERIFY2(m.Area().Utf8() == m.Expected(r.method), r.conversion);
     QCOMPARE(m.Shown("mrcFormas"), r.group);
     QCOMPARE(m.Shown("mrcNitidez"), r.sharpness);
   }
   Programa later{m.surface, m.pictures, ProgramFolder()};
   frmMain window(m.Ready(later), {m.dialogs, m.shell, m.registry});
   QCOMPARE(later.ajustes.conversion, static_cast<int>(kFormas));
-  QVERIFY(Find<QRadioButton>(window, "optFormas").isChecked());
+  QVERIFY(Find<QComboBox>(window, "cboConversion").currentText() == "Formas");
 }
 
 void FormasTest::EverySettingReachesTheText() {
   Loaded m;
-  m.Click("optFormas");
+  m.Choose("Formas");
   const std::string before = m.Text();
   AjustesDeFormas wanted;
   const auto changed = [&] {
@@ -138,20 +145,20 @@ void FormasTest::EverySettingReachesTheText() {
 
 void FormasTest::CharactersAreOfThePaletteOfASetOrTyped() {
   Loaded m;
-  m.Click("optFormas");
+  m.Choose("Formas");
   const std::string palette = m.Text();
   m.Type("cboCaracteres", "bloques");
   QVERIFY(m.Area().Utf8() == m.Expected(kFormas) && m.Area().Utf8().find("█") != std::string::npos);
   QVERIFY(!m.Shown("lblCaracteres"));
-  m.Click("optClasica");
+  m.Choose("Clásica");
   QVERIFY2(m.Shown("lblCaracteres"), "the code page has no blocks");
   QVERIFY(m.Text().find_first_not_of(" ?\r\n") != std::string::npos && m.Area().CabeEnLaPagina());
 
   m.Type("cboCaracteres", "#.:");
   QVERIFY(!m.Shown("lblCaracteres"));
-  for (const char* button : {"optClasica", "optTono", "optFormas"}) {
-    m.Click(button);
-    QVERIFY2(m.Text().find_first_not_of(" .:#\r\n") == std::string::npos, button);
+  for (const char* conversion : {"Clásica", "Tono", "Formas"}) {
+    m.Choose(conversion);
+    QVERIFY2(m.Text().find_first_not_of(" .:#\r\n") == std::string::npos, conversion);
   }
   m.Type("cboCaracteres", "   ");
   QVERIFY(m.Sentence().startsWith("Hace falta algún carácter que se vea"));
@@ -162,7 +169,7 @@ void FormasTest::CharactersAreOfThePaletteOfASetOrTyped() {
 
 void FormasTest::ProportionSetsTheRows() {
   Loaded m;
-  m.Click("optFormas");
+  m.Choose("Formas");
   const int own = m.Area().blockCount();
   struct Row {
     const char* typed;
@@ -195,8 +202,9 @@ void FormasTest::FormasIsOfferedOnceForAPhotograph() {
   QVERIFY(m.Sentence().startsWith("De una fotografía, la conversión Formas"));
   emit Find<QLabel>(m.window, "lblEnlace").linkActivated("#");
   m.Follow();
-  QVERIFY(Find<QRadioButton>(m.window, "optFormas").isChecked() && m.Area().Utf8() == m.Expected(kFormas));
-  m.Click("optClasica");
+  QVERIFY(Find<QComboBox>(m.window, "cboConversion").currentText() == "Formas" &&
+          m.Area().Utf8() == m.Expected(kFormas));
+  m.Choose("Clásica");
   m.Trigger("Play");
   QVERIFY(m.Sentence().isEmpty());
 }
@@ -210,13 +218,14 @@ void FormasTest::TheOtherConversionIsTakenFromTheComparison() {
   });
   m.Trigger("mnuComparar");
   m.Follow();
-  QVERIFY(m.program.modo == kModoGrises && Find<QRadioButton>(m.window, "optFormas").isChecked());
+  QVERIFY(m.program.modo == kModoGrises &&
+          Find<QComboBox>(m.window, "cboConversion").currentText() == "Formas");
   QVERIFY(m.Area().Utf8() == m.Expected(kFormas));
 }
 
 void FormasTest::UnicodeIsShownSavedAndCopied() {
   Loaded m;
-  m.Click("optFormas");
+  m.Choose("Formas");
   m.Type("cboCaracteres", "braille");
   const std::string art = m.Expected(kFormas);
   QVERIFY(m.Area().Utf8() == art && !m.Area().CabeEnLaPagina());

@@ -365,6 +365,7 @@ void MainWindowTest::ScrollBarsMoveThePictureInSteps() {
 
   test::MainWindow m;
   m.Load(Picture::Filled(1500, 1400, kWhite));
+  m.Trigger("mnuAjustarImagen");
   auto& bar = Find<QScrollBar>(m.window, "HScroll1");
   bar.setValue(bar.maximum());
   const int hidden = 1500 - Find<QWidget>(m.window, "picMarco").width();

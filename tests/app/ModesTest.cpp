@@ -4,10 +4,12 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSlider>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 
 #include "platform/qt/Muestra.h"
@@ -69,6 +71,7 @@ class ModesTest : public QObject {
 
  private slots:
   void EachModeShowsItsGroups();
+  void TheSelectorShowsTheModeAndNothingJumps();
   void PlayRunsTheModesMethod();
   void OptionsRegenerateWithGrayscaleWhateverTheMode();
   void SizeRegeneratesWithTheModesMethod();
@@ -108,6 +111,35 @@ void ModesTest::EachModeShowsItsGroups() {
     for (std::size_t i = 0; i < 7; ++i)
       QVERIFY2(m.Shown(groups[i]) == (r.shown[i] == 'x'), (std::to_string(r.mode) + " " + groups[i]).c_str());
   }
+}
+
+void ModesTest::TheSelectorShowsTheModeAndNothingJumps() {
+  Loaded m;
+  auto& button = Find<QToolButton>(m.window, "Modo");
+  const QRect frame = Find<QWidget>(m.window, "picMarco").geometry();
+  const QPoint size = Find<QWidget>(m.window, "sldTamaño").mapTo(&m.window, QPoint());
+  QStringList sentences;
+  for (const char* name : kModos) {
+    const auto& item = Find<QAction>(m.window, name);
+    // By the keyboard: the button opens its menu.
+    QTimer::singleShot(0, &m.window, [&] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      QVERIFY(menu);
+      menu->setActiveAction(&Find<QAction>(m.window, name));
+      QTest::keyClick(menu, Qt::Key_Return);
+    });
+    QTest::keyClick(&button, Qt::Key_Space);
+    QCOMPARE(Find<QLabel>(m.window, "lblModo").text(), QString::fromUtf8(name));
+    QVERIFY2(button.icon().pixmap(16).toImage() == item.icon().pixmap(16).toImage(), name);
+    QVERIFY2(!item.icon().isNull() && button.toolTip().startsWith(item.statusTip()), name);
+    sentences += item.statusTip();
+    QTest::qWait(1);
+    QCOMPARE(Find<QWidget>(m.window, "picMarco").geometry(), frame);
+    if (m.Shown("sldTamaño")) QCOMPARE(Find<QWidget>(m.window, "sldTamaño").mapTo(&m.window, QPoint()), size);
+  }
+  sentences.removeAll(QString());
+  sentences.removeDuplicates();
+  QCOMPARE(sentences.size(), 6);
 }
 
 void ModesTest::PlayRunsTheModesMethod() {
