@@ -34,6 +34,8 @@ test_packages=(
   "libclang-rt-dev|the fuzzers and sanitizers"
   "clang-format|the style check"
   "clang-tidy|the check of names and of common mistakes"
+  "appstream|the check of what software centres read"
+  "desktop-file-utils|the check of the desktop's entry"
 )
 
 wanted=("${run_packages[@]}")
