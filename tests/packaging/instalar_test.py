@@ -13,7 +13,8 @@ SIZES = (16, 22, 24, 32, 48, 64, 128, 256, 512)
 EXPECTED = {
     'bin/pixmosa', 'bin/pixmosa-cli', 'libexec/pixmosa/pixmosa-decodificador',
     'share/applications/pixmosa.desktop', 'share/metainfo/org.pixmosa.pixmosa.metainfo.xml',
-    'share/doc/pixmosa/copyright', 'share/pixmosa/muestra.png', 'share/pixmosa/Paleta 3x2.txt',
+    'share/doc/pixmosa/copyright', 'share/doc/pixmosa/CHANGELOG.md',
+    'share/pixmosa/muestra.png', 'share/pixmosa/Paleta 3x2.txt',
     'share/man/man1/pixmosa.1', 'share/man/man1/pixmosa-cli.1',
     'share/man/es/man1/pixmosa.1', 'share/man/es/man1/pixmosa-cli.1',
     'share/bash-completion/completions/pixmosa-cli', 'share/zsh/site-functions/_pixmosa-cli',
