@@ -15,6 +15,16 @@ std::size_t Anchura(std::string_view utf8) {
   return n;
 }
 
+// A head and its explanation in two columns; a long head stands on a line of its own.
+std::string Fila(const std::string& head, const std::string& text) {
+  const std::size_t used = Anchura(head) + 2;
+  const std::string gap =
+      used + 2 > kSangria ? "\n" + std::string(kSangria, ' ') : std::string(kSangria - used, ' ');
+  return "  " + head + gap + text + "\n";
+}
+
+}  // namespace
+
 std::string Encabezado(const Opcion& o) {
   std::string s = o.nombre;
   if (o.tipo == Tipo::Eleccion) {
@@ -26,20 +36,10 @@ std::string Encabezado(const Opcion& o) {
   return s;
 }
 
-std::string Limites(const Opcion& o) {
-  if (o.tipo != Tipo::Entero || o.maximo == INT_MAX) return "";
-  return " (de " + std::to_string(o.minimo) + " a " + std::to_string(o.maximo) + ")";
+std::string Explicacion(const Opcion& o) {
+  if (o.tipo != Tipo::Entero || o.maximo == INT_MAX) return o.ayuda;
+  return std::string(o.ayuda) + " (de " + std::to_string(o.minimo) + " a " + std::to_string(o.maximo) + ")";
 }
-
-// A head and its explanation in two columns; a long head stands on a line of its own.
-std::string Fila(const std::string& head, const std::string& text) {
-  const std::size_t used = Anchura(head) + 2;
-  const std::string gap =
-      used + 2 > kSangria ? "\n" + std::string(kSangria, ' ') : std::string(kSangria - used, ' ');
-  return "  " + head + gap + text + "\n";
-}
-
-}  // namespace
 
 std::string AyudaDe(const Orden& order) {
   std::string s = "Uso: pixmosa-cli " + std::string(order.nombre);
@@ -47,7 +47,7 @@ std::string AyudaDe(const Orden& order) {
   if (!order.opciones.empty()) s += " [OPCIONES]";
   s += "\n\n" + std::string(order.resumen) + "\n";
   if (!order.opciones.empty()) s += "\nOpciones:\n";
-  for (const Opcion& o : order.opciones) s += Fila(Encabezado(o), o.ayuda + Limites(o));
+  for (const Opcion& o : order.opciones) s += Fila(Encabezado(o), Explicacion(o));
   if (order.masAyuda) s += "\n" + order.masAyuda();
   return s + "\nEjemplo:\n  " + order.ejemplo + "\n";
 }

@@ -26,6 +26,10 @@ std::span<const Orden> Ordenes();
 std::string AyudaGeneral();
 std::string AyudaDe(const Orden& order);
 
+// An option as the help shows it: its name with what its value may be, and its explanation with the bounds.
+std::string Encabezado(const Opcion& option);
+std::string Explicacion(const Opcion& option);
+
 // Runs the words of a command line after the program's name; the exit status.
 int Ejecutar(Consola& consola, std::span<const std::string> words);
 

@@ -1,48 +1,82 @@
 #!/usr/bin/env bash
-# Installs what a build or a test needs and is not there, saying what and why. Debian and Ubuntu.
-# Usage: preparar.sh run | test
+# Installs what a build, a test or the package needs and is not there, saying what and why: by apt (Debian, Ubuntu), dnf
+# (Fedora) or pacman (Arch); on other systems it lists what is needed. Usage: preparar.sh run | test | paquete
 set -euo pipefail
 
-# package and the reason it is needed
+# its name in Debian, Fedora and Arch, and the reason it is needed
 run_packages=(
-  "g++|the compiler"
-  "cmake|the build"
-  "ninja-build|the build"
-  "pkg-config|finding the picture libraries"
-  "qt6-base-dev|windows, fonts and picture files"
-  "libgl-dev|Qt's build files ask for it"
-  "libqt6svg6|the icons and SVG pictures"
-  "qt6-translations-l10n|the system's dialogs in Spanish"
-  "libjpeg-dev|reading photographs row by row"
-  "libpng-dev|PNG pictures"
-  "libgif-dev|the frames of animated GIFs, and films written as such"
-  "libimagequant-dev|the colours of films written as GIFs"
-  "libwmf-dev|WMF pictures"
-  "libseccomp-dev|the walls around the process that reads WMF and SVG pictures"
-  "qt6-image-formats-plugins|WebP, TIFF and other pictures"
-  "gsfonts|the letters of WMF pictures"
-  "libzip-dev|zipped FIGlet fonts"
-  "fonts-dejavu-core|the fixed-pitch font that stands for Lucida Console"
+  "g++ gcc-c++ gcc|the compiler"
+  "cmake cmake cmake|the build"
+  "ninja-build ninja-build ninja|the build"
+  "pkg-config pkgconf-pkg-config pkgconf|finding the picture libraries"
+  "qt6-base-dev qt6-qtbase-devel qt6-base|windows, fonts and picture files"
+  "libgl-dev mesa-libGL-devel libglvnd|Qt's build files ask for it"
+  "libqt6svg6 qt6-qtsvg qt6-svg|the icons and SVG pictures"
+  "qt6-translations-l10n qt6-qttranslations qt6-translations|the system's dialogs in Spanish"
+  "libjpeg-dev libjpeg-turbo-devel libjpeg-turbo|reading photographs row by row"
+  "libpng-dev libpng-devel libpng|PNG pictures"
+  "libgif-dev giflib-devel giflib|the frames of animated GIFs, and films written as such"
+  "libimagequant-dev libimagequant-devel libimagequant|the colours of films written as GIFs"
+  "libwmf-dev libwmf-devel libwmf|WMF pictures"
+  "libseccomp-dev libseccomp-devel libseccomp|the walls around the process that reads WMF and SVG pictures"
+  "qt6-image-formats-plugins qt6-qtimageformats qt6-imageformats|WebP, TIFF and other pictures"
+  "gsfonts urw-base35-fonts gsfonts|the letters of WMF pictures"
+  "libzip-dev libzip-devel libzip|zipped FIGlet fonts"
+  "fonts-dejavu-core dejavu-sans-mono-fonts ttf-dejavu|the fixed-pitch font that stands for Lucida Console"
 )
 test_packages=(
-  "libgtest-dev|the tests of the logic"
-  "libgmock-dev|the tests of the logic"
-  "python3|driving the browser"
-  "chromium|playing the pages in a real browser"
-  "chromium-driver|playing the pages in a real browser"
-  "clang|the fuzzers"
-  "libclang-rt-dev|the fuzzers and sanitizers"
-  "clang-format|the style check"
-  "clang-tidy|the check of names and of common mistakes"
+  "libgtest-dev gtest-devel gtest|the tests of the logic"
+  "libgmock-dev gmock-devel gtest|the tests of the logic"
+  "python3 python3 python|driving the browser and the installed program"
+  "chromium chromium chromium|playing the pages in a real browser"
+  "chromium-driver chromedriver chromium|playing the pages in a real browser"
+  "clang clang clang|the fuzzers"
+  "libclang-rt-dev compiler-rt compiler-rt|the fuzzers and sanitizers"
+  "clang-format clang-tools-extra clang|the style check"
+  "clang-tidy clang-tools-extra clang|the check of names and of common mistakes"
+  "appstream appstream appstream|the check of what software centres read"
+  "desktop-file-utils desktop-file-utils desktop-file-utils|the check of the desktop's entry"
+)
+package_packages=(
+  "dpkg-dev dpkg-dev dpkg|the libraries that the Debian package depends on"
 )
 
+# The column of the names, whether a package is there, how those that are not are installed.
+if command -v apt-get >/dev/null; then
+  column=0
+  is_there() { dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'ok installed'; }
+  install() { "$@" apt-get update -qq && "$@" apt-get install -y -qq --no-install-recommends "${missing[@]}"; }
+elif command -v dnf >/dev/null; then
+  column=1
+  is_there() { rpm -q --quiet --whatprovides "$1" 2>/dev/null; }
+  install() { "$@" dnf install -y -q --setopt=install_weak_deps=False "${missing[@]}"; }
+elif command -v pacman >/dev/null; then
+  column=2
+  is_there() { pacman -T "$1" >/dev/null; }
+  install() { "$@" pacman -S --noconfirm --needed "${missing[@]}"; }
+else
+  column=
+fi
+
 wanted=("${run_packages[@]}")
-if [ "${1:-run}" = test ]; then wanted+=("${test_packages[@]}"); fi
+case ${1:-run} in
+  run) ;;
+  test) wanted+=("${test_packages[@]}") ;;
+  paquete) wanted+=("${package_packages[@]}") ;;
+  *) echo "Uso: preparar.sh run | test | paquete" >&2; exit 2 ;;
+esac
+
+if [ -z "$column" ]; then
+  echo "Este sistema no tiene apt, dnf ni pacman, así que Pixmosa no puede instalar lo que le falte. Hacen falta, con los" \
+    "nombres de Debian: $(for row in "${wanted[@]}"; do printf '%s ' "${row%% *}"; done)" >&2
+  exit 0  # they may all be there; the build says which is not
+fi
 
 missing=()
 for row in "${wanted[@]}"; do
-  package=${row%%|*}
-  if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed'; then
+  read -ra names <<<"${row%%|*}"
+  package=${names[column]}
+  if [[ " ${missing[*]} " != *" $package "* ]] && ! is_there "$package"; then
     missing+=("$package")
     echo "Pixmosa necesita $package (${row#*|}); se instala ahora."
   fi
@@ -55,5 +89,4 @@ if [ "$(id -u)" -ne 0 ]; then
   sudo=(sudo)
 fi
 export DEBIAN_FRONTEND=noninteractive
-"${sudo[@]}" apt-get update -qq
-"${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
+install "${sudo[@]}"
