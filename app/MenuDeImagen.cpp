@@ -110,15 +110,17 @@ void MenuDeImagen::Avisar(const char* step) {
   SeguirImagen();
 }
 
-void MenuDeImagen::CederDeshacer(AreaDeTexto* area) {
+void MenuDeImagen::CederAtajos(AreaDeTexto* area) {
   area->installEventFilter(this);
 }
 
 bool MenuDeImagen::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::ShortcutOverride) return false;
   const auto* area = qobject_cast<AreaDeTexto*>(watched);
-  const bool undo = static_cast<QKeyEvent*>(event)->matches(QKeySequence::Undo);
-  return undo && area && !area->PuedeDeshacer();
+  if (!area) return false;
+  const auto* key = static_cast<QKeyEvent*>(event);
+  return (key->matches(QKeySequence::Undo) && !area->PuedeDeshacer()) ||
+         (key->matches(QKeySequence::Paste) && !area->canPaste());
 }
 
 }  // namespace pixmosa

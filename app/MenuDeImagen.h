@@ -40,8 +40,8 @@ class MenuDeImagen final : public QObject {
   // The working picture was replaced from outside: an open dialog shows that one.
   void SeguirImagen();
 
-  // Lets a text area have Ctrl+Z only where it has something to take back.
-  void CederDeshacer(AreaDeTexto* area);
+  // Lets a text area have Ctrl+Z and Ctrl+V only where it has something to take back or to take in.
+  void CederAtajos(AreaDeTexto* area);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -120,8 +120,8 @@ void frmMain::CrearCentro() {
   chkAsciiPrev_->setToolTip(QStringLiteral("Abre la vista previa después de cada generación"));
   connect(chkAsciiPrev_, &QCheckBox::toggled, this, [this](bool shown) { p_.vistaPrevia = shown; });
   txtAscii_ = named<AreaDeTexto>("txtAscii");
-  imagen_->CederDeshacer(txtAscii_);
-  txtAscii_->PonerPista(QStringLiteral("Aquí aparecerá el dibujo: cargue una imagen y pulse Generar."));
+  imagen_->CederAtajos(txtAscii_);
+  CrearPrimerosPasos();
   connect(txtAscii_, &QPlainTextEdit::textChanged, this, &frmMain::ActualizarAcciones);
   connect(txtAscii_, &AreaDeTexto::TextoSustituido, this, [this] {
     Decir(QStringLiteral("El texto editado a mano se ha sustituido."), QStringLiteral("Recuperarlo"),

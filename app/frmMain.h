@@ -81,6 +81,10 @@ class frmMain final : public QMainWindow {
 
   // --- frmMain_Archivo.cpp: pictures in, text out ---
   void CargarImagen();
+  void CargarMuestra();  // and draws it, and from then on at once
+  void Pegar();          // a picture, a file of one or its address
+  void SeguirCarga(const std::string& warning);
+  void CrearPrimerosPasos();
   void GuardarTexto();
   bool Guardar();  // false where nothing was saved
   void CopiarTexto();
@@ -184,6 +188,7 @@ class frmMain final : public QMainWindow {
   std::vector<QToolBar*> barras_;
   AreaDeTexto* txtAscii_ = nullptr;
   MarcoDeImagen* marco_ = nullptr;
+  QPushButton* cmdMuestra_ = nullptr;
   QLabel* lblMedidas_ = nullptr;
   QWidget* PicAlgoritmos_ = nullptr;
   frmOpcAlgoritmo* opciones_ = nullptr;

@@ -14,11 +14,15 @@ namespace pixmosa {
 namespace {
 
 constexpr char kFiltroDeImagenes[] = "Imagenes (*.bmp;*.gif;*.jpg;*.ico;*.wmf)|*.bmp;*.gif;*.jpg;*.ico;*.wmf";
+constexpr char kFiltroDeTodas[] = "|Todas las imágenes que se pueden leer|";
 
 }  // namespace
 
 void frmMain::CargarImagen() {
-  const std::string file = desktop_.dialogos.OpenFile("Seleccione una imagen...", kFiltroDeImagenes);
+  std::string all;
+  for (const std::string& ending : p_.codec.FormatosLegibles()) all += (all.empty() ? "*." : ";*.") + ending;
+  const std::string file = desktop_.dialogos.OpenFile("Seleccione una imagen...",
+                                                      std::string(kFiltroDeImagenes) + kFiltroDeTodas + all);
   if (!file.empty()) AbrirImagen(file);
 }
 
@@ -30,12 +34,7 @@ bool frmMain::AbrirImagen(const std::filesystem::path& file) {
     desktop_.dialogos.Fail("No se ha podido cargar la imagen", "Error en la carga", FraseDe(e));
     return false;
   }
-  Decir({});
-  opciones_->MostrarAnimArt();
-  PasoDado(Q("Cargar " + file.filename().string()));
-  imagen_->SeguirImagen();
-  AlMomento();
-  if (!warning.empty()) Decir(Q(warning));
+  SeguirCarga(warning);
   return true;
 }
 

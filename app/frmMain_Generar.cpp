@@ -143,6 +143,7 @@ void frmMain::ElegirConversion(int method) {
 void frmMain::ActualizarAcciones() {
   const bool picture = HayImagen(p_), text = !txtAscii_->EstaVacia();
   imagen_->PonerDisponible(picture);
+  cmdMuestra_->setVisible(!picture && !text);
   opciones_->PonerImagenDisponible(picture);
   opciones_->MostrarColumnas();
   acciones_.at("mnuComparar")->setEnabled(picture);

@@ -35,4 +35,10 @@ std::string CargarImagen(Programa& p, const std::filesystem::path& file) {
   return warning;
 }
 
+void PonerImagen(Programa& p, Picture picture) {
+  p.imagen.Cargar(std::move(picture));
+  p.archivo.clear();
+  p.animArtDisponible = p.animArt = false;
+}
+
 }  // namespace pixmosa

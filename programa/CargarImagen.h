@@ -14,4 +14,7 @@ namespace pixmosa {
 // and then everything is as it was.
 std::string CargarImagen(Programa& p, const std::filesystem::path& file);
 
+// The same for a picture that is there already, of no file.
+void PonerImagen(Programa& p, Picture picture);
+
 }  // namespace pixmosa

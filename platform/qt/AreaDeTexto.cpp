@@ -19,6 +19,12 @@
 
 namespace pixmosa {
 
+QFont FuenteDeVentana() {
+  QFont font = QApplication::font();
+  font.setResolveMask(QFont::AllPropertiesResolved);
+  return font;
+}
+
 AreaDeTexto::AreaDeTexto(QWidget* parent) : QPlainTextEdit(parent) {
   setLineWrapMode(NoWrap);
   setWordWrapMode(QTextOption::NoWrap);
@@ -162,7 +168,7 @@ void AreaDeTexto::paintEvent(QPaintEvent* event) {
   QPlainTextEdit::paintEvent(event);
   if (pista_.isEmpty() || !document()->isEmpty()) return;
   QPainter painter(viewport());
-  painter.setFont(QApplication::font());
+  painter.setFont(FuenteDeVentana());
   painter.setPen(palette().color(QPalette::Text));
   painter.setOpacity(0.7);
   painter.drawText(viewport()->rect().adjusted(24, 24, -24, -24), Qt::AlignCenter | Qt::TextWordWrap, pista_);

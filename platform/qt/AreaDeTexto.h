@@ -15,6 +15,9 @@ namespace pixmosa {
 
 class FormatoDeCeldas;
 
+// The window's own font, whole: what lies on a text area takes nothing of the text's over.
+QFont FuenteDeVentana();
+
 // A line break of the document is CR LF; a CR or LF on its own, the other control codes and the soft hyphen
 // are held as characters of the private use area (shown as a blank of one cell, the soft hyphen as a hyphen),
 // because text layout would give them no width and the columns would no longer stand below one another. So a

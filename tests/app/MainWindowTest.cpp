@@ -26,9 +26,15 @@ using Log = std::vector<std::string>;
 
 namespace {
 
-const std::string kOpen =
-    "OpenFile|Seleccione una imagen...|Imagenes "
-    "(*.bmp;*.gif;*.jpg;*.ico;*.wmf)|*.bmp;*.gif;*.jpg;*.ico;*.wmf";
+// The dialog of pictures: the usual kinds first, then every kind that can be read.
+const std::string kOpen = [] {
+  std::string asked =
+      "OpenFile|Seleccione una imagen...|Imagenes "
+      "(*.bmp;*.gif;*.jpg;*.ico;*.wmf)|*.bmp;*.gif;*.jpg;*.ico;*.wmf|Todas las imágenes que se pueden leer|";
+  for (const std::string& ending : QtPictureCodec().FormatosLegibles()) asked += "*." + ending + ";";
+  asked.pop_back();
+  return asked;
+}();
 const std::string kRegenerate =
     "Ask||Se ha cambiado la fuente. Para un resultado óptimo es convenientecrear de nuevo el AsciiArt\r\n"
     "¿Desea generarlo ahora?";
