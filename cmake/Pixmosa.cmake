@@ -16,8 +16,9 @@ endif()
 # carries no symbols.
 if(PIXMOSA_HARDEN)
   set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-  add_compile_options(-fstack-protector-strong -fcf-protection -U_FORTIFY_SOURCE)
-  add_compile_definitions(_FORTIFY_SOURCE=2 _GLIBCXX_ASSERTIONS)
+  # Both in one place: definitions come before options, and would be taken back.
+  add_compile_options(-fstack-protector-strong -fcf-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+  add_compile_definitions(_GLIBCXX_ASSERTIONS)
   add_link_options(-pie -Wl,-z,relro -Wl,-z,now -s)
 endif()
 if(PIXMOSA_SANITIZE)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what a build, a test or the package needs and is not there, saying what and why: by apt (Debian, Ubuntu), dnf
-# (Fedora) or pacman (Arch); on other systems it lists what is needed. Usage: preparar.sh run | test | paquete
+# (Fedora) or pacman (Arch); on other systems it lists what is needed. Usage: preparar.sh run | test | paquete | probar
 set -euo pipefail
 
 # its name in Debian, Fedora and Arch, and the reason it is needed
@@ -40,6 +40,10 @@ test_packages=(
 package_packages=(
   "dpkg-dev dpkg-dev dpkg|the libraries that the Debian package depends on"
 )
+trial_packages=(
+  "lintian lintian lintian|the rules for Debian packages"
+  "debootstrap debootstrap debootstrap|a new system to install the package in"
+)
 
 # The column of the names, whether a package is there, how those that are not are installed.
 if command -v apt-get >/dev/null; then
@@ -63,7 +67,8 @@ case ${1:-run} in
   run) ;;
   test) wanted+=("${test_packages[@]}") ;;
   paquete) wanted+=("${package_packages[@]}") ;;
-  *) echo "Uso: preparar.sh run | test | paquete" >&2; exit 2 ;;
+  probar) wanted+=("${package_packages[@]}" "${trial_packages[@]}") ;;
+  *) echo "Uso: preparar.sh run | test | paquete | probar" >&2; exit 2 ;;
 esac
 
 if [ -z "$column" ]; then
