@@ -111,7 +111,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
 }
 
 void frmOpcAlgoritmo::CrearTamaño(QVBoxLayout* layout) {
-  sldTamaño_ = Deslizador("sldTamaño", 1, kMayorTamaño, program_.ajustes.size,
+  sldTamaño_ = Deslizador("sldTamaño", 1, kMayorPorcentaje, program_.ajustes.size,
                           "Tanto por ciento de los caracteres que caben en la pantalla");
   lblTamañoAsciiMin_ = Etiqueta("lblTamañoAsciiMin", "Mín.", "El tamaño más pequeño");
   lbl100_ = Etiqueta("lbl100", "100 %", "Tantos caracteres como caben en la pantalla");

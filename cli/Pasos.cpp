@@ -66,6 +66,7 @@ Paso PasoDeRecorte(const std::string& word, const std::optional<std::string>& va
   constexpr std::size_t kNumeros = 4;
   const std::vector<std::string> parts = Separar(value.value_or(""));
   std::vector<int> numbers;
+  numbers.reserve(parts.size());
   for (const std::string& part : parts)
     numbers.push_back(EnteroDeTexto(part, numbers.size() < 2 ? 0 : 1, INT_MAX).value_or(-1));
   if (parts.size() != kNumeros || std::count(numbers.begin(), numbers.end(), -1) > 0)

@@ -51,7 +51,7 @@ void PonerTamaño(Programa& p, int percent) {
 
 void PonerColumnas(Programa& p, int columns) {
   const double whole = static_cast<double>(p.superficie.ScreenWidth()) / p.basAscii.CellWidth;
-  p.ajustes.size = std::clamp(RoundHalfEven(100 * columns / whole), 1, kMayorTamaño);
+  p.ajustes.size = std::clamp(RoundHalfEven(100 * columns / whole), 1, kMayorPorcentaje);
   p.columnas = columns;
   ContarColumnas(p);
 }

@@ -21,8 +21,8 @@ void PonerPaleta(Programa& p, int palette);
 // Brightness and look-up.
 void PonerNegativo(Programa& p, bool negative);
 
-// The column count: `percent` of the characters that fit across the screen, 1..kMayorTamaño.
-constexpr int kMayorTamaño = 198;
+// The column count: `percent` of the characters that fit across the screen, 1..kMayorPorcentaje.
+constexpr int kMayorPorcentaje = 198;
 void PonerTamaño(Programa& p, int percent);
 
 // The column count itself, 1 or more, which stays with any font; the size is the percentage nearest to it.
