@@ -41,7 +41,7 @@ class Instalado(unittest.TestCase):
         for name in names:
             page = run(cls.cli, name, '--help').stdout.split('\nEjemplo:')[0]
             rows = re.findall(r'^  (--?[a-z][a-z-]*)(?: (\S+))?', page, re.M)
-            cls.orders[name] = {o: v.split('|') if '|' in v else [] for o, v in rows}
+            cls.orders[name] = {o: v.split('|') if re.fullmatch(r'[a-z0-9]+(\|[a-z0-9]+)+', v) else [] for o, v in rows}
 
     @classmethod
     def tearDownClass(cls):
