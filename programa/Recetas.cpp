@@ -35,7 +35,7 @@ std::filesystem::path ArchivoDeReceta(const std::filesystem::path& folder, const
   if (fs::exists(name, none) && !fs::is_directory(name, none)) return name;
   const bool plain = !name.empty() && name.find('/') == std::string::npos;
   if (plain && !folder.empty())
-    if (const fs::path file = folder / (name + ".txt"); fs::exists(file, none)) return file;
+    if (fs::path file = folder / (name + ".txt"); fs::exists(file, none)) return file;
   throw ErrorDelPrograma("No hay ninguna receta ni ningún archivo \"" + name + "\".");
 }
 
