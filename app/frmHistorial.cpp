@@ -24,8 +24,14 @@ frmHistorial::frmHistorial(QWidget* parent) : QDialog(parent) {
 
 void frmHistorial::Mostrar(const HistorialDeImagen& history) {
   const QSignalBlocker quiet(lsvHistorial_);
-  lsvHistorial_->clear();
-  for (const PasoDeImagen& step : history.pasos) lsvHistorial_->addItem(Q(step.nombre));
+  // A click on a step comes back here: the list that it came from stays as it is.
+  QStringList names;
+  for (const PasoDeImagen& step : history.pasos) names += Q(step.nombre);
+  if (names != nombres_) {
+    lsvHistorial_->clear();
+    lsvHistorial_->addItems(names);
+    nombres_ = names;
+  }
   lsvHistorial_->setCurrentRow(static_cast<int>(history.actual));
 }
 

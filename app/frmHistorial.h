@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QStringList>
 
 #include "programa/HistorialDeImagen.h"
 
@@ -22,6 +23,7 @@ class frmHistorial final : public QDialog {
 
  private:
   QListWidget* lsvHistorial_;
+  QStringList nombres_;
 };
 
 }  // namespace pixmosa
