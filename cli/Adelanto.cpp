@@ -3,6 +3,7 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
+#include <system_error>
 
 #include "platform/AtomicFile.h"
 #include "platform/PictureCodec.h"
@@ -17,18 +18,23 @@ bool Adelanto::Empezar(const std::string& file, Extent wanted) {
   std::array<char, 3> begin{};
   std::ifstream(file, std::ios::binary).read(begin.data(), begin.size());
   if (!EsJpeg({begin.data(), begin.size()})) return false;
-  lectura_ = std::async(std::launch::async, [file, wanted] {
-    Leida read;
+  const auto read = [file, wanted] {
+    Leida picture;
     try {
-      read.imagen = ReadJpegReduced(LeerArchivo(file, kMasBytesDeImagen), [&](Extent source) {
-        read.entera = source;
+      picture.imagen = ReadJpegReduced(LeerArchivo(file, kMasBytesDeImagen), [&](Extent source) {
+        picture.entera = source;
         return FitsMemory(source) ? wanted : Extent{};
       });
     } catch (const std::exception&) {
-      read.imagen.reset();
+      picture.imagen.reset();
     }
-    return read;
-  });
+    return picture;
+  };
+  try {
+    lectura_ = std::async(std::launch::async, read);
+  } catch (const std::system_error&) {
+    return false;  // no thread is to be had: it is read when it is asked for
+  }
   return true;
 }
 

@@ -62,6 +62,17 @@ std::vector<Opcion> OpcionesDeTabla() {
       {"--puntos", Tipo::Entero, "N", "tamaño de la fuente; si falta, 6", 1, kMasPuntos}};
 }
 
+std::vector<Opcion> OpcionesDeMetodo() {
+  return {{"--metodo",
+           Tipo::Eleccion,
+           "",
+           "el método; si falta, grises",
+           0,
+           0,
+           {std::begin(kMetodos), std::end(kMetodos)}},
+          {"--relleno", Tipo::Interruptor, "", "con bordes: rellena de \":\" el interior de las formas"}};
+}
+
 std::vector<Opcion> OpcionesDeTexto() {
   return Juntar(
       Juntar({{"--columnas", Tipo::Entero, "N", "caracteres por fila; si falta, los del terminal u 80", 1,

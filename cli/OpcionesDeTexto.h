@@ -17,6 +17,9 @@ std::vector<Opcion> OpcionesDeTexto();
 // The name of a method's option and of a line of `comparar`, by the method's number.
 inline constexpr const char* kMetodos[] = {"grises", "bordes", "antialias", "tono", "formas"};
 
+// --metodo and --relleno, for orders that take every method.
+std::vector<Opcion> OpcionesDeMetodo();
+
 // The number of the method that the option --metodo names; `otherwise` without it.
 int MetodoDe(const Argumentos& arguments, int otherwise = kGrayscale);
 
