@@ -19,9 +19,4 @@ double LuzDeClaridad(double lightness) {
   return root * root * root;
 }
 
-double LuzDeParte(int part) {
-  const double v = part / 255.0;
-  return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-}
-
 }  // namespace pixmosa

@@ -9,7 +9,4 @@ double Claridad(double light);
 // The inverse: 0..1 to 0..1.
 double LuzDeClaridad(double lightness);
 
-// Linear light of an sRGB part 0..255 (IEC 61966-2-1), 0..1.
-double LuzDeParte(int part);
-
 }  // namespace pixmosa

@@ -10,8 +10,8 @@
 #include <QPainter>
 #include <QWheelEvent>
 
-#include "conversion/Claridad.h"
 #include "conversion/Malla.h"
+#include "platform/Luz.h"
 
 namespace pixmosa {
 namespace {

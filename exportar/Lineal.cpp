@@ -3,18 +3,15 @@
 #include <algorithm>
 #include <cmath>
 
-namespace pixmosa {
+#include "platform/Luz.h"
 
-double LuzDeNivel(double level) {
-  const double v = level / 255;
-  return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-}
+namespace pixmosa {
 
 const std::array<std::uint32_t, 256>& TablaDeLuz() {
   static const std::array<std::uint32_t, 256> table = [] {
     std::array<std::uint32_t, 256> t{};
     for (std::size_t i = 0; i < t.size(); ++i)
-      t[i] = std::lrint(LuzDeNivel(static_cast<double>(i)) * kLuzEntera);
+      t[i] = std::lrint(LuzDeParte(static_cast<double>(i)) * kLuzEntera);
     return t;
   }();
   return table;
@@ -24,7 +21,7 @@ int NivelDeLuz(double light) {
   // Where one level ends and the next begins.
   static const std::array<double, 255> borders = [] {
     std::array<double, 255> b{};
-    for (std::size_t i = 0; i < b.size(); ++i) b[i] = LuzDeNivel(static_cast<double>(i) + 0.5) * kLuzEntera;
+    for (std::size_t i = 0; i < b.size(); ++i) b[i] = LuzDeParte(static_cast<double>(i) + 0.5) * kLuzEntera;
     return b;
   }();
   return static_cast<int>(std::upper_bound(borders.begin(), borders.end(), light) - borders.begin());
@@ -32,7 +29,7 @@ int NivelDeLuz(double light) {
 
 Oklab OklabDe(Colour colour) {
   const ColourParts p = SplitColour(colour);
-  const double r = LuzDeNivel(p.red), g = LuzDeNivel(p.green), b = LuzDeNivel(p.blue);
+  const double r = LuzDeParte(p.red), g = LuzDeParte(p.green), b = LuzDeParte(p.blue);
   const double l = std::cbrt(0.4122214708 * r + 0.5363325363 * g + 0.0514459929 * b);
   const double m = std::cbrt(0.2119034982 * r + 0.6806995451 * g + 0.1073969566 * b);
   const double s = std::cbrt(0.0883024619 * r + 0.2817188376 * g + 0.6299787005 * b);

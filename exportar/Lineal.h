@@ -9,9 +9,6 @@
 
 namespace pixmosa {
 
-// Linear light of a level, which need not be whole: 0..255 to 0..1.
-double LuzDeNivel(double level);
-
 // The levels 0..255 as whole parts of kLuzEntera.
 inline constexpr std::uint32_t kLuzEntera = 1U << 24;
 const std::array<std::uint32_t, 256>& TablaDeLuz();

@@ -7,6 +7,7 @@
 #include "conversion/ConvertFormas.h"
 #include "conversion/Malla.h"
 #include "conversion/basAscii.h"
+#include "platform/Luz.h"
 #include "tests/support/DrawnPicture.h"
 #include "tests/support/FakeTextSurface.h"
 #include "tests/support/Noise.h"
