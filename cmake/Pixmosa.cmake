@@ -12,6 +12,13 @@ target_compile_options(pixmosa_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow
 if(PIXMOSA_WERROR)
   target_compile_options(pixmosa_flags INTERFACE -Werror)
 endif()
+# What is precompiled once serves targets of one kind only, and Qt wants this one of its users.
+if(PIXMOSA_PCH)
+  add_compile_options(-fPIC)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-Wno-array-bounds -Wno-stringop-overflow)  # false of a precompiled standard library
+  endif()
+endif()
 # What is handed to users stops at the first sign of a broken stack, a wild jump or an index out of range, and
 # carries no symbols.
 if(PIXMOSA_HARDEN)
@@ -30,11 +37,32 @@ if(PIXMOSA_SANITIZE)
   endif()
 endif()
 
+# The headers that cost more to read than the file that includes them, read once: Qt's for the windows, GoogleTest's
+# for the tests. Every file still includes what it uses; the presets without PIXMOSA_PCH hold it to that.
+function(pixmosa_precompiled target links)
+  if(NOT PIXMOSA_PCH)
+    return()
+  endif()
+  set(owner pixmosa_precompiled_${links})
+  string(REPLACE "::" "_" owner ${owner})
+  if(NOT TARGET ${owner})
+    file(WRITE ${CMAKE_BINARY_DIR}/${owner}.cpp "")
+    add_library(${owner} OBJECT ${CMAKE_BINARY_DIR}/${owner}.cpp)
+    target_link_libraries(${owner} PRIVATE pixmosa_flags ${links})
+    target_precompile_headers(${owner} PRIVATE ${ARGN})
+  endif()
+  target_precompile_headers(${target} REUSE_FROM ${owner})
+endfunction()
+
 # pixmosa_library(NAME SOURCES a.cpp ... LINKS lib ...): a static library with its sources listed.
 function(pixmosa_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
   target_link_libraries(${name} PUBLIC pixmosa_flags ${ARG_LINKS})
+  if(name MATCHES "_forms$|^platform_widgets$|^pixmosa_app$")
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    pixmosa_precompiled(${name} Qt6::Widgets <QtWidgets>)
+  endif()
 endfunction()
 
 # pixmosa_test(NAME LABEL core SOURCES a.cpp ... LINKS lib ...): one test program of a subsystem.
@@ -43,8 +71,12 @@ function(pixmosa_test name)
   cmake_parse_arguments(ARG "" "LABEL" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE pixmosa_flags ${ARG_LINKS})
-  if(NOT ARG_LABEL STREQUAL "gui")
+  if(ARG_LABEL STREQUAL "gui")
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    pixmosa_precompiled(${name} Qt6::Widgets <QtWidgets>)
+  else()
     target_link_libraries(${name} PRIVATE GTest::gtest_main GTest::gmock)
+    pixmosa_precompiled(${name} GTest::gmock <gmock/gmock.h> <gtest/gtest.h>)
   endif()
   target_compile_definitions(${name} PRIVATE PIXMOSA_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
   add_test(NAME ${name} COMMAND ${name})
