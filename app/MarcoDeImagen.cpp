@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QFrame>
 #include <QGridLayout>
 #include <QMouseEvent>
@@ -9,6 +10,7 @@
 #include <QPainter>
 #include <QWheelEvent>
 
+#include "app/RecorteConRaton.h"
 #include "platform/Rounding.h"
 #include "platform/qt/Named.h"
 #include "platform/qt/QtPicture.h"
@@ -83,6 +85,7 @@ QSize MarcoDeImagen::sizeHint() const {
 
 void MarcoDeImagen::Mostrar(const Picture& picture) {
   const QSize before = vista_->size();
+  DejarRecorte();
   vista_->Mostrar(picture, Sitio());
   AjustarBarras();
   if (before != vista_->size()) {
@@ -110,6 +113,50 @@ void MarcoDeImagen::Colocar() {
   vista_->update();
   AjustarBarras();
   Mover();
+  if (recorte_) recorte_->resize(vista_->size());
+}
+
+void MarcoDeImagen::Recortar() {
+  if (vista_->isHidden()) return;
+  DejarRecorte();
+  recorte_ = new RecorteConRaton(vista_->Natural(), vista_);
+  barra_ = new BarraDeRecorte(recorte_, vista_->Natural());
+  connect(recorte_, &RecorteConRaton::Dejada, this, &MarcoDeImagen::DejarRecorte);
+  connect(recorte_, &RecorteConRaton::Aceptada, this, [this] {
+    const Zona zone = recorte_->Marcada();
+    const bool whole = QSize(zone.ancho, zone.alto) == vista_->Natural();
+    DejarRecorte();
+    if (!whole) emit RecorteElegido(zone);
+  });
+  static_cast<QGridLayout*>(layout())->addWidget(barra_, 2, 0, 1, 2);
+  Recolocar();
+}
+
+void MarcoDeImagen::Recolocar() {
+  layout()->activate();
+  Colocar();
+}
+
+void MarcoDeImagen::DejarRecorte() {
+  if (!recorte_) return;
+  recorte_->deleteLater();
+  barra_->deleteLater();
+  recorte_->hide();
+  barra_->hide();
+  layout()->removeWidget(barra_);
+  recorte_ = nullptr;
+  barra_ = nullptr;
+  Recolocar();
+}
+
+void MarcoDeImagen::mousePressEvent(QMouseEvent* event) {
+  pulsado_ = event->pos();
+}
+
+void MarcoDeImagen::mouseMoveEvent(QMouseEvent* event) {
+  const bool moved = (event->pos() - pulsado_).manhattanLength() >= QApplication::startDragDistance();
+  if (event->buttons().testFlag(Qt::LeftButton) && moved && !recorte_ && !vista_->isHidden())
+    emit ArrastrePedido();
 }
 
 void MarcoDeImagen::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -154,8 +201,7 @@ void MarcoDeImagen::Mover() {
 
 void MarcoDeImagen::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  layout()->activate();
-  Colocar();
+  Recolocar();
 }
 
 void MarcoDeImagen::wheelEvent(QWheelEvent* event) {

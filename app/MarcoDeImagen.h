@@ -3,12 +3,17 @@
 #pragma once
 
 #include <QPixmap>
+#include <QPointer>
 #include <QScrollBar>
 #include <QWidget>
 
+#include "effects/Recorte.h"
 #include "platform/Picture.h"
 
 namespace pixmosa {
+
+class BarraDeRecorte;
+class RecorteConRaton;
 
 // Paints a picture at natural size, one pixel of the picture a pixel of the widget, or smaller.
 class VistaDeImagen final : public QWidget {
@@ -44,6 +49,9 @@ class MarcoDeImagen final : public QWidget {
   // Fits a picture that is larger than the frame, in the middle of it; or shows it at natural size.
   void PonerAjustada(bool fitted);
 
+  // Lets the user mark a part of the picture; nothing without one.
+  void Recortar();
+
   // A button for the corner between the bars.
   void PonerBoton(QWidget* button);
 
@@ -55,8 +63,12 @@ class MarcoDeImagen final : public QWidget {
 
  signals:
   void AjustePedido();  // a double click: the other of the two ways to see it
+  void RecorteElegido(const pixmosa::Zona& zone);
+  void ArrastrePedido();  // the picture is dragged out
 
  protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
@@ -64,14 +76,19 @@ class MarcoDeImagen final : public QWidget {
  private:
   QSize Sitio() const;  // that a fitted picture has
   void Colocar();
+  void Recolocar();  // after what lies around the frame has changed
   void AjustarBarras();
   void Mover();
+  void DejarRecorte();
 
   QWidget* marco_;
   VistaDeImagen* vista_;
   QScrollBar* horizontal_;
   QScrollBar* vertical_;
   bool ajustada_ = true;
+  QPointer<RecorteConRaton> recorte_;
+  QPointer<BarraDeRecorte> barra_;
+  QPoint pulsado_;
   int giro_ = 0;  // of the wheel, not yet moved by
 };
 

@@ -55,12 +55,14 @@ void MenuDeImagen::PonerDisponible(bool available) {
 }
 
 void MenuDeImagen::Hacer(const EntradaDeImagen& entry) {
+  std::vector<std::string> words;
   switch (entry.accion) {
     case Accion::Efecto:
       Aplicar(entry.efecto, entry.argumento, true);
       return;
     case Accion::Giro:
       PedirGiro(program_.mFiltros, program_.imagen, *entry.giro);
+      words = {entry.giro->orden};
       break;
     case Accion::Deshacer:
       program_.imagen.Deshacer();
@@ -72,7 +74,7 @@ void MenuDeImagen::Hacer(const EntradaDeImagen& entry) {
     case Accion::Separador:
       return;
   }
-  Avisar(entry.caption);
+  Avisar(entry.caption, words);
 }
 
 void MenuDeImagen::Aplicar(int effect, std::int32_t argument, bool askConfig) {
@@ -81,9 +83,18 @@ void MenuDeImagen::Aplicar(int effect, std::int32_t argument, bool askConfig) {
       [&] {
         if (ApplyEffect(program_.mFiltros, program_.imagen, effect, program_.imagen, argument, progress_,
                         askConfig))
-          Avisar(Efecto(effect)->caption);
+          EfectoHecho({effect, argument});
       },
       "Efectos");
+}
+
+void MenuDeImagen::EfectoHecho(const Paso& step) {
+  ultimo_ = step;
+  Avisar(Efecto(step.efecto)->caption, {PalabraDe(step)});
+}
+
+void MenuDeImagen::RepetirEfecto() {
+  if (ultimo_) Aplicar(ultimo_->efecto, ultimo_->argumento, false);
 }
 
 void MenuDeImagen::PonerEnBlancoYNegro() {
@@ -93,9 +104,8 @@ void MenuDeImagen::PonerEnBlancoYNegro() {
 void MenuDeImagen::AbrirDialogo(int effect) {
   if (!dialog_) {
     dialog_ = new frmEfectConfig(program_.mFiltros, program_.imagen, dialogs_, window_);
-    connect(dialog_, &frmEfectConfig::Aplicado, this, [this] {
-      const EffectConfig* applied = Efecto(program_.mFiltros.CurrentDialogEffect);
-      emit ImagenCambiada(Q(applied ? applied->caption : "Efecto"));
+    connect(dialog_, &frmEfectConfig::Aplicado, this, [this](int applied, std::int32_t argument) {
+      EfectoHecho({applied, argument});
     });
   }
   dialog_->Abrir(effect);
@@ -105,8 +115,8 @@ void MenuDeImagen::SeguirImagen() {
   if (dialog_) dialog_->SeguirImagen();
 }
 
-void MenuDeImagen::Avisar(const char* step) {
-  emit ImagenCambiada(Q(step));
+void MenuDeImagen::Avisar(const char* step, const std::vector<std::string>& words) {
+  emit ImagenCambiada(Q(step), words);
   SeguirImagen();
 }
 

@@ -2,6 +2,8 @@
 // the working picture.
 #pragma once
 
+#include <optional>
+#include <string>
 #include <vector>
 
 #include <QMenu>
@@ -10,6 +12,7 @@
 #include "effects/EntradasDeImagen.h"
 #include "platform/Dialogs.h"
 #include "platform/Progress.h"
+#include "programa/Pasos.h"
 #include "programa/Programa.h"
 
 namespace pixmosa {
@@ -37,6 +40,10 @@ class MenuDeImagen final : public QObject {
   // "Blanco y negro" of the options: "Método 1" as the menu passes it, at once.
   void PonerEnBlancoYNegro();
 
+  // The last effect once more, with its argument.
+  void RepetirEfecto();
+  bool PuedeRepetir() const { return ultimo_.has_value(); }
+
   // The working picture was replaced from outside: an open dialog shows that one.
   void SeguirImagen();
 
@@ -46,12 +53,14 @@ class MenuDeImagen final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  signals:
-  void ImagenCambiada(const QString& paso);  // what was done to it
+  // What was done to it, and the words that do it again: none where it is a picture that was there before.
+  void ImagenCambiada(const QString& paso, const std::vector<std::string>& ordenes);
 
  private:
   void Hacer(const EntradaDeImagen& entry);
   void AbrirDialogo(int effect);
-  void Avisar(const char* step);
+  void EfectoHecho(const Paso& step);
+  void Avisar(const char* step, const std::vector<std::string>& words);
 
   Programa& program_;
   Progress& progress_;
@@ -60,6 +69,7 @@ class MenuDeImagen final : public QObject {
   QMenu* menu_;
   std::vector<QAction*> entradas_;
   frmEfectConfig* dialog_ = nullptr;
+  std::optional<Paso> ultimo_;  // effect
 };
 
 }  // namespace pixmosa

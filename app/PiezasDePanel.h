@@ -68,14 +68,16 @@ inline QHBoxLayout* FilaDePanel(const char* text, QWidget* control) {
 
 // Widgets in one another's place, of which one is seen: the place is as large as the largest, so that nothing
 // around it moves when another is shown.
+inline void Superponer(QGridLayout* place, QWidget* widget) {
+  QSizePolicy keep = widget->sizePolicy();
+  keep.setRetainSizeWhenHidden(true);
+  widget->setSizePolicy(keep);
+  place->addWidget(widget, 0, 0, Qt::AlignTop);
+}
+
 inline QGridLayout* Superpuestos(std::initializer_list<QWidget*> widgets) {
   auto* place = new QGridLayout;
-  for (QWidget* widget : widgets) {
-    QSizePolicy keep = widget->sizePolicy();
-    keep.setRetainSizeWhenHidden(true);
-    widget->setSizePolicy(keep);
-    place->addWidget(widget, 0, 0, Qt::AlignTop);
-  }
+  for (QWidget* widget : widgets) Superponer(place, widget);
   return place;
 }
 

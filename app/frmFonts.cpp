@@ -22,6 +22,7 @@ frmFonts::frmFonts(const std::vector<std::string>& names, const std::string& cur
                      "ocupan lo mismo y las columnas quedan alineadas. Elija una de la lista."));
   help->setWordWrap(true);
   auto* list = named<QListWidget>("lvwFuentes");
+  list->setAccessibleName(windowTitle());
   for (const std::string& name : names) {
     auto* item = new QListWidgetItem(Q(name), list);
     item->setFont(QFont(Q(name)));

@@ -13,6 +13,7 @@ frmHistorial::frmHistorial(QWidget* parent) : QDialog(parent) {
   setObjectName("frmHistorial");
   setWindowTitle(QStringLiteral("Historial de la imagen"));
   lsvHistorial_ = named<QListWidget>("lsvHistorial");
+  lsvHistorial_->setAccessibleName(windowTitle());
   lsvHistorial_->setToolTip(QStringLiteral("Un clic en un paso deja la imagen como estaba en él"));
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(lsvHistorial_);

@@ -52,16 +52,18 @@ frmMain::frmMain(Programa& program, const Escritorio& desktop)
       progreso_(prgBar1_),
       regeneracion_(Con(desktop.dialogos, [this] { Regenerar(); })) {
   setObjectName("frmMain");
-  setWindowTitle("Pixmosa");
+  setWindowIcon(Icono("pixmosa"));
   setAcceptDrops(true);
-  p_.ajustes.conversion = ConversionRecordada(desktop_.registro);
+  RecuperarOpciones();
   CrearBarraDeEstado();
   CrearMenus();
   CrearBarras();
   CrearCentro();
   CrearEstados();
   CrearPaneles();
+  CrearRecuerdos();
   PrepararVista();
+  RecuperarVentana();
   ActualizarAcciones();
 }
 
@@ -80,6 +82,7 @@ void frmMain::CrearMenus() {
     if (m->objectName() == "mnuArchivo") menuBar()->addMenu(imagen_->Menu());
   }
   CrearEntradasDeHistorial();
+  CrearRecetas();
   QMenu* asciiArt = menuBar()->findChild<QMenu*>("mnuAsciiArt");
   auto* copy = named<QMenu>("mnuCopiarComo", QStringLiteral("Copiar co&mo"), asciiArt);
   copy->setToolTipsVisible(true);
@@ -98,6 +101,8 @@ void frmMain::CrearBarras() {
     button->setObjectName(b.clave);
     button->setToolTip(entry->toolTip() + " (" + entry->shortcut().toString(QKeySequence::NativeText) + ")");
     bar->addAction(button);
+    bar->widgetForAction(button)->setFocusPolicy(Qt::TabFocus);
+    bar->widgetForAction(button)->setObjectName(b.clave);
     if (entry == acciones_.at("mnuPlay")) CrearAlMomento(bar);
     connect(button, &QAction::triggered, entry, &QAction::trigger);
     connect(entry, &QAction::changed, button, [button, entry] { button->setEnabled(entry->isEnabled()); });
@@ -118,8 +123,10 @@ void frmMain::CrearCentro() {
 
   chkAsciiPrev_ = named<QCheckBox>("chkAsciiPrev", QStringLiteral("Vista previa al generar"));
   chkAsciiPrev_->setToolTip(QStringLiteral("Abre la vista previa después de cada generación"));
+  chkAsciiPrev_->setChecked(p_.vistaPrevia);
   connect(chkAsciiPrev_, &QCheckBox::toggled, this, [this](bool shown) { p_.vistaPrevia = shown; });
   txtAscii_ = named<AreaDeTexto>("txtAscii");
+  txtAscii_->setAccessibleName(QStringLiteral("Dibujo"));
   imagen_->CederAtajos(txtAscii_);
   CrearPrimerosPasos();
   connect(txtAscii_, &QPlainTextEdit::textChanged, this, &frmMain::ActualizarAcciones);
@@ -144,8 +151,6 @@ void frmMain::CrearCentro() {
   splitter->setStretchFactor(1, 1);
   splitter->setChildrenCollapsible(false);
   setCentralWidget(splitter);
-  resize(QSize(1180, 760).boundedTo(screen()->availableSize() - QSize(16, 48)));
-  splitter->setSizes({marco_->sizeHint().width() + 9, 840});
 }
 
 void frmMain::CrearBarraDeEstado() {
@@ -170,10 +175,25 @@ void frmMain::CrearBarraDeEstado() {
 
 void frmMain::CrearPaneles() {
   CrearLetreros();
-  opciones_ = new frmOpcAlgoritmo(p_, desktop_.dialogos, PicAlgoritmos_);
-  QGridLayout* area = Superpuestos({figlet_, opciones_});
+  QGridLayout* area = Superpuestos({figlet_});
   area->setContentsMargins(0, 0, 0, 0);
   PicAlgoritmos_->setLayout(area);
+  CrearOpciones();
+  Dialogs& dialogs = desktop_.dialogos;
+  connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::PasoDado);
+  connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::AlMomento);
+  connect(marco_, &MarcoDeImagen::RecorteElegido, this,
+          Con(dialogs, [this](const Zona& zone) { TerminarRecorte(zone); }));
+  connect(marco_, &MarcoDeImagen::ArrastrePedido, this, Con(dialogs, [this] { ArrastrarImagen(); }));
+  Medir(p_);
+  opciones_->MostrarPaneles();
+  MostrarFuente();
+  MostrarColores();
+}
+
+void frmMain::CrearOpciones() {
+  opciones_ = new frmOpcAlgoritmo(p_, desktop_.dialogos, PicAlgoritmos_);
+  Superponer(static_cast<QGridLayout*>(PicAlgoritmos_->layout()), opciones_);
   Dialogs& dialogs = desktop_.dialogos;
   connect(opciones_, &frmOpcAlgoritmo::TextoCaducado, this, Con(dialogs, [this](int m) { Caducar(m); }));
   connect(opciones_, &frmOpcAlgoritmo::LetrerosVisibles, this, &frmMain::MostrarLetreros);
@@ -186,19 +206,15 @@ void frmMain::CrearPaneles() {
   connect(opciones_, &frmOpcAlgoritmo::Aviso, this, [this](const QString& sentence) { Decir(sentence); });
   connect(opciones_, &frmOpcAlgoritmo::AnchoPedido, this,
           [this] { opciones_->PonerAncho(txtAscii_->ColumnasVisibles()); });
-  connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::PasoDado);
-  connect(imagen_, &MenuDeImagen::ImagenCambiada, this, &frmMain::AlMomento);
   connect(opciones_, &frmOpcAlgoritmo::RellenoCambiado, this, &frmMain::AlMomento);
   // The text area keeps the Tab key to itself: it comes last, after the options.
   setTabOrder(previousInFocusChain(), chkAsciiPrev_);
   setTabOrder(chkAsciiPrev_, txtAscii_);
-  Medir(p_);
-  MostrarFuente();
-  MostrarColores();
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event) {
   const QList<QUrl> urls = event->mimeData()->urls();
+  if (event->source()) return;  // from this window
   if (!ocupada_ && !urls.isEmpty() && urls.first().isLocalFile()) event->acceptProposedAction();
 }
 

@@ -13,6 +13,7 @@
 #include <QElapsedTimer>
 #include <QMainWindow>
 
+#include "effects/Recorte.h"
 #include "platform/Escritorio.h"
 #include "platform/qt/Menus.h"
 #include "platform/qt/QtProgress.h"
@@ -24,7 +25,6 @@ class QCheckBox;
 class QLabel;
 class QProgressBar;
 class QPushButton;
-class QShortcut;
 class QToolBar;
 class QToolButton;
 
@@ -76,6 +76,7 @@ class frmMain final : public QMainWindow {
   void CrearCentro();
   void CrearBarraDeEstado();
   void CrearPaneles();
+  void CrearOpciones();
   void CrearEstados();
   void CrearLetreros();
 
@@ -84,6 +85,7 @@ class frmMain final : public QMainWindow {
   void CargarMuestra();  // and draws it, and from then on at once
   void Pegar();          // a picture, a file of one or its address
   void SeguirCarga(const std::string& warning);
+  void ArrastrarImagen();  // out of the window: a file and a picture
   void CrearPrimerosPasos();
   void GuardarTexto();
   bool Guardar();  // false where nothing was saved
@@ -104,13 +106,36 @@ class frmMain final : public QMainWindow {
   // --- frmMain_Imagen.cpp ---
   static const std::vector<Entrada>& EntradasDeHistorial();
   void CrearEntradasDeHistorial();
-  void PasoDado(const QString& name);  // the working picture was changed
+  // The working picture was changed, by these words.
+  void PasoDado(const QString& name, const std::vector<std::string>& words = {});
   void MostrarPasos();
   void IrA(std::size_t step);
   void DeshacerPaso();
   void RehacerPaso();
   void MostrarHistorial();
   void GuardarImagen();
+  void RepetirEfecto();
+  void Recortar();
+  void TerminarRecorte(const Zona& zone);
+
+  // --- frmMain_Recuerdos.cpp: what stays from one run to the next ---
+  void RecuperarOpciones();  // before anything is made of them
+  void RecuperarVentana();
+  void MedidasDePartida();
+  void GuardarRecuerdos();
+  void CrearRecuerdos();
+  void CambiarRecuerdos();
+  void ListarRecientes();
+  void AnotarReciente(const std::filesystem::path& file);
+  void OlvidarReciente(const std::string& file);
+  void ValoresDeFabrica();
+  void Titular();  // the picture's name, and the mark of a text that is not saved
+
+  // --- frmMain_Recetas.cpp ---
+  void CrearRecetas();
+  void ListarRecetas();
+  void GuardarReceta();
+  void AplicarReceta(const std::string& name);
 
   // --- frmMain_Generar.cpp ---
   void Play();
@@ -170,6 +195,7 @@ class frmMain final : public QMainWindow {
   void TamañoReal();
 
   // --- frmMain_Ventanas.cpp ---
+  void Guia();
   void Salir();
   bool PuedePerderseElTexto();  // asks where it was edited by hand
   void MapaDeCaracteres();
@@ -207,11 +233,11 @@ class frmMain final : public QMainWindow {
   QLabel* lblEnlace_ = nullptr;
   std::function<void()> alSeguirEnlace_;
   QPushButton* cmdCancelar_ = nullptr;
-  QShortcut* escape_ = nullptr;
   bool ocupada_ = false;        // a page is being written
   bool cancelada_ = false;      // the user wants it no longer
   bool cerrarDespues_ = false;  // and closed the window
   QElapsedTimer desdeElTexto_;
+  std::vector<std::string> recientes_;        // pictures by path, the newest first
   Qt::Alignment alineacion_ = Qt::AlignLeft;  // of banners; pictures' texts lie at the left
   int caducadoPor_ = 0;
   UltimoValor regeneracion_;  // a dragged slider costs one text however many values it sent

@@ -55,6 +55,7 @@ bool frmMain::Guardar() {
         EscribirArchivo(file, bytes ? TextoGuardado(font, txtAscii_->Texto())
                                     : TextoGuardadoUtf8(font, txtAscii_->Utf8()));
         txtAscii_->DarPorGuardada();
+        Titular();
         if (bytes) {
           NombrarArchivo("Texto guardado", file);
         } else {

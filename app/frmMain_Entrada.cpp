@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QDrag>
 #include <QFileInfo>
 #include <QMimeData>
 #include <QPushButton>
@@ -11,6 +12,7 @@
 #include "app/MenuDeImagen.h"
 #include "app/frmMain.h"
 #include "app/frmOpcAlgoritmo.h"
+#include "platform/AtomicFile.h"
 #include "platform/qt/AreaDeTexto.h"
 #include "platform/qt/Intentar.h"
 #include "platform/qt/Menus.h"
@@ -18,6 +20,7 @@
 #include "platform/qt/QtPicture.h"
 #include "platform/qt/QtText.h"
 #include "programa/CargarImagen.h"
+#include "programa/Recetas.h"
 
 namespace pixmosa {
 namespace {
@@ -79,10 +82,30 @@ void frmMain::Pegar() {
   SeguirCarga({});
 }
 
+void frmMain::ArrastrarImagen() {
+  // The file itself where the picture is as it was loaded, else a new one of the same name.
+  std::filesystem::path file = p_.archivo;
+  std::error_code none;
+  if (!PasosDados(p_).empty() || !std::filesystem::exists(file, none)) {
+    file = p_.basGif.carpeta / ((p_.archivo.empty() ? "imagen" : NombreDeImagen(p_)) + ".png");
+    EscribirArchivo(file, p_.codec.Encode(p_.imagen.picMain, "png"));
+  }
+  auto* carried = new QMimeData;
+  carried->setUrls({QUrl::fromLocalFile(QString::fromStdString(std::filesystem::absolute(file).string()))});
+  carried->setImageData(ImageOf(p_.imagen.picMain).copy());
+  auto* drag = new QDrag(this);
+  drag->setMimeData(carried);
+  drag->setPixmap(QPixmap::fromImage(Vista(
+      p_.imagen.picMain, QSize(96, 96).boundedTo(QSize(p_.imagen.picMain.Width(), p_.imagen.picMain.Height())
+                                                     .scaled(96, 96, Qt::KeepAspectRatio)))));
+  drag->exec(Qt::CopyAction);
+}
+
 void frmMain::SeguirCarga(const std::string& warning) {
   Decir({});
   opciones_->MostrarAnimArt();
   const std::string name = p_.archivo.filename().string();
+  if (!name.empty() && p_.archivo != p_.carpeta / kMuestra) AnotarReciente(p_.archivo);
   PasoDado(name.empty() ? QStringLiteral("Pegar") : Q("Cargar " + name));
   imagen_->SeguirImagen();
   AlMomento();

@@ -2,7 +2,6 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -30,13 +29,12 @@ void frmMain::CrearEstados() {
             if (const auto follow = alSeguirEnlace_) follow();
           }));
   cmdCancelar_ = named<QPushButton>("cmdCancelar", QStringLiteral("Cancelar"));
-  cmdCancelar_->setToolTip(QStringLiteral("Deja de escribir la página (Escape)"));
+  cmdCancelar_->setToolTip(QStringLiteral("Deja el trabajo en curso sin terminar (Escape)"));
+  cmdCancelar_->setShortcut(Qt::Key_Escape);
   cmdCancelar_->hide();
   statusBar()->insertPermanentWidget(1, cmdCancelar_);
   connect(cmdCancelar_, &QAbstractButton::clicked, this, &frmMain::Cancelar);
-  escape_ = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-  escape_->setEnabled(false);
-  connect(escape_, &QShortcut::activated, this, &frmMain::Cancelar);
+  progreso_.PonerBoton(cmdCancelar_);
 }
 
 void frmMain::Decir(const QString& text, const QString& link, std::function<void()> follow) {
@@ -77,7 +75,6 @@ void frmMain::Ocupar(bool busy) {
   txtAscii_->setReadOnly(busy);
   setAcceptDrops(!busy);
   cmdCancelar_->setVisible(busy);
-  escape_->setEnabled(busy);
   if (busy) {
     Decir({});
     progreso_.Show();
@@ -88,6 +85,7 @@ void frmMain::Ocupar(bool busy) {
 
 void frmMain::Cancelar() {
   cancelada_ = true;
+  if (!ocupada_) Decir(QStringLiteral("Cancelado: la imagen queda como estaba."));
 }
 
 }  // namespace pixmosa

@@ -18,6 +18,7 @@
 #include "platform/qt/QtText.h"
 #include "programa/Fotografia.h"
 #include "programa/Generar.h"
+#include "programa/Recetas.h"
 
 namespace pixmosa {
 
@@ -141,6 +142,7 @@ void frmMain::ElegirConversion(int method) {
 }
 
 void frmMain::ActualizarAcciones() {
+  Titular();
   const bool picture = HayImagen(p_), text = !txtAscii_->EstaVacia();
   imagen_->PonerDisponible(picture);
   cmdMuestra_->setVisible(!picture && !text);
@@ -150,7 +152,10 @@ void frmMain::ActualizarAcciones() {
   acciones_.at("mnuGuardar")->setEnabled(text);
   acciones_.at("mnuDeshacerImagen")->setEnabled(PuedeDeshacerPaso(p_));
   acciones_.at("mnuRehacerImagen")->setEnabled(PuedeRehacerPaso(p_));
-  for (const char* name : {"mnuHistorial", "mnuGuardarImagen"}) acciones_.at(name)->setEnabled(picture);
+  for (const char* name : {"mnuHistorial", "mnuGuardarImagen", "mnuRecortar", "mnuRecetas"})
+    acciones_.at(name)->setEnabled(picture);
+  acciones_.at("mnuRepetirEfecto")->setEnabled(picture && imagen_->PuedeRepetir());
+  acciones_.at("mnuGuardarReceta")->setEnabled(!PasosDados(p_).empty());
   for (const char* name : {"mnuClipboard", "mnuExportar", "mnuCopiarComo"})
     acciones_.at(name)->setEnabled(text);
   acciones_.at("mnuPreviewAsciiArt")->setEnabled(!p_.basAscii.ProducedText.empty());

@@ -1,10 +1,12 @@
 // The working picture's history and the retouched picture as a file.
+#include "app/MarcoDeImagen.h"
 #include "app/MenuDeImagen.h"
 #include "app/frmHistorial.h"
 #include "app/frmMain.h"
 #include "platform/AtomicFile.h"
 #include "platform/qt/Intentar.h"
 #include "platform/qt/QtText.h"
+#include "programa/Pasos.h"
 
 namespace pixmosa {
 
@@ -21,6 +23,13 @@ const std::vector<frmMain::Entrada>& frmMain::EntradasDeHistorial() {
         "Muestra los pasos dados, para ir a cualquiera de ellos"},
        &frmMain::MostrarHistorial},
       kSeparador,
+      {{"mnuRecortar", "Re&cortar...", "transform-crop", "Ctrl+Shift+X",
+        "Deja solo la parte de la imagen que usted marque con el ratón"},
+       &frmMain::Recortar},
+      {{"mnuRepetirEfecto", "Repetir último e&fecto", "view-refresh", "Ctrl+F",
+        "Aplica otra vez el último efecto, con el mismo valor"},
+       &frmMain::RepetirEfecto},
+      kSeparador,
       {{"mnuGuardarImagen", "G&uardar la imagen...", "document-save-as", "Ctrl+Alt+S",
         "Guarda la imagen retocada en un archivo"},
        &frmMain::GuardarImagen},
@@ -35,8 +44,8 @@ void frmMain::CrearEntradasDeHistorial() {
     if (row.hacer) acciones_[row.nombre] = imagen_->Menu()->findChild<QAction*>(row.nombre);
 }
 
-void frmMain::PasoDado(const QString& name) {
-  AnotarPaso(p_, name.toStdString());
+void frmMain::PasoDado(const QString& name, const std::vector<std::string>& words) {
+  AnotarPaso(p_, name.toStdString(), words);
   MostrarPasos();
   MostrarImagen();
 }
@@ -70,6 +79,22 @@ void frmMain::MostrarHistorial() {
   MostrarPasos();
   historial_->show();
   historial_->raise();
+}
+
+void frmMain::RepetirEfecto() {
+  imagen_->RepetirEfecto();
+}
+
+void frmMain::Recortar() {
+  marco_->Recortar();
+}
+
+void frmMain::TerminarRecorte(const Zona& zone) {
+  const Paso step = {.recorte = zone};
+  DarPaso(p_.mFiltros, p_.imagen, step, progreso_);
+  PasoDado(QStringLiteral("Recortar"), {PalabraDe(step)});
+  imagen_->SeguirImagen();
+  AlMomento();
 }
 
 void frmMain::GuardarImagen() {

@@ -32,6 +32,16 @@ void frmMain::MostrarImagenCompleta() {
   window->show();
 }
 
+void frmMain::Guia() {
+  const std::filesystem::path page = p_.carpeta / "guia" / "index.html";
+  std::error_code none;
+  if (std::filesystem::exists(page, none)) {
+    AbrirPagina(page.string());
+  } else {
+    desktop_.dialogos.Fail("La guía no está donde debería: \"" + page.string() + "\".", "Guía");
+  }
+}
+
 void frmMain::AcercaDe() {
   frmAbout(desktop_.entorno, this).exec();
 }
@@ -69,12 +79,14 @@ void frmMain::AbrirEditor() {
 void frmMain::closeEvent(QCloseEvent* event) {
   if (ocupada_) {
     cerrarDespues_ = true;
+    progreso_.Cancelar();
     event->ignore();
     return;
   }
   // The editor may hold changes that only it knows of; it asks.
   const bool editorClosed = !editor_ || !editor_->isVisible() || editor_->close();
   event->setAccepted(editorClosed && PuedePerderseElTexto());
+  if (event->isAccepted()) GuardarRecuerdos();
 }
 
 bool frmMain::PuedePerderseElTexto() {

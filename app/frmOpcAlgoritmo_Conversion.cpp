@@ -49,6 +49,19 @@ std::optional<double> ProporcionDe(QString text) {
   return value;
 }
 
+QString NombreDeProporcion(double value) {
+  for (const Aspecto& a : kProporciones)
+    if (a.valor == value) return QString::fromUtf8(a.nombre);
+  return QString::number(value).replace(u'.', u',');
+}
+
+// A set by its name, or its characters.
+QString NombreDelJuego(const std::u32string& set) {
+  for (const char* name : {"bloques", "braille", "cajas"})
+    if (JuegoDeCaracteres(name) == set) return QLatin1String(name);
+  return QString::fromUcs4(set.data(), static_cast<qsizetype>(set.size()));
+}
+
 }  // namespace
 
 QWidget* frmOpcAlgoritmo::CrearConversion() {
@@ -75,6 +88,10 @@ QWidget* frmOpcAlgoritmo::CrearConversion() {
       "cboCaracteres", {kDeLaPaleta, "bloques", "braille", "cajas"},
       "Los caracteres con los que se dibuja: los de la paleta, un juego Unicode o los que usted escriba, en "
       "cualquier orden (Intro para usarlos)");
+  if (!program_.ajustes.caracteres.empty()) {
+    cboCaracteres_->setEditText(NombreDelJuego(program_.ajustes.caracteres));
+    Aceptado(cboCaracteres_, true);
+  }
   layout->addLayout(FilaDePanel("Caract&eres", cboCaracteres_));
   lblCaracteres_ = Nota("La conversión clásica dibuja con la paleta: estos caracteres piden Tono o Formas.");
   lblCaracteres_->setObjectName("lblCaracteres");
@@ -109,6 +126,8 @@ QComboBox* frmOpcAlgoritmo::CrearProporcion() {
       ListaEscribible("cboProporcion", items,
                       "Alto entre ancho del carácter donde se leerá el texto: la de la fuente, un "
                       "terminal (2), una página web (1,92) o un número");
+  cboProporcion_->setEditText(NombreDeProporcion(program_.basAscii.Proporcion));
+  Aceptado(cboProporcion_, true);
   return cboProporcion_;
 }
 

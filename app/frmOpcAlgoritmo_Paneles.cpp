@@ -42,6 +42,7 @@ QToolBar* BarraDeBotones(const char* name, std::initializer_list<BotonDeBarra> b
     action->setObjectName(b.clave);
     action->setCheckable(true);
     group->addAction(action);
+    if (b.ajuste) action->setChecked(*b.ajuste);
     if (b.ajuste)
       QObject::connect(action, &QAction::toggled, bar, [to = b.ajuste](bool pressed) { *to = pressed; });
     QWidget* button = bar->widgetForAction(action);
@@ -58,6 +59,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
   QVBoxLayout* layout = Columna(page);
   cboPaletas_ = named<QComboBox>("cboPaletas");
   for (const CharacterPalette& p : kPalettes) cboPaletas_->addItem(Q(p.caption));
+  cboPaletas_->setCurrentIndex(program_.ajustes.palette);
   cboPaletas_->setToolTip(QStringLiteral("Caracteres con los que se dibuja"));
   layout->addLayout(FilaDePanel("&Paleta", cboPaletas_));
   CrearTamaño(layout);
@@ -65,7 +67,8 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
   mrcAscii_[0] = named<QWidget>("mrcAscii(0)");
   QVBoxLayout* gray = Columna(mrcAscii_[0]);
   gray->addWidget(CrearConversion());
-  sldLuminosidad_ = Deslizador("sldLuminosidad", -100, 100, 0, "Aclara u oscurece el dibujo");
+  sldLuminosidad_ =
+      Deslizador("sldLuminosidad", -100, 100, program_.ajustes.luminosity, "Aclara u oscurece el dibujo");
   sldLuminosidad_->setAccessibleName(QStringLiteral("Luminosidad"));
   label1_ = Etiqueta("Label1", "Luminosidad", "Vuelve a poner la luminosidad en 0");
   auto* light = new QHBoxLayout;
@@ -80,6 +83,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
   QVBoxLayout* edges = Columna(mrcAscii_[1]);
   chkRelleno_ = named<QCheckBox>("chkRelleno", QStringLiteral("&Rellenar el interior de las formas"));
   chkRelleno_->setToolTip(QStringLiteral("Llena de \":\" el interior de las zonas negras"));
+  chkRelleno_->setChecked(program_.ajustes.relleno);
   edges->addWidget(chkRelleno_);
   edges->addWidget(
       Nota("La imagen debe ser un dibujo negro sobre blanco: si no lo es, pulse Blanco y negro."));
@@ -89,6 +93,7 @@ QWidget* frmOpcAlgoritmo::CrearPaginaAscii() {
       ->addWidget(Nota("Solo el negro puro es tinta: si la imagen tiene otros tonos, pulse Blanco y negro."));
 
   chkAsciiNegativo_ = named<QCheckBox>("chkAsciiNegativo", QStringLiteral("&Negativo"));
+  chkAsciiNegativo_->setChecked(program_.basAscii.CountedColour == kBlack);
   chkAsciiNegativo_->setToolTip(QStringLiteral("Para leer el dibujo con letras claras sobre fondo oscuro"));
   lblAsciiBackcolor_ = MuestraDeColor("lblAsciiBackcolor", "Color del fondo del texto", program_.fondoTexto);
   lblAsciiForeColor_ = MuestraDeColor("lblAsciiForeColor", "Color del texto", program_.colorTexto);
@@ -180,7 +185,9 @@ QWidget* frmOpcAlgoritmo::CrearPaginaWeb() {
   cboPaletaWeb_->addItems({QStringLiteral("Binaria (0-1)"), QStringLiteral("Texto del usuario")});
   cboPaletaWeb_->setToolTip(QStringLiteral("Caracteres que se repiten por toda la página"));
   txtPaletaWeb_ = named<QLineEdit>("txtPaletaWeb");
-  txtPaletaWeb_->setEnabled(false);
+  cboPaletaWeb_->setCurrentIndex(program_.ajustesWeb.paleta);
+  txtPaletaWeb_->setText(QStringOfBytes(program_.ajustesWeb.textoPaleta));
+  txtPaletaWeb_->setEnabled(program_.ajustesWeb.paleta == 1);
   txtPaletaWeb_->installEventFilter(this);
   txtPaletaWeb_->setToolTip(QStringLiteral("El texto que se repite por toda la página"));
   mosaic->addLayout(FilaDePanel("&Paleta", cboPaletaWeb_));

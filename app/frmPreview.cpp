@@ -14,6 +14,7 @@ frmPreview::frmPreview(QWidget* parent) : QDialog(parent, Qt::Window) {
   setWindowTitle(QStringLiteral("Vista previa"));
   txtAscii_ = named<AreaDeTexto>("txtAscii");
   txtAscii_->setReadOnly(true);
+  txtAscii_->setAccessibleName(windowTitle());
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(txtAscii_);

@@ -7,10 +7,12 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 
+#include "app/Recuerdos.h"
 #include "app/frmMain.h"
 #include "platform/PrivateFolder.h"
 #include "platform/ProgramFolder.h"
 #include "platform/Temporales.h"
+#include "platform/qt/Estilo.h"
 #include "platform/qt/Intentar.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtPictureCodec.h"
@@ -67,6 +69,7 @@ int main(int argc, char** argv) {
   QuitarTemporalesAlTerminar();
   QtDialogs dialogs;
   Aplicacion app(argc, argv, dialogs);
+  QApplication::setStyle(new Estilo);
   // No display name: the window system would add it to every caption.
   QApplication::setApplicationName("Pixmosa");
   QApplication::setApplicationVersion(PIXMOSA_VERSION);
@@ -91,10 +94,13 @@ int main(int argc, char** argv) {
   } catch (const std::exception& e) {
     dialogs.Fail(FraseDe(e), {}, {});  // pictures load all the same; only animated GIFs are not cut
   }
+  dialogs.PonerCarpeta(QString::fromStdString(Recordado(registry, Recuerdo::Carpeta)));
   frmMain window(program, {dialogs, shell, registry});
   dialogs.SetOwner(&window);
   window.show();
   if (const QStringList files = QApplication::arguments().mid(1); !files.isEmpty())
     window.AbrirImagen(files.first().toStdString());
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  Recordar(registry, Recuerdo::Carpeta, dialogs.Carpeta().toStdString());
+  return status;
 }

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <climits>
 
 #include "cli/Lista.h"
+#include "platform/Palabras.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -28,14 +28,6 @@ void Comprobar(const Opcion& o, const std::string& value) {
 }
 
 }  // namespace
-
-std::optional<int> EnteroDeTexto(std::string_view text, int minimo, int maximo) {
-  int v = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), v);
-  if (error != std::errc() || end != text.data() + text.size() || v < minimo || v > maximo)
-    return std::nullopt;
-  return v;
-}
 
 Argumentos::Argumentos(std::span<const std::string> words, std::span<const Opcion> options) {
   Leer(words, options);

@@ -63,7 +63,4 @@ class Argumentos {
   std::map<std::string, std::string> valores_;
 };
 
-// The whole of `text` as a decimal integer within minimo..maximo, or nothing.
-std::optional<int> EnteroDeTexto(std::string_view text, int minimo, int maximo);
-
 }  // namespace pixmosa::cli

@@ -6,19 +6,6 @@
 
 namespace pixmosa::cli {
 
-// "a,b" as its parts; an empty text has one empty part.
-inline std::vector<std::string> Separar(const std::string& text) {
-  std::vector<std::string> parts(1);
-  for (const char c : text) {
-    if (c == ',') {
-      parts.emplace_back();
-    } else {
-      parts.back() += c;
-    }
-  }
-  return parts;
-}
-
 // "a, b o c".
 template <typename Palabra>
 std::string Unidas(const std::vector<Palabra>& words) {

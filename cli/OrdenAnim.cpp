@@ -7,6 +7,7 @@
 #include "cli/Lista.h"
 #include "cli/OpcionesDeTexto.h"
 #include "cli/Ordenes.h"
+#include "platform/Palabras.h"
 #include "programa/Animacion.h"
 
 namespace pixmosa::cli {

@@ -4,10 +4,10 @@
 #include "cli/Destino.h"
 #include "cli/Lista.h"
 #include "cli/Ordenes.h"
-#include "cli/Pasos.h"
 #include "platform/AtomicFile.h"
 #include "platform/CodePage.h"
 #include "platform/ProgramFolder.h"
+#include "programa/Pasos.h"
 #include "programa/Recetas.h"
 
 namespace pixmosa::cli {
@@ -24,29 +24,24 @@ bool PareceUnPaso(const std::string& word) {
   return word != "-" && word.find_first_of("./") == std::string::npos && !std::filesystem::exists(word, none);
 }
 
-std::vector<Paso> PasosDe(const std::string& recipe) {
-  const std::string file = ArchivoDeReceta(RecipeFolder(), recipe).string();
-  std::vector<Paso> steps;
-  for (const LineaDeReceta& line : PasosDeReceta(LeerArchivo(file))) {
-    const std::string where = "en la receta \"" + file + "\", línea " + std::to_string(line.numero) + ": ";
-    try {
-      const std::optional<Paso> step = PasoDe(line.paso);
-      if (!step) throw ErrorDeUso("no existe el paso \"" + line.paso + "\"");
-      steps.push_back(*step);
-    } catch (const ErrorDeUso& e) {
-      throw ErrorDeUso(where + e.what());
-    }
+// A step that cannot be is a fault of use.
+template <typename Leer>
+auto Pedir(const Leer& read) {
+  try {
+    return read();
+  } catch (const ErrorDePaso& e) {
+    throw ErrorDeUso(e.what());
   }
-  return steps;
 }
 
 // Pictures first, then steps; those of a recipe before them.
 Pedido PedidoDe(const Argumentos& arguments) {
   Pedido order;
-  if (const auto recipe = arguments.Texto("--receta")) order.pasos = PasosDe(*recipe);
+  if (const auto recipe = arguments.Texto("--receta"))
+    order.pasos = Pedir([&] { return LeerReceta(ArchivoDeReceta(RecipeFolder(), *recipe)); });
   const std::size_t fromRecipe = order.pasos.size();
   for (const std::string& word : arguments.Operandos()) {
-    const std::optional<Paso> step = PasoDe(word);
+    const std::optional<Paso> step = Pedir([&] { return PasoDe(word); });
     if (step) {
       if (order.imagenes.empty()) throw ErrorDeUso("falta la imagen antes del paso \"" + word + "\"");
       order.pasos.push_back(*step);
@@ -92,7 +87,8 @@ void Transformar(Consola& consola, const Argumentos& arguments, const Pedido& or
     m.random.Seed(static_cast<std::uint64_t>(arguments.Entero("--semilla", 0)));
   ImagenDeTrabajo image;
   image.Cargar(consola.LeerImagen(operand, say));
-  for (const Paso& step : order.pasos) DarPaso(m, image, step);
+  NoProgress progress;
+  for (const Paso& step : order.pasos) DarPaso(m, image, step, progress);
   Guardar(consola, image.picMain, file, format);
 }
 

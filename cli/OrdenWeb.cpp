@@ -1,10 +1,10 @@
 #include <climits>
 
 #include "cli/Destino.h"
-#include "cli/Lista.h"
 #include "cli/Ordenes.h"
 #include "platform/AtomicFile.h"
 #include "platform/CodePage.h"
+#include "platform/Palabras.h"
 #include "web/basWeb.h"
 
 namespace pixmosa::cli {

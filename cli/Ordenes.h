@@ -8,6 +8,7 @@ namespace pixmosa::cli {
 Orden OrdenAscii();
 Orden OrdenTabla();
 Orden OrdenEfecto();
+std::string AyudaDePasos();  // every step with its caption, range and argument
 Orden OrdenComparar();
 Orden OrdenWeb();
 Orden OrdenFotogramas();

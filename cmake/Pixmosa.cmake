@@ -16,7 +16,7 @@ endif()
 if(PIXMOSA_PCH)
   add_compile_options(-fPIC)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    add_compile_options(-Wno-array-bounds -Wno-stringop-overflow)  # false of a precompiled standard library
+    add_compile_options(-Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)  # false of a precompiled standard library
   endif()
 endif()
 # What is handed to users stops at the first sign of a broken stack, a wild jump or an index out of range, and

@@ -10,6 +10,7 @@
 #include <QSlider>
 
 #include "effects/basFiltrosConfig.h"
+#include "effects/frmEfectConfig_Detalle.h"
 #include "platform/Rounding.h"
 #include "platform/qt/Intentar.h"
 #include "platform/qt/Menus.h"
@@ -55,6 +56,8 @@ frmEfectConfig::frmEfectConfig(MFiltros& m, ImagenDeTrabajo& image, Dialogs& dia
       image_(image),
       dialogs_(dialogs),
       Image1_(named<ImagenEstirable>("Image1")),
+      antes_(named<ImagenEstirable>("picAntes")),
+      picDetalle_(named<DetalleDeImagen>("picDetalle")),
       sldEfecto_(named<QSlider>("sldEfecto", Qt::Horizontal)),
       numEfecto_(Numero("numEfecto", sldEfecto_)),
       lblEfecto_(named<QLabel>("lblEfecto")),
@@ -72,9 +75,24 @@ frmEfectConfig::frmEfectConfig(MFiltros& m, ImagenDeTrabajo& image, Dialogs& dia
 }
 
 void frmEfectConfig::Componer() {
-  auto* frame = named<QWidget>("marcoDeVista");
-  frame->setFixedSize(kLado, kLado);
-  Image1_->setParent(frame);
+  auto* views = new QGridLayout;
+  const auto view = [&](const char* name, ImagenEstirable* image, const char* caption, int column) {
+    auto* frame = named<QWidget>(name);
+    frame->setFixedSize(kLado, kLado);
+    image->setParent(frame);
+    views->addWidget(new QLabel(Q(caption)), 0, column);
+    views->addWidget(frame, 1, column, Qt::AlignTop);
+  };
+  view("marcoDeAntes", antes_, "Antes", 0);
+  view("marcoDeVista", Image1_, "Después", 1);
+  views->setHorizontalSpacing(kHueco);
+  views->setVerticalSpacing(2);
+  picDetalle_->setToolTip(Q("Un detalle de la imagen al 100 %, antes y después: arrástrelo para ver otro"));
+  picDetalle_->setAccessibleName(Q("Detalle al 100 %"));
+  sldEfecto_->setAccessibleName(Q("Intensidad"));
+  sldEfecto_->setToolTip(Q("Cuánto se aplica el filtro; empieza con el último valor aplicado"));
+  numEfecto_->setAccessibleName(sldEfecto_->accessibleName());
+  numEfecto_->setToolTip(sldEfecto_->toolTip());
   auto* decoration = named<QLabel>("Image2");
   decoration->setPixmap(Icono("image-x-generic").pixmap(24, 24));
   QFont bold = lblEfecto_->font();
@@ -112,13 +130,15 @@ void frmEfectConfig::Componer() {
   auto* grid = new QGridLayout(this);
   grid->setHorizontalSpacing(16);
   grid->setColumnStretch(1, 1);
-  grid->addWidget(frame, 0, 0, 6, 1, Qt::AlignTop);
+  grid->addLayout(views, 0, 0, 6, 1);
   grid->addLayout(head, 0, 1);
   grid->addWidget(lblRango_, 1, 1);
   grid->addLayout(strength, 2, 1);
   grid->addLayout(slider, 3, 1);
   grid->addWidget(prgBar1_, 4, 1);
-  grid->addLayout(buttons, 6, 0, 1, 2);
+  grid->addWidget(picDetalle_, 6, 0, 1, 2);
+  grid->setRowStretch(6, 1);
+  grid->addLayout(buttons, 7, 0, 1, 2);
 }
 
 void frmEfectConfig::Abrir(int effect) {
@@ -161,15 +181,18 @@ void frmEfectConfig::CargarEfecto(int effect) {
                        std::to_string(sldEfecto_->maximum())));
   lblValor_->setText(QString::number(sldEfecto_->value()));
   FitPreview();
+  if (const auto last = ultimos_.find(effect); last != ultimos_.end()) sldEfecto_->setValue(last->second);
 }
 
 void frmEfectConfig::done(int result) {
   m_.CurrentDialogEffect = 0;
   pending_ = applying_ = false;
   retry_.stop();
-  // A closed dialog keeps no picture; a preview that still runs has nowhere to go.
+  if (running_) progress_.Cancelar();
+  // A closed dialog keeps no picture.
   Picture1_.Asignar({});
-  Image1_->Mostrar({}, false);
+  for (ImagenEstirable* view : {Image1_, antes_}) view->Mostrar({}, false);
+  picDetalle_->Mostrar({}, {});
   QDialog::done(result);
 }
 
@@ -199,12 +222,7 @@ void frmEfectConfig::UnaVista() {
   prgBar1_->show();
   const int effect = m_.CurrentDialogEffect;
   Intentar(
-      dialogs_,
-      [&] {
-        ApplyEffect(m_, image_, effect, Picture1_, ArgumentoDelDeslizador(effect, sldEfecto_->value()),
-                    progress_, true);
-      },
-      kTitulo);
+      dialogs_, [&] { ApplyEffect(m_, image_, effect, Picture1_, Argumento(), progress_, true); }, kTitulo);
   prgBar1_->hide();
   FitPreview();
 }
@@ -215,8 +233,15 @@ void frmEfectConfig::Aplicar() {
     return;
   }
   image_.Asignar(Picture1_.picMain);
-  emit Aplicado();
+  if (probado_) {
+    ultimos_[m_.CurrentDialogEffect] = sldEfecto_->value();
+    emit Aplicado(m_.CurrentDialogEffect, Argumento());
+  }
   accept();
+}
+
+std::int32_t frmEfectConfig::Argumento() const {
+  return ArgumentoDelDeslizador(m_.CurrentDialogEffect, sldEfecto_->value());
 }
 
 void frmEfectConfig::FitPreview() {
@@ -230,6 +255,10 @@ void frmEfectConfig::FitPreview() {
     Image1_->setFixedHeight(Proporcion(Image1_->width(), p.height, p.width));
   }
   Image1_->Mostrar(Picture1_.picMain, stretch);
+  antes_->setFixedSize(Image1_->size());
+  const Picture before = Picture1_.picMain.IsEmpty() ? Picture() : image_.picMain;
+  antes_->Mostrar(before, stretch);
+  picDetalle_->Mostrar(before, Picture1_.picMain);
 }
 
 }  // namespace pixmosa

@@ -1,5 +1,9 @@
-// The dialog of the nine configurable effects: a slider, and a preview computed on a picture of its own.
+// The dialog of the nine configurable effects: a slider, and a preview computed on a picture of its own,
+// beside the picture as it is, whole and in a detail. It begins with the value that the effect was last
+// applied with.
 #pragma once
+
+#include <map>
 
 #include <QDialog>
 #include <QTimer>
@@ -14,6 +18,8 @@ class QSlider;
 class QSpinBox;
 
 namespace pixmosa {
+
+class DetalleDeImagen;
 
 // The preview `Image1`: a picture at natural size from the top left, or stretched to the whole widget.
 class ImagenEstirable final : public QWidget {
@@ -50,7 +56,8 @@ class frmEfectConfig final : public QDialog {
   void done(int result) override;
 
  signals:
-  void Aplicado();  // the working picture is the preview now
+  // The working picture is the preview of an effect with a worker's argument now.
+  void Aplicado(int effect, std::int32_t argument);
 
  private:
   void Mostrar();
@@ -61,12 +68,15 @@ class frmEfectConfig final : public QDialog {
   void UnaVista();
   void Aplicar();
   void FitPreview();
+  std::int32_t Argumento() const;
 
   MFiltros& m_;
   ImagenDeTrabajo& image_;
   Dialogs& dialogs_;
   ImagenDeTrabajo Picture1_;  // the working copy that previews are computed on
   ImagenEstirable* Image1_;
+  ImagenEstirable* antes_;
+  DetalleDeImagen* picDetalle_;
   QSlider* sldEfecto_;
   QSpinBox* numEfecto_;
   QLabel* lblEfecto_;
@@ -74,8 +84,9 @@ class frmEfectConfig final : public QDialog {
   QLabel* lblValor_;
   QProgressBar* prgBar1_;
   QtProgress progress_;
-  QTimer retry_;          // while another effect keeps the dispatcher busy
-  bool probado_ = false;  // the slider has been moved since the effect was loaded: the preview shows it
+  QTimer retry_;                // while another effect keeps the dispatcher busy
+  std::map<int, int> ultimos_;  // the value that each effect was last applied with
+  bool probado_ = false;        // the slider has been moved since the effect was loaded: the preview shows it
   bool running_ = false, pending_ = false, applying_ = false;
 };
 

@@ -31,6 +31,10 @@ class Dialogs {
                                const std::string& defaultExtension, const std::string& proposal = {}) = 0;
   virtual std::string ChooseFolder(const std::string& title) = 0;
 
+  // A line of text, which begins as `proposal`; nothing on cancel.
+  virtual std::optional<std::string> AskText(const std::string& text, const std::string& title,
+                                             const std::string& proposal) = 0;
+
   // The chosen colour, or kNoColour on cancel.
   virtual Colour ChooseColour(Colour current) = 0;
   virtual std::optional<FontChoice> ChooseFont(const Font& current) = 0;

@@ -14,6 +14,13 @@ class ErrorDelPrograma : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// The user wants a piece of work no longer: what it was about to change is as it was, and there is nothing to
+// tell.
+class TrabajoCancelado : public ErrorDelPrograma {
+ public:
+  TrabajoCancelado() : ErrorDelPrograma("El trabajo se ha cancelado.") {}
+};
+
 // The sentence for whatever a piece of work has thrown.
 inline std::string FraseDe(const std::exception& e) {
   if (dynamic_cast<const ErrorDelPrograma*>(&e)) return e.what();

@@ -10,7 +10,8 @@ class Progress {
   virtual void Hide() = 0;
   // percent in 0..100.
   virtual void SetValue(int percent) = 0;
-  // Lets the window repaint and events arrive. Handlers may run inside this call.
+  // Lets the window repaint and events arrive. Handlers may run inside this call. Throws TrabajoCancelado
+  // where one of them has cancelled the work.
   virtual void Yield() = 0;
 };
 

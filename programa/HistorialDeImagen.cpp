@@ -1,5 +1,6 @@
 #include "programa/HistorialDeImagen.h"
 
+#include <algorithm>
 #include <set>
 
 #include "programa/Programa.h"
@@ -17,9 +18,24 @@ std::uint64_t Bytes(const std::vector<PasoDeImagen>& steps) {
   return bytes;
 }
 
+std::vector<std::string> OrdenesCon(const HistorialDeImagen& h, const Picture& picture,
+                                    const std::vector<std::string>& words) {
+  std::vector<std::string> all;
+  if (words.empty()) {
+    const auto same = [&](const PasoDeImagen& s) { return s.imagen.picMain.Pixels() == picture.Pixels(); };
+    const auto step = std::find_if(h.pasos.rbegin(), h.pasos.rend(), same);
+    if (step != h.pasos.rend()) all = step->ordenes;
+  } else {
+    if (!h.pasos.empty()) all = h.pasos.back().ordenes;
+    all.insert(all.end(), words.begin(), words.end());
+  }
+  return all;
+}
+
 }  // namespace
 
-void AnotarPaso(Programa& p, const std::string& name, std::uint64_t mostBytes) {
+void AnotarPaso(Programa& p, const std::string& name, const std::vector<std::string>& words,
+                std::uint64_t mostBytes) {
   HistorialDeImagen& h = p.historial;
   if (!HayImagen(p)) return;
   if (!h.pasos.empty()) {
@@ -30,7 +46,7 @@ void AnotarPaso(Programa& p, const std::string& name, std::uint64_t mostBytes) {
     }
     h.pasos.resize(h.actual + 1);
   }
-  h.pasos.push_back({name, p.imagen, p.archivo});
+  h.pasos.push_back({name, p.imagen, p.archivo, OrdenesCon(h, p.imagen.picMain, words)});
   while (h.pasos.size() > 2 && (h.pasos.size() > kMasPasosDeImagen || Bytes(h.pasos) > mostBytes))
     h.pasos.erase(h.pasos.begin());
   h.actual = h.pasos.size() - 1;

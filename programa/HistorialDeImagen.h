@@ -16,7 +16,8 @@ struct Programa;
 struct PasoDeImagen {
   std::string nombre;  // UTF-8, as the list shows it
   ImagenDeTrabajo imagen;
-  std::filesystem::path archivo;  // that the picture came from
+  std::filesystem::path archivo;       // that the picture came from
+  std::vector<std::string> ordenes{};  // what made it out of the loaded one, as PasoDe reads them
 };
 
 struct HistorialDeImagen {
@@ -29,8 +30,10 @@ inline constexpr std::size_t kMasPasosDeImagen = 1000;
 inline constexpr std::uint64_t kMasBytesDeHistorial = std::uint64_t{1} << 30;
 
 // Notes the working picture as a new step, in place of those that were undone; nothing where it is the same
-// as before.
-void AnotarPaso(Programa& p, const std::string& name, std::uint64_t mostBytes = kMasBytesDeHistorial);
+// as before. `words` made it out of the picture of the step before; without any it is a picture that was
+// there already, or a loaded one.
+void AnotarPaso(Programa& p, const std::string& name, const std::vector<std::string>& words = {},
+                std::uint64_t mostBytes = kMasBytesDeHistorial);
 
 bool PuedeDeshacerPaso(const Programa& p);
 bool PuedeRehacerPaso(const Programa& p);

@@ -45,6 +45,7 @@ frmEstadisticas::frmEstadisticas(std::string_view text, Shell& shell, QWidget* p
   setObjectName("frmEstadisticas");
   setWindowTitle(QStringLiteral("Estadisticas del Ascii Art"));
   lsvEstadistica_ = named<QTreeWidget>("lsvEstadistica");
+  lsvEstadistica_->setAccessibleName(windowTitle());
   lsvEstadistica_->setFont(QtFontOf({"Lucida Console", 10}));
   lsvEstadistica_->setHeaderLabels({QStringLiteral("Item"), QStringLiteral("Número")});
   lsvEstadistica_->setRootIsDecorated(false);

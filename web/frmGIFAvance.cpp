@@ -17,6 +17,7 @@ frmGIFAvance::frmGIFAvance(BasGif& gif, PictureCodec& pictures, QWidget* parent)
   setObjectName("frmGIFAvance");
   setWindowTitle(QStringLiteral("Propiedades avanzadas del AnimArt"));
   lstwGIF_ = named<QListWidget>("lstwGIF");
+  lstwGIF_->setAccessibleName(QStringLiteral("Fotogramas"));
   lstwGIF_->setToolTip(QStringLiteral("Los fotogramas marcados forman la animación"));
   imgGIFPreview_ = named<QLabel>("imgGIFPreview");
   imgGIFPreview_->setAlignment(Qt::AlignCenter);

@@ -8,12 +8,14 @@
 
 namespace pixmosa {
 
-// True where the work was done; false after the message.
+// True where the work was done; false after the message, and for cancelled work.
 template <typename Work>
 bool Intentar(Dialogs& dialogs, const Work& work, const std::string& title = {}) {
   try {
     work();
     return true;
+  } catch (const TrabajoCancelado&) {
+    return false;
   } catch (const std::exception& e) {
     dialogs.Fail(FraseDe(e), title);
     return false;

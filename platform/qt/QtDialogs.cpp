@@ -5,8 +5,10 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardPaths>
 
 #include "platform/qt/QtFont.h"
 #include "platform/qt/QtText.h"
@@ -45,28 +47,48 @@ QWidget* QtDialogs::Encima() const {
   return active && active->isVisible() ? active : owner_.data();
 }
 
+QString QtDialogs::Donde() const {
+  return QFileInfo(carpeta_).isDir() ? carpeta_
+                                     : QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+}
+
+std::string QtDialogs::Elegido(const QString& file) {
+  if (!file.isEmpty()) carpeta_ = QFileInfo(file).absolutePath();
+  return file.toStdString();
+}
+
 std::string QtDialogs::OpenFile(const std::string& title, const std::string& filter) {
-  return QFileDialog::getOpenFileName(Encima(), Q(title), {}, QtFilterOf(filter)).toStdString();
+  return Elegido(QFileDialog::getOpenFileName(Encima(), Q(title), Donde(), QtFilterOf(filter)));
 }
 
 std::vector<std::string> QtDialogs::OpenFiles(const std::string& title, const std::string& filter) {
   std::vector<std::string> files;
-  for (const QString& file : QFileDialog::getOpenFileNames(Encima(), Q(title), {}, QtFilterOf(filter)))
-    files.push_back(file.toStdString());
+  for (const QString& file : QFileDialog::getOpenFileNames(Encima(), Q(title), Donde(), QtFilterOf(filter)))
+    files.push_back(Elegido(file));
   return files;
 }
 
 std::string QtDialogs::SaveFile(const std::string& title, const std::string& filter,
                                 const std::string& defaultExtension, const std::string& proposal) {
-  QFileDialog dialog(Encima(), Q(title), {}, QtFilterOf(filter));
+  QFileDialog dialog(Encima(), Q(title), Donde(), QtFilterOf(filter));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(Q(defaultExtension));
   if (!proposal.empty()) dialog.selectFile(Q(proposal));
-  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0).toStdString() : std::string();
+  return dialog.exec() == QDialog::Accepted ? Elegido(dialog.selectedFiles().value(0)) : std::string();
 }
 
 std::string QtDialogs::ChooseFolder(const std::string& title) {
-  return QFileDialog::getExistingDirectory(Encima(), Q(title)).toStdString();
+  const QString folder = QFileDialog::getExistingDirectory(Encima(), Q(title), Donde());
+  if (!folder.isEmpty()) carpeta_ = folder;
+  return folder.toStdString();
+}
+
+std::optional<std::string> QtDialogs::AskText(const std::string& text, const std::string& title,
+                                              const std::string& proposal) {
+  bool accepted = false;
+  const QString answer =
+      QInputDialog::getText(Encima(), Q(title), Q(text), QLineEdit::Normal, Q(proposal), &accepted);
+  return accepted ? std::optional(answer.trimmed().toStdString()) : std::nullopt;
 }
 
 Colour QtDialogs::ChooseColour(Colour current) {

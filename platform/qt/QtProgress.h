@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QProgressBar>
+#include <QPushButton>
 
 #include "platform/Progress.h"
 
@@ -14,17 +15,25 @@ namespace pixmosa {
 class QtProgress final : public Progress {
  public:
   explicit QtProgress(QProgressBar* bar) : bar_(bar) {}
+
+  // Appears beside the bar where the work takes longer than a moment, and cancels it.
+  void PonerBoton(QPushButton* cancel);
   void Show() override;
   void Hide() override;
   void SetValue(int percent) override;
   void Yield() override;
+
+  // The next yield of the work that runs throws TrabajoCancelado.
+  void Cancelar() { cancelado_ = true; }
 
   // Shows the bar as it is now, before work that does not yield.
   void Repintar();
 
  private:
   QPointer<QProgressBar> bar_;
-  QElapsedTimer since_;
+  QPointer<QPushButton> boton_;
+  QElapsedTimer since_, desdeElPrincipio_;
+  bool cancelado_ = false;
 };
 
 }  // namespace pixmosa

@@ -8,10 +8,13 @@
 #include "programa/Comparacion.h"
 #include "programa/Fotografia.h"
 #include "programa/Generar.h"
+#include "programa/Opciones.h"
+#include "programa/Recetas.h"
 #include "tests/support/DrawnPicture.h"
 #include "tests/support/FakePictureCodec.h"
 #include "tests/support/FakeTextSurface.h"
 #include "tests/support/Gif.h"
+#include "tests/support/Noise.h"
 #include "tests/support/TestFolder.h"
 
 using namespace pixmosa;
@@ -155,11 +158,76 @@ TEST_F(ProgramaTest, HistoryGoesBackAndForthAndIsBounded) {
   // Three pictures of 4 bytes each at most: the oldest go.
   for (int i = 0; i < 5; ++i) {
     p.imagen.Cargar(Grays({{100 + i}}));
-    AnotarPaso(p, "Cargar", 12);
+    AnotarPaso(p, "Cargar", {}, 12);
   }
   EXPECT_EQ(p.historial.pasos.size(), 3U);
   IrAlPaso(p, 0);
   EXPECT_EQ(now(), 102);
+}
+
+// What a session with the picture has done is a recipe, and says so after undoing and reloading too.
+TEST_F(ProgramaTest, RecipesHoldWhatMadeThePictureAndMakeItAgain) {
+  using Words = std::vector<std::string>;
+  NoProgress quiet;
+  const auto step = [&](const std::string& word) {
+    DarPaso(p.mFiltros, p.imagen, *PasoDe(word), quiet);
+    AnotarPaso(p, word, {PalabraDe(*PasoDe(word))});
+  };
+  p.imagen.Cargar(Grays({{10, 20, 30}, {40, 50, 60}}));
+  AnotarPaso(p, "Cargar");
+  step("2");
+  step("18=230");
+  EXPECT_EQ(PasosDados(p), (Words{"negativo", "metodo-1=230"}));
+  p.imagen.Deshacer();
+  AnotarPaso(p, "Deshacer cambios");
+  EXPECT_EQ(PasosDados(p), Words{"negativo"});
+  step("girar-90");
+  step("recortar=0,1,2,2");
+  step("16=2");
+  const Words all = {"negativo", "girar-90", "recortar=0,1,2,2", "intercambiar-rgb=2"};
+  EXPECT_EQ(PasosDados(p), all);
+  const std::filesystem::path recipes = folder.Path() / "aún no está";
+  EXPECT_TRUE(RecetasGuardadas(recipes).empty());
+  GuardarReceta(recipes, "receta 10", all);
+  GuardarReceta(recipes, "receta 2", {"negativo"});
+  EXPECT_EQ(RecetasGuardadas(recipes), (Words{"receta 2", "receta 10"}));
+  for (const char* bad : {"", "a/b", ".oculta", "con\nsalto"})
+    EXPECT_THROW(GuardarReceta(recipes, bad, all), ErrorDelPrograma) << bad;
+  const Picture made = p.imagen.picMain;
+  const Picture loaded = Grays({{10, 20, 30}, {40, 50, 60}});
+  p.imagen.Cargar(loaded);
+  AnotarPaso(p, "Cargar");
+  EXPECT_TRUE(PasosDados(p).empty()) << "another picture, nothing done to it";
+  DarPasos(p, LeerReceta(SitioDeReceta(recipes, "receta 10")), quiet);
+  EXPECT_TRUE(test::Same(p.imagen.picMain, made));
+  EXPECT_TRUE(test::Same(p.imagen.picUndo, loaded)) << "one undo for all of them";
+  // A step that cannot be leaves everything.
+  EXPECT_THROW(DarPasos(p, PasosDeReceta("negativo\nrecortar=9,9,9,9\n", "r"), quiet), ErrorDelPrograma);
+  EXPECT_TRUE(test::Same(p.imagen.picMain, made));
+}
+
+TEST_F(ProgramaTest, OptionsComeBackFromTheirText) {
+  p.ajustes.palette = 0;
+  const std::string first = TextoDeOpciones(p);
+  p.modo = kModoMosaico;
+  p.ajustes.font = {"Una fuente", 11};
+  p.columnas = 77;
+  p.ajustes.formas.ajustarTono = false;
+  p.basAscii.CountedColour = kBlack;
+  p.fondoWeb = 0x030201;
+  p.ajustesWeb.textoPaleta = "a\xF1o";
+  PonerCaracteres(p, "áé#");
+  PonerProporcion(p, 1.92);
+  const std::string text = TextoDeOpciones(p);
+  PonerOpcionesDeFabrica(p);
+  EXPECT_EQ(TextoDeOpciones(p), first);
+  LeerOpciones(p, text);
+  EXPECT_EQ(TextoDeOpciones(p), text);
+  EXPECT_EQ(p.basWeb.Fondo, "#010203");
+  EXPECT_EQ(p.basAscii.Proporcion, 1.92);
+  // What is wrong or unknown changes nothing.
+  LeerOpciones(p, "modo=6\ntamaño=0\ntamaño\nproporcion=nan\nfuente=\nfondo=-1\n=3\notra=1\ncolumnas=1e9");
+  EXPECT_EQ(TextoDeOpciones(p), text);
 }
 
 TEST_F(ProgramaTest, WhatPlayRuns) {

@@ -32,8 +32,9 @@ struct MainWindow {
   Programa program{surface, pictures, ProgramFolder()};
   frmMain window{Ready(program), {dialogs, shell, registry}};
 
-  // `fontFolder`: of FIGlet fonts; an empty one by default.
-  explicit MainWindow(std::filesystem::path fontFolder = {}) : fonts(std::move(fontFolder)) {
+  // `fontFolder`: of FIGlet fonts; an empty one by default. `before`: what earlier runs have remembered.
+  explicit MainWindow(std::filesystem::path fontFolder = {}, FakeRegistry before = {})
+      : fonts(std::move(fontFolder)), registry(std::move(before)) {
     window.show();
     [[maybe_unused]] const bool shown = QTest::qWaitForWindowExposed(&window);
   }

@@ -20,6 +20,7 @@ class RecordingDialogs final : public Dialogs {
   std::deque<Colour> colours;
   std::deque<FontChoice> fonts;
   std::deque<bool> answers;
+  std::deque<std::string> textos;    // to AskText
   std::deque<Respuesta> respuestas;  // to AskToSave
 
   std::string OpenFile(const std::string& title, const std::string& filter) override {
@@ -36,6 +37,12 @@ class RecordingDialogs final : public Dialogs {
     return Path("SaveFile|" + title + "|" + filter + "|" + extension);
   }
   std::string ChooseFolder(const std::string& title) override { return Path("ChooseFolder|" + title); }
+  std::optional<std::string> AskText(const std::string& text, const std::string& title,
+                                     const std::string& proposal) override {
+    const bool any = !textos.empty();
+    const std::string answer = Take(textos, {}, "AskText|" + title + "|" + text + "|" + proposal);
+    return any ? std::optional(answer) : std::nullopt;
+  }
   Colour ChooseColour(Colour current) override {
     return Take(colours, kNoColour, "ChooseColour|" + std::to_string(current));
   }
