@@ -1,6 +1,9 @@
 #include "tools/letras/Estilos.h"
 
-#include "tools/letras/Maestra.h"
+#include <algorithm>
+#include <string>
+
+#include "tools/letras/Mapa.h"
 
 namespace pixmosa::letras {
 namespace {
@@ -8,29 +11,12 @@ namespace {
 // The characters of two by two pixels, see Cuartear.
 constexpr std::string_view kCuartos = " .,m'|/d`\\|b\"qP8";
 
-// With the blank that parts it from the next letter.
-Mapa Spaced(const Mapa& m, int columns = 1) {
-  return Orlar(m, 0, 0, columns, 0);
+Filas Drawn(const Filas& shape, int /*code*/) {
+  return shape;
 }
 
-Filas Padded(Filas rows, std::size_t columns = 1) {
-  for (std::string& row : rows) row.append(columns, ' ');
-  return rows;
-}
-
-// The letter itself as ink; those that would not be seen give place to one that is like them.
-char OwnInk(int code) {
-  return code == '$' ? 'S' : code == 0xAD ? '-' : static_cast<char>(code);
-}
-
-// The first row of the ink heavy, the last light.
-char Dusk(int /*x*/, int y) {
-  constexpr std::string_view kInk = "@@@M%#*+=-:.";
-  return kInk[static_cast<std::size_t>(y)];
-}
-
-char Brick(int x, int y) {
-  return x % 4 == (y % 2 ? 3 : 1) ? '|' : '_';
+Filas AllOf(const Filas& shape, char ink) {
+  return Tramar(DeTinta(shape), [ink](int, int) { return ink; });
 }
 
 // A thick letter with an edge of "#" and hatching within.
@@ -44,109 +30,71 @@ Filas Hatched(const Mapa& m) {
   return rows;
 }
 
-// Leaning, with a trail behind the first stroke of every row.
-Filas Fast(const Mapa& m) {
-  Filas rows = Sellar(Orlar(Inclinar(Ampliar(m, 2, 1), 2), 3, 0, 1, 0), "#", " ");
-  for (std::string& row : rows)
-    if (const std::size_t first = row.find('#'); first != std::string::npos) row.replace(first - 3, 2, "--");
-  return rows;
-}
-
-Filas Tile(const Mapa& m) {
-  const Filas rows = Sellar(Orlar(m, 1, 0, 1, 0), "#", " ");
-  return Padded(Enmarcar(rows));
+// A key with the letter itself; "$" would be a blank.
+Filas Key(int code) {
+  const std::string face = code == '$' ? "S|" : std::string(1, code == 0xAD ? '-' : static_cast<char>(code));
+  const std::string edge(face.size() + 2, '-'), foot(face.size() + 2, '_');
+  return {"." + edge + ".", "| " + face + " |", "|" + foot + "|", "'" + edge + "'"};
 }
 
 }  // namespace
 
 const std::vector<Estilo> kEstilos = {
-    {"Bloque", "Macizas", "Lisas", "letras macizas de proporciones normales",
-     [](const Mapa& m, int) { return Sellar(Spaced(m), "##", "  "); }},
-    {"Sencilla", "Macizas", "Lisas", "un carácter por punto",
-     [](const Mapa& m, int) { return Sellar(Spaced(m), "#", " "); }},
-    {"Gruesa", "Macizas", "Lisas", "trazo vertical doble",
-     [](const Mapa& m, int) { return Sellar(Spaced(Engrosar(Ampliar(m, 2, 1)), 2), "M", " "); }},
-    {"Redonda", "Macizas", "Curvas", "contornos redondeados con ochos",
-     [](const Mapa& m, int) { return Doblar(Suavizar(Spaced(m)), " o\"8"); }},
-    {"Suave", "Macizas", "Curvas", "esquinas suavizadas con letras",
-     [](const Mapa& m, int) { return Cuartear(Suavizar(Suavizar(Spaced(m))), kCuartos); }},
-    {"Muro", "Texturas", "Materiales", "ladrillos",
-     [](const Mapa& m, int) { return Tramar(Ampliar(Spaced(m), 4, 2), Brick); }},
-    {"Bordada", "Texturas", "Materiales", "punto de cruz",
-     [](const Mapa& m, int) { return Sellar(Spaced(m), "><", "  "); }},
-    {"Ocaso", "Texturas", "Tramas", "tinta que se aclara hacia abajo",
-     [](const Mapa& m, int) { return Tramar(Ampliar(Spaced(m), 2, 1), Dusk); }},
-    {"Ajedrez", "Texturas", "Tramas", "cuadros alternos",
-     [](const Mapa& m, int) {
-       return Tramar(Ampliar(Spaced(m), 4, 2), [](int x, int y) { return (x / 2 + y) % 2 ? '#' : '.'; });
-     }},
-    {"Rayada", "Texturas", "Tramas", "borde grueso y rayas dentro",
-     [](const Mapa& m, int) { return Padded(Hatched(m)); }},
-    {"Binaria", "Texturas", "Signos", "ceros y unos",
-     [](const Mapa& m, int) {
-       return Tramar(Ampliar(Spaced(m), 2, 1), [](int x, int y) { return (x * 7 + y * 5) % 3 ? '0' : '1'; });
-     }},
-    {"Propia", "Texturas", "Signos", "cada letra dibujada con ella misma",
-     [](const Mapa& m, int code) { return Sellar(Spaced(m), std::string(2, OwnInk(code)), "  "); }},
-    {"Perfil", "Contornos", "Finos", "contorno de líneas", [](const Mapa& m, int) { return Perfilar(m, 2); }},
-    {"Filo", "Contornos", "Finos", "contorno de líneas estrecho",
-     [](const Mapa& m, int) { return Perfilar(m, 1); }},
-    {"Trazo", "Contornos", "Finos", "letras de un solo trazo",
-     [](const Mapa& m, int) { return Padded(Trazar(m), 2); }},
-    {"Hueca", "Contornos", "Gruesos", "letras vacías de borde grueso",
-     [](const Mapa& m, int) { return Padded(Sellar(Halo(Orlar(Ampliar(m, 2, 1), 1, 1, 1, 1)), "#", " ")); }},
-    {"Globo", "Contornos", "Gruesos", "letras vacías y redondas",
-     [](const Mapa& m, int) { return Doblar(Halo(Orlar(Suavizar(Ampliar(m, 2, 2)), 1, 2, 1, 2)), " .':"); }},
-    {"Sombra", "Relieve", "Sombras", "sombra abajo a la derecha",
-     [](const Mapa& m, int) {
-       return Padded(Apilar(Ampliar(m, 2, 1), {{1, 1, ':'}, {0, 0, '#'}}));
-     }},
-    {"Eco", "Relieve", "Sombras", "dos ecos que se apagan",
-     [](const Mapa& m, int) {
-       return Padded(Apilar(Ampliar(m, 3, 2), {{4, 2, '.'}, {2, 1, ':'}, {0, 0, '#'}}));
-     }},
-    {"Relieve", "Relieve", "Volumen", "luz y sombra alrededor de la letra",
-     [](const Mapa& m, int) {
-       return Apilar(Ampliar(m, 4, 2), {{-1, -1, '.'}, {1, 1, '#'}, {0, 0, ' '}});
-     }},
-    {"Cubo", "Relieve", "Volumen", "letras con fondo",
-     [](const Mapa& m, int) {
-       return Padded(Apilar(Ampliar(m, 3, 2), {{2, -2, '/'}, {1, -1, '/'}, {0, 0, '#'}}));
-     }},
-    {"Cursiva", "Inclinadas", "Adelante", "inclinada a la derecha",
-     [](const Mapa& m, int) { return Sellar(Inclinar(Spaced(m), 4), "//", "  "); }},
-    {"Veloz", "Inclinadas", "Adelante", "inclinada y con estela", [](const Mapa& m, int) { return Fast(m); }},
-    {"Recostada", "Inclinadas", "Atrás", "inclinada a la izquierda",
-     [](const Mapa& m, int) { return Sellar(Inclinar(Spaced(m), -4), "\\\\", "  "); }},
-    {"Chica", "Tamaños", "Pequeñas", "la mitad de alta, con puntos",
-     [](const Mapa& m, int) { return Doblar(Spaced(m), " .':"); }},
-    {"Nota", "Tamaños", "Pequeñas", "la mitad de alta, inclinada",
-     [](const Mapa& m, int) { return Doblar(Inclinar(Spaced(m), 4), " ,\"#"); }},
-    {"Gigante", "Tamaños", "Grandes", "el doble, con esquinas cortadas",
-     [](const Mapa& m, int) { return Sellar(Suavizar(Spaced(m)), "##", "  "); }},
-    {"Alta", "Tamaños", "Grandes", "el doble de alta",
-     [](const Mapa& m, int) { return Sellar(Ampliar(Spaced(m), 1, 2), "||", "  "); }},
-    {"Ancha", "Tamaños", "Grandes", "el doble de ancha",
-     [](const Mapa& m, int) { return Sellar(Spaced(m), "====", "    "); }},
-    {"Puntos", "Puntos", "Luces", "bombillas sueltas",
-     [](const Mapa& m, int) { return Sellar(Spaced(m), "o ", "  "); }},
-    {"Estrellas", "Puntos", "Luces", "estrellas sueltas",
-     [](const Mapa& m, int) {
-       return Tramar(Ampliar(Spaced(m), 4, 2), [](int x, int y) { return (x + 2 * y) % 4 ? ' ' : '*'; });
-     }},
-    {"Perlas", "Puntos", "Hilos", "perlas en hilos",
-     [](const Mapa& m, int) {
-       Filas rows = Padded(Trazar(m), 2);
-       for (std::size_t y = 0; y < rows.size(); ++y)
-         for (std::size_t x = 0; x < rows[y].size(); x += 2)
-           if (rows[y][x] != ' ') rows[y][x] = 'O';
+    {"Redonda", "Macizas", "Curvas", "contornos redondeados con ochos", "Palo", Margen, 2,
+     [](const Filas& f, int) { return Doblar(Suavizar(DeTinta(f)), " o\"8"); }},
+    {"Suave", "Macizas", "Curvas", "esquinas suavizadas con letras", "Palo", Margen, 2,
+     [](const Filas& f, int) { return Cuartear(Suavizar(Suavizar(DeTinta(f))), kCuartos); }},
+    {"Cartel", "Macizas", "Anchas", "ancha y negra, para verse de lejos", "Cartel", Margen, 2, Drawn},
+    {"Gigante", "Macizas", "Anchas", "el doble, con esquinas cortadas", "Palo", Margen, 3,
+     [](const Filas& f, int) { return Sellar(Suavizar(DeTinta(f)), "##", "  "); }},
+    {"Romana", "Clásicas", "Libro", "de imprenta, con remates", "Romana", Margen, 1,
+     [](const Filas& f, int) { return AllOf(f, '8'); }},
+    {"Colegial", "Clásicas", "Libro", "con remates, solo su contorno", "Romana", Pared, 0,
+     [](const Filas& f, int) { return Perfilar(DeTinta(f), 1); }},
+    {"Gótica", "Clásicas", "Pluma", "de códice, con plumadas", "Gótica", Margen, 1,
+     [](const Filas& f, int) {
+       Filas rows = f;
+       for (std::string& row : rows) std::replace(row.begin(), row.end(), '#', '8');
        return rows;
      }},
-    {"Marcador", "Carteles", "Tableros", "luces sobre un tablero de puntos",
-     [](const Mapa& m, int) { return Sellar(Orlar(m, 1, 0, 1, 0), "O ", ". "); }},
-    {"Fichas", "Carteles", "Tableros", "cada letra en su ficha", [](const Mapa& m, int) { return Tile(m); }},
-    {"Negativa", "Carteles", "Fondos", "letras claras sobre fondo oscuro",
-     [](const Mapa& m, int) { return Sellar(Orlar(m, 1, 1, 1, 1), "  ", "##"); }},
+    {"Pluma", "Clásicas", "Pluma", "escrita a mano, letras enlazadas", "Pluma", Enlace, 0, Drawn},
+    {"Compacta", "Líneas", "Pequeñas", "cuatro filas, trazo redondo", "Compacta", Margen, 1, Drawn},
+    {"Menuda", "Líneas", "Pequeñas", "tres filas y nada más", "Menuda", Margen, 1, Drawn},
+    {"Inclinada", "Líneas", "Finas", "trazo fino hacia delante", "Inclinada", Margen, 1, Drawn},
+    {"Líneas", "Líneas", "Finas", "trazo fino y recto con esquinas", "Líneas", Margen, 1, Drawn},
+    {"Neón", "Líneas", "Dobles", "tubos dobles", "Palo", Margen, 2,
+     [](const Filas& f, int) { return Trazar(DeTinta(f)); }},
+    {"Píxel", "Puntos", "Cuadros", "pocos puntos y cuadrados", "Píxel", Margen, 2,
+     [](const Filas& f, int) { return Sellar(DeTinta(f), "[]", "  "); }},
+    {"Media", "Puntos", "Cuadros", "dos puntos en cada carácter", "Palo", Margen, 1,
+     [](const Filas& f, int) { return Doblar(DeTinta(f), " m\"#"); }},
+    {"Marcador", "Puntos", "Tableros", "luces sobre un tablero de puntos", "Palo", Margen, 0,
+     [](const Filas& f, int) { return Sellar(Orlar(DeTinta(f), 1, 0, 1, 0), "O ", ". "); }},
+    {"Plantilla", "Carteles", "Cortadas", "cortada con plantilla", "Plantilla", Margen, 2, Drawn},
+    {"Negativa", "Carteles", "Fondos", "letras claras sobre fondo oscuro", "Palo", Margen, 0,
+     [](const Filas& f, int) { return Sellar(Orlar(DeTinta(f), 1, 1, 1, 1), "  ", "##"); }},
+    {"Teclas", "Carteles", "Fondos", "cada letra en su tecla", "Palo", Margen, 0,
+     [](const Filas&, int code) { return Key(code); }},
+    {"Perfil", "Contornos", "Finos", "contorno de líneas", "Píxel", Pared, 0,
+     [](const Filas& f, int) { return Perfilar(DeTinta(f), 2); }},
+    {"Toldo", "Contornos", "Finos", "contorno con sombra", "Palo", Margen, 0,
+     [](const Filas& f, int) { return Sombrear(DeTinta(f), 2); }},
+    {"Globo", "Contornos", "Gruesos", "letras vacías y redondas", "Palo", Margen, 0,
+     [](const Filas& f, int) {
+       return Doblar(Halo(Orlar(Suavizar(Ampliar(DeTinta(f), 2, 2)), 1, 2, 1, 2)), " .':");
+     }},
+    {"Rayada", "Contornos", "Gruesos", "borde grueso y rayas dentro", "Palo", Margen, 1,
+     [](const Filas& f, int) { return Hatched(DeTinta(f)); }},
+    {"Sombra", "Relieve", "Sombras", "sombra abajo a la derecha", "Palo", Margen, 1,
+     [](const Filas& f, int) { return Apilar(Ampliar(DeTinta(f), 2, 1), {{1, 1, ':'}, {0, 0, '#'}}); }},
+    {"Eco", "Relieve", "Sombras", "dos ecos que se apagan", "Palo", Margen, 1,
+     [](const Filas& f, int) {
+       return Apilar(Ampliar(DeTinta(f), 3, 2), {{4, 2, '.'}, {2, 1, ':'}, {0, 0, '#'}});
+     }},
+    {"Cubo", "Relieve", "Volumen", "letras con fondo", "Palo", Margen, 1,
+     [](const Filas& f, int) {
+       return Apilar(Ampliar(DeTinta(f), 3, 2), {{2, -2, '/'}, {1, -1, '/'}, {0, 0, '#'}});
+     }},
 };
 
 }  // namespace pixmosa::letras

@@ -1,6 +1,7 @@
 #include "tools/letras/Pintar.h"
 
 #include <algorithm>
+#include <array>
 
 namespace pixmosa::letras {
 namespace {
@@ -88,6 +89,16 @@ Filas Perfilar(const Mapa& m, int inside) {
   });
 }
 
+Filas Sombrear(const Mapa& m, int inside) {
+  const int pitch = inside + 1;
+  const Filas outline = Perfilar(Orlar(m, 0, 0, 1, 1), inside);
+  return Paint(static_cast<int>(outline[0].size()), static_cast<int>(outline.size()), [&](int x, int y) {
+    const char c = outline[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
+    const bool shade = !m.At(x / pitch, y - 1) && x >= 2 && m.At((x - 2) / pitch, y - 2);
+    return c == ' ' && shade ? ':' : c;
+  });
+}
+
 Filas Doblar(const Mapa& m, std::string_view chars) {
   return Paint(m.Width(), m.Height() / 2, [&](int x, int y) {
     return chars[static_cast<std::size_t>(m.At(x, 2 * y) * 2 + m.At(x, 2 * y + 1))];
@@ -103,20 +114,11 @@ Filas Cuartear(const Mapa& m, std::string_view chars) {
 }
 
 Filas Trazar(const Mapa& m) {
-  return Paint(2 * m.Width() - 1, m.Height(), [&](int i, int y) {
-    const int x = i / 2;
-    if (i % 2 == 0) return Joint(m, x, y);
-    const bool bends = (Bend(m, x, y) && Upright(m, x + 1, y)) || (Bend(m, x + 1, y) && Upright(m, x, y));
-    return m.At(x, y) && m.At(x + 1, y) && !bends ? '-' : ' ';
+  constexpr std::string_view kJoints = " -|+/\\VXo";
+  constexpr std::array<std::string_view, 9> kPairs = {"  ", "==", "||", "||", "//", "\\\\", "\\/", "><", "()"};
+  return Paint(2 * m.Width(), m.Height(), [&](int i, int y) {
+    return kPairs[kJoints.find(Joint(m, i / 2, y))][static_cast<std::size_t>(i % 2)];
   });
-}
-
-Filas Enmarcar(const Filas& rows) {
-  const std::string edge = "+" + std::string(rows.at(0).size(), '-') + "+";
-  Filas framed{edge};
-  for (const std::string& row : rows) framed.push_back("|" + row + "|");
-  framed.push_back(edge);
-  return framed;
 }
 
 }  // namespace pixmosa::letras
