@@ -15,6 +15,14 @@ Filas Drawn(const Filas& shape, int /*code*/) {
   return shape;
 }
 
+// Written in one go: only what is not a small letter keeps apart.
+Filas Joined(const Filas& shape, int code) {
+  Filas rows = shape;
+  if (!(code >= 'a' && code <= 'z') && code < 0xDF)
+    for (std::string& row : rows) row += ' ';
+  return rows;
+}
+
 Filas AllOf(const Filas& shape, char ink) {
   return Tramar(DeTinta(shape), [ink](int, int) { return ink; });
 }
@@ -33,8 +41,8 @@ Filas Hatched(const Mapa& m) {
 // A key with the letter itself; "$" would be a blank.
 Filas Key(int code) {
   const std::string face = code == '$' ? "S|" : std::string(1, code == 0xAD ? '-' : static_cast<char>(code));
-  const std::string edge(face.size() + 2, '-'), foot(face.size() + 2, '_');
-  return {"." + edge + ".", "| " + face + " |", "|" + foot + "|", "'" + edge + "'"};
+  const std::string edge(face.size() + 4, '-');
+  return {"." + edge + ".", "|  " + face + "  |", "'" + edge + "'"};
 }
 
 }  // namespace
@@ -42,28 +50,27 @@ Filas Key(int code) {
 const std::vector<Estilo> kEstilos = {
     {"Redonda", "Macizas", "Curvas", "contornos redondeados con ochos", "Palo", Margen, 2,
      [](const Filas& f, int) { return Doblar(Suavizar(DeTinta(f)), " o\"8"); }},
-    {"Suave", "Macizas", "Curvas", "esquinas suavizadas con letras", "Palo", Margen, 2,
+    {"Suave", "Macizas", "Curvas", "esquinas suavizadas con letras", "Píxel", Margen, 2,
      [](const Filas& f, int) { return Cuartear(Suavizar(Suavizar(DeTinta(f))), kCuartos); }},
     {"Cartel", "Macizas", "Anchas", "ancha y negra, para verse de lejos", "Cartel", Margen, 2, Drawn},
-    {"Gigante", "Macizas", "Anchas", "el doble, con esquinas cortadas", "Palo", Margen, 3,
-     [](const Filas& f, int) { return Sellar(Suavizar(DeTinta(f)), "##", "  "); }},
+    {"Gigante", "Macizas", "Anchas", "enorme y gruesa, con esquinas cortadas", "Palo", Margen, 2,
+     [](const Filas& f, int) { return Sellar(Engrosar(Suavizar(DeTinta(f))), "##", "  "); }},
     {"Romana", "Clásicas", "Libro", "de imprenta, con remates", "Romana", Margen, 1,
      [](const Filas& f, int) { return AllOf(f, '8'); }},
     {"Colegial", "Clásicas", "Libro", "con remates, solo su contorno", "Romana", Pared, 0,
      [](const Filas& f, int) { return Perfilar(DeTinta(f), 1); }},
-    {"Gótica", "Clásicas", "Pluma", "de códice, con plumadas", "Gótica", Margen, 1,
+    {"Gótica", "Clásicas", "Pluma", "de códice, con plumadas", "Gótica", Margen, 2,
      [](const Filas& f, int) {
        Filas rows = f;
        for (std::string& row : rows) std::replace(row.begin(), row.end(), '#', '8');
        return rows;
      }},
-    {"Pluma", "Clásicas", "Pluma", "escrita a mano, letras enlazadas", "Pluma", Enlace, 0, Drawn},
+    {"Pluma", "Clásicas", "Pluma", "escrita a mano, letras enlazadas", "Pluma", Enlace, 0, Joined},
     {"Compacta", "Líneas", "Pequeñas", "cuatro filas, trazo redondo", "Compacta", Margen, 1, Drawn},
     {"Menuda", "Líneas", "Pequeñas", "tres filas y nada más", "Menuda", Margen, 1, Drawn},
     {"Inclinada", "Líneas", "Finas", "trazo fino hacia delante", "Inclinada", Margen, 1, Drawn},
     {"Líneas", "Líneas", "Finas", "trazo fino y recto con esquinas", "Líneas", Margen, 1, Drawn},
-    {"Neón", "Líneas", "Dobles", "tubos dobles", "Palo", Margen, 2,
-     [](const Filas& f, int) { return Trazar(DeTinta(f)); }},
+    {"Neón", "Líneas", "Dobles", "tubos dobles", "Neón", Margen, 2, Drawn},
     {"Píxel", "Puntos", "Cuadros", "pocos puntos y cuadrados", "Píxel", Margen, 2,
      [](const Filas& f, int) { return Sellar(DeTinta(f), "[]", "  "); }},
     {"Media", "Puntos", "Cuadros", "dos puntos en cada carácter", "Palo", Margen, 1,
@@ -72,6 +79,7 @@ const std::vector<Estilo> kEstilos = {
      [](const Filas& f, int) { return Sellar(Orlar(DeTinta(f), 1, 0, 1, 0), "O ", ". "); }},
     {"Torre", "Carteles", "Altas", "alta y estrecha", "Torre", Margen, 3, Drawn},
     {"Salón", "Carteles", "Altas", "de baile: trazos de rayas y de hilo", "Salón", Margen, 2, Drawn},
+    {"Oeste", "Carteles", "Cortadas", "de cartel del oeste, pesada arriba y abajo", "Oeste", Margen, 2, Drawn},
     {"Plantilla", "Carteles", "Cortadas", "cortada con plantilla", "Plantilla", Margen, 2, Drawn},
     {"Negativa", "Carteles", "Fondos", "letras claras sobre fondo oscuro", "Palo", Margen, 0,
      [](const Filas& f, int) { return Sellar(Orlar(DeTinta(f), 1, 1, 1, 1), "  ", "##"); }},
@@ -79,15 +87,15 @@ const std::vector<Estilo> kEstilos = {
      [](const Filas&, int code) { return Key(code); }},
     {"Itálica", "Inclinadas", "Adelante", "de imprenta, tumbada", "Romana", Margen, 1,
      [](const Filas& f, int) { return Sellar(Inclinar(DeTinta(f), 2), "/", " "); }},
-    {"Toldo", "Contornos", "Finos", "contorno con sombra", "Palo", Margen, 0,
+    {"Toldo", "Contornos", "Finos", "contorno con sombra", "Palo", Margen, 1,
      [](const Filas& f, int) { return Sombrear(DeTinta(f), 2); }},
-    {"Globo", "Contornos", "Gruesos", "letras vacías y redondas", "Palo", Margen, 0,
+    {"Globo", "Contornos", "Gruesos", "letras vacías y redondas", "Palo", Margen, 1,
      [](const Filas& f, int) {
        return Doblar(Halo(Orlar(Suavizar(Ampliar(DeTinta(f), 2, 2)), 1, 2, 1, 2)), " .':");
      }},
     {"Rayada", "Contornos", "Gruesos", "borde grueso y rayas dentro", "Palo", Margen, 1,
      [](const Filas& f, int) { return Hatched(DeTinta(f)); }},
-    {"Sombra", "Relieve", "Sombras", "sombra abajo a la derecha", "Palo", Margen, 1,
+    {"Sombra", "Relieve", "Sombras", "sombra abajo a la derecha", "Píxel", Margen, 1,
      [](const Filas& f, int) { return Apilar(Ampliar(DeTinta(f), 2, 1), {{1, 1, ':'}, {0, 0, '#'}}); }},
     {"Eco", "Relieve", "Sombras", "dos ecos que se apagan", "Palo", Margen, 1,
      [](const Filas& f, int) {

@@ -51,6 +51,12 @@ Mapa Suavizar(const Mapa& m) {
   });
 }
 
+Mapa Engrosar(const Mapa& m) {
+  return Fill(m.Width() + 1, m.Height() + 1, [&](int x, int y) {
+    return m.At(x, y) || m.At(x - 1, y) || m.At(x, y - 1) || m.At(x - 1, y - 1);
+  });
+}
+
 Mapa Inclinar(const Mapa& m, int rows) {
   const int step = std::abs(rows), most = (m.Height() - 1) / step;
   return Fill(m.Width() + most, m.Height(), [&](int x, int y) {

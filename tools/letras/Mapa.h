@@ -31,6 +31,9 @@ Mapa Ampliar(const Mapa& m, int x, int y);
 // agree and the two across from them do not.
 Mapa Suavizar(const Mapa& m);
 
+// Every stroke a pixel thicker to the right and down.
+Mapa Engrosar(const Mapa& m);
+
 // Rows pushed sideways, one pixel for every `rows` rows; to the right at the top for a positive number.
 Mapa Inclinar(const Mapa& m, int rows);
 

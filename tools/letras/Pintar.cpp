@@ -1,7 +1,6 @@
 #include "tools/letras/Pintar.h"
 
 #include <algorithm>
-#include <array>
 
 namespace pixmosa::letras {
 namespace {
@@ -21,34 +20,6 @@ Filas Paint(int width, int height, Pick pick) {
   for (int y = 0; y < height; ++y)
     for (int x = 0; x < width; ++x) Place(rows, x, y) = pick(x, y);
   return rows;
-}
-
-bool Upright(const Mapa& m, int x, int y) {
-  return m.At(x, y - 1) || m.At(x, y + 1);
-}
-
-// Where a level stroke ends in a slanting one: the slanting character, otherwise 0.
-char Bend(const Mapa& m, int x, int y) {
-  const bool left = m.At(x - 1, y), right = m.At(x + 1, y);
-  if (!m.At(x, y) || left == right || Upright(m, x, y)) return 0;
-  const int away = left ? 1 : -1;
-  const bool up = m.At(x + away, y - 1), down = m.At(x + away, y + 1);
-  if (up == down) return 0;
-  return up == left ? '/' : '\\';
-}
-
-// The character of a pixel of a stroke.
-char Joint(const Mapa& m, int x, int y) {
-  if (!m.At(x, y)) return ' ';
-  if (const char bend = Bend(m, x, y)) return bend;
-  const auto joins = [&](int i) { return m.At(i, y) && !(Upright(m, x, y) && Bend(m, i, y)); };
-  if (joins(x - 1) || joins(x + 1)) return Upright(m, x, y) ? '+' : '-';
-  if (Upright(m, x, y)) return '|';
-  const bool rising = m.At(x + 1, y - 1) || m.At(x - 1, y + 1);
-  const bool falling = m.At(x - 1, y - 1) || m.At(x + 1, y + 1);
-  if (m.At(x - 1, y - 1) && m.At(x + 1, y - 1) && !m.At(x - 1, y + 1) && !m.At(x + 1, y + 1)) return 'V';
-  if (rising && falling) return 'X';
-  return rising ? '/' : falling ? '\\' : 'o';
 }
 
 }  // namespace
@@ -110,14 +81,6 @@ Filas Cuartear(const Mapa& m, std::string_view chars) {
     const int x = 2 * i, y = 2 * j;
     return chars[static_cast<std::size_t>(m.At(x, y) * 8 + m.At(x + 1, y) * 4 + m.At(x, y + 1) * 2 +
                                           m.At(x + 1, y + 1))];
-  });
-}
-
-Filas Trazar(const Mapa& m) {
-  constexpr std::string_view kJoints = " -|+/\\VXo";
-  constexpr std::array<std::string_view, 9> kPairs = {"  ", "==", "||", "||", "//", "\\\\", "\\/", "><", "()"};
-  return Paint(2 * m.Width(), m.Height(), [&](int i, int y) {
-    return kPairs[kJoints.find(Joint(m, i / 2, y))][static_cast<std::size_t>(i % 2)];
   });
 }
 

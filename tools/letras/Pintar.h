@@ -38,7 +38,4 @@ Filas Doblar(const Mapa& m, std::string_view chars);
 // right 1.
 Filas Cuartear(const Mapa& m, std::string_view chars);
 
-// The strokes in pairs of "=", "|", "/" and "\" by the neighbours that a pixel has.
-Filas Trazar(const Mapa& m);
-
 }  // namespace pixmosa::letras
