@@ -67,11 +67,11 @@ Filas Marked(const Filas& letter, const Filas& mark, const Hoja& sheet, bool bel
   const int middle = static_cast<int>(ink.find_first_not_of(' ') + ink.find_last_not_of(' ')) + 1;
   const int wide = static_cast<int>(core[0].size());
   const int left = (middle - wide + (middle - wide < 0 ? 0 : 1)) / 2;
-  const int top =
-      below ? FirstRow(mark) : std::max(0, first - sheet.hueco - static_cast<int>(core.size()));
+  const int top = below ? FirstRow(mark) : std::max(0, first - sheet.hueco - static_cast<int>(core.size()));
   const int push = std::max(0, -left);
   Filas rows;
-  for (const std::string& row : letter) rows.push_back(std::string(static_cast<std::size_t>(push), ' ') + row);
+  for (const std::string& row : letter)
+    rows.push_back(std::string(static_cast<std::size_t>(push), ' ') + row);
   for (std::size_t y = 0; y < core.size(); ++y) {
     std::string& row = rows[static_cast<std::size_t>(top) + y];
     row.resize(std::max(row.size(), static_cast<std::size_t>(left + push + wide)), ' ');
@@ -125,8 +125,8 @@ void AddMarked(const Acento& accent, Hoja& sheet) {
 }  // namespace
 
 bool EsMarca(std::size_t code) {
-  return code == kCaron || std::any_of(kAcentos.begin(), kAcentos.end(),
-                                       [&](const Acento& a) { return a.mark == code; });
+  return code == kCaron ||
+         std::any_of(kAcentos.begin(), kAcentos.end(), [&](const Acento& a) { return a.mark == code; });
 }
 
 std::size_t Portadora(const Hoja& sheet, std::size_t letter) {

@@ -41,8 +41,8 @@ Filas Hatched(const Mapa& m) {
 // A key with the letter itself; "$" would be a blank.
 Filas Key(int code) {
   const std::string face = code == '$' ? "S|" : std::string(1, code == 0xAD ? '-' : static_cast<char>(code));
-  const std::string edge(face.size() + 4, '-');
-  return {"." + edge + ".", "|  " + face + "  |", "'" + edge + "'"};
+  const std::string edge(face.size() + 4, '_');
+  return {" " + edge + " ", "|  " + face + "  |", "|" + edge + "|"};
 }
 
 }  // namespace
@@ -50,7 +50,7 @@ Filas Key(int code) {
 const std::vector<Estilo> kEstilos = {
     {"Redonda", "Macizas", "Curvas", "contornos redondeados con ochos", "Palo", Margen, 2,
      [](const Filas& f, int) { return Doblar(Suavizar(DeTinta(f)), " o\"8"); }},
-    {"Suave", "Macizas", "Curvas", "esquinas suavizadas con letras", "Píxel", Margen, 2,
+    {"Suave", "Macizas", "Curvas", "esquinas suavizadas con letras", "Pixel", Margen, 2,
      [](const Filas& f, int) { return Cuartear(Suavizar(Suavizar(DeTinta(f))), kCuartos); }},
     {"Cartel", "Macizas", "Anchas", "ancha y negra, para verse de lejos", "Cartel", Margen, 2, Drawn},
     {"Gigante", "Macizas", "Anchas", "enorme y gruesa, con esquinas cortadas", "Palo", Margen, 2,
@@ -59,7 +59,7 @@ const std::vector<Estilo> kEstilos = {
      [](const Filas& f, int) { return AllOf(f, '8'); }},
     {"Colegial", "Clásicas", "Libro", "con remates, solo su contorno", "Romana", Pared, 0,
      [](const Filas& f, int) { return Perfilar(DeTinta(f), 1); }},
-    {"Gótica", "Clásicas", "Pluma", "de códice, con plumadas", "Gótica", Margen, 2,
+    {"Pergamino", "Clásicas", "Pluma", "de códice, con plumadas", "Pergamino", Margen, 2,
      [](const Filas& f, int) {
        Filas rows = f;
        for (std::string& row : rows) std::replace(row.begin(), row.end(), '#', '8');
@@ -69,23 +69,24 @@ const std::vector<Estilo> kEstilos = {
     {"Compacta", "Líneas", "Pequeñas", "cuatro filas, trazo redondo", "Compacta", Margen, 1, Drawn},
     {"Menuda", "Líneas", "Pequeñas", "tres filas y nada más", "Menuda", Margen, 1, Drawn},
     {"Inclinada", "Líneas", "Finas", "trazo fino hacia delante", "Inclinada", Margen, 1, Drawn},
-    {"Líneas", "Líneas", "Finas", "trazo fino y recto con esquinas", "Líneas", Margen, 1, Drawn},
-    {"Neón", "Líneas", "Dobles", "tubos dobles", "Neón", Margen, 2, Drawn},
-    {"Píxel", "Puntos", "Cuadros", "pocos puntos y cuadrados", "Píxel", Margen, 2,
+    {"Alambre", "Líneas", "Finas", "trazo fino y recto con esquinas", "Alambre", Margen, 1, Drawn},
+    {"Tubos", "Líneas", "Dobles", "tubos dobles", "Tubos", Margen, 2, Drawn},
+    {"Pixel", "Puntos", "Cuadros", "pocos puntos y cuadrados", "Pixel", Margen, 2,
      [](const Filas& f, int) { return Sellar(DeTinta(f), "[]", "  "); }},
     {"Media", "Puntos", "Cuadros", "dos puntos en cada carácter", "Palo", Margen, 1,
-     [](const Filas& f, int) { return Doblar(DeTinta(f), " m\"#"); }},
+     [](const Filas& f, int) { return Doblar(Orlar(DeTinta(f), 0, 1, 0, 0), " m\"#"); }},
     {"Marcador", "Puntos", "Tableros", "luces sobre un tablero de puntos", "Palo", Margen, 0,
      [](const Filas& f, int) { return Sellar(Orlar(DeTinta(f), 1, 0, 1, 0), "O ", ". "); }},
     {"Torre", "Carteles", "Altas", "alta y estrecha", "Torre", Margen, 3, Drawn},
-    {"Salón", "Carteles", "Altas", "de baile: trazos de rayas y de hilo", "Salón", Margen, 2, Drawn},
-    {"Oeste", "Carteles", "Cortadas", "de cartel del oeste, pesada arriba y abajo", "Oeste", Margen, 2, Drawn},
+    {"Gala", "Carteles", "Altas", "de baile: trazos de rayas y de hilo", "Gala", Margen, 2, Drawn},
+    {"Oeste", "Carteles", "Cortadas", "de cartel del oeste, pesada arriba y abajo", "Oeste", Margen, 2,
+     Drawn},
     {"Plantilla", "Carteles", "Cortadas", "cortada con plantilla", "Plantilla", Margen, 2, Drawn},
     {"Negativa", "Carteles", "Fondos", "letras claras sobre fondo oscuro", "Palo", Margen, 0,
      [](const Filas& f, int) { return Sellar(Orlar(DeTinta(f), 1, 1, 1, 1), "  ", "##"); }},
     {"Teclas", "Carteles", "Fondos", "cada letra en su tecla", "Palo", Margen, 0,
      [](const Filas&, int code) { return Key(code); }},
-    {"Itálica", "Inclinadas", "Adelante", "de imprenta, tumbada", "Romana", Margen, 1,
+    {"Cursiva", "Inclinadas", "Adelante", "de imprenta, tumbada", "Romana", Margen, 1,
      [](const Filas& f, int) { return Sellar(Inclinar(DeTinta(f), 2), "/", " "); }},
     {"Toldo", "Contornos", "Finos", "contorno con sombra", "Palo", Margen, 1,
      [](const Filas& f, int) { return Sombrear(DeTinta(f), 2); }},
@@ -95,13 +96,15 @@ const std::vector<Estilo> kEstilos = {
      }},
     {"Rayada", "Contornos", "Gruesos", "borde grueso y rayas dentro", "Palo", Margen, 1,
      [](const Filas& f, int) { return Hatched(DeTinta(f)); }},
-    {"Sombra", "Relieve", "Sombras", "sombra abajo a la derecha", "Píxel", Margen, 1,
-     [](const Filas& f, int) { return Apilar(Ampliar(DeTinta(f), 2, 1), {{1, 1, ':'}, {0, 0, '#'}}); }},
+    {"Sombra", "Relieve", "Sombras", "sombra abajo a la derecha", "Pixel", Margen, 1,
+     [](const Filas& f, int) {
+       return Apilar(Ampliar(DeTinta(f), 2, 1), {{1, 1, ':'}, {0, 0, '#'}});
+     }},
     {"Eco", "Relieve", "Sombras", "dos ecos que se apagan", "Palo", Margen, 1,
      [](const Filas& f, int) {
        return Apilar(Ampliar(DeTinta(f), 3, 2), {{4, 2, '.'}, {2, 1, ':'}, {0, 0, '#'}});
      }},
-    {"Cubo", "Relieve", "Volumen", "letras con fondo", "Palo", Margen, 1,
+    {"Cubo", "Relieve", "Volumen", "letras con fondo", "Pixel", Margen, 1,
      [](const Filas& f, int) {
        return Apilar(Ampliar(DeTinta(f), 3, 2), {{2, -2, '/'}, {1, -1, '/'}, {0, 0, '#'}});
      }},

@@ -35,7 +35,7 @@ void CutBlankRows(Letras& letters) {
   for (Filas& rows : letters)
     if (!rows.empty())
       rows = Filas(rows.begin() + static_cast<std::ptrdiff_t>(first),
-                 rows.begin() + static_cast<std::ptrdiff_t>(last) + 1);
+                   rows.begin() + static_cast<std::ptrdiff_t>(last) + 1);
 }
 
 std::string Comments(const Estilo& style) {
@@ -77,7 +77,8 @@ std::string ArchivoFlf(const Letras& letters, const Estilo& style) {
   const std::string comments = Comments(style);
   const auto lines = std::count(comments.begin(), comments.end(), '\n');
   return "flf2a$ " + std::to_string(capital.size()) + " " + std::to_string(base) + " " +
-         std::to_string(longest) + " " + std::to_string(style.junta) + " " + std::to_string(lines) + "\r\n" + comments + blocks;
+         std::to_string(longest) + " " + std::to_string(style.junta) + " " + std::to_string(lines) + "\r\n" +
+         comments + blocks;
 }
 
 std::string Letrero(const Letras& letters, std::string_view text) {

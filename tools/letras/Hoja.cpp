@@ -112,8 +112,8 @@ Hoja LeerHoja(const std::filesystem::path& folder, const std::string& name) {
   const Cabecera counts = ReadCounts(lines.at(0), sheet);
   for (std::size_t at = 1; at < lines.size(); at += static_cast<std::size_t>(sheet.filas) + 1)
     ReadBlock(lines, at, sheet);
-  sheet[0x20] = sheet[0xA0] = Filas(static_cast<std::size_t>(sheet.filas),
-                                    std::string(static_cast<std::size_t>(counts.blank), ' '));
+  sheet[0x20] = sheet[0xA0] =
+      Filas(static_cast<std::size_t>(sheet.filas), std::string(static_cast<std::size_t>(counts.blank), ' '));
   Hoja rest;
   if (!counts.rest.empty()) rest = LeerHoja(folder, counts.rest);
   Hoja marks = rest;
