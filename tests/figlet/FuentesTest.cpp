@@ -1,6 +1,7 @@
 // The shipped banner fonts and their catalogue.
 #include <algorithm>
 #include <bitset>
+#include <cctype>
 #include <gtest/gtest.h>
 #include <map>
 #include <set>

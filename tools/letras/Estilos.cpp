@@ -23,8 +23,10 @@ Filas Joined(const Filas& shape, int code) {
   return rows;
 }
 
-Filas AllOf(const Filas& shape, char ink) {
-  return Tramar(DeTinta(shape), [ink](int, int) { return ink; });
+// With another ink than "#".
+Filas Inked(Filas rows, char ink) {
+  for (std::string& row : rows) std::replace(row.begin(), row.end(), '#', ink);
+  return rows;
 }
 
 // A thick letter with an edge of "#" and hatching within.
@@ -48,63 +50,60 @@ Filas Key(int code) {
 }  // namespace
 
 const std::vector<Estilo> kEstilos = {
-    {"Redonda", "Macizas", "Curvas", "contornos redondeados con ochos", "Palo", Margen, 2,
+    {"Redonda", "Macizas", "Curvas", "contornos redondeados con ochos", "Palo", kMargen, 2,
      [](const Filas& f, int) { return Doblar(Suavizar(DeTinta(f)), " o\"8"); }},
-    {"Suave", "Macizas", "Curvas", "esquinas suavizadas con letras", "Pixel", Margen, 2,
+    {"Suave", "Macizas", "Curvas", "esquinas suavizadas con letras", "Pixel", kMargen, 2,
      [](const Filas& f, int) { return Cuartear(Suavizar(Suavizar(DeTinta(f))), kCuartos); }},
-    {"Cartel", "Macizas", "Anchas", "ancha y negra, para verse de lejos", "Cartel", Margen, 2, Drawn},
-    {"Gigante", "Macizas", "Anchas", "enorme y gruesa, con esquinas cortadas", "Palo", Margen, 2,
+    {"Cartel", "Macizas", "Anchas", "ancha y negra, para verse de lejos", "Cartel", kMargen, 2, Drawn},
+    {"Gigante", "Macizas", "Anchas", "enorme y gruesa, con esquinas cortadas", "Palo", kMargen, 2,
      [](const Filas& f, int) { return Sellar(Engrosar(Suavizar(DeTinta(f))), "##", "  "); }},
-    {"Romana", "Clásicas", "Libro", "de imprenta, con remates", "Romana", Margen, 1,
-     [](const Filas& f, int) { return AllOf(f, '8'); }},
-    {"Colegial", "Clásicas", "Libro", "con remates, solo su contorno", "Romana", Pared, 0,
+    {"Antigua", "Clásicas", "Libro", "de imprenta, con remates", "Antigua", kMargen, 1,
+     [](const Filas& f, int) { return Inked(f, '8'); }},
+    {"Colegial", "Clásicas", "Libro", "con remates, solo su contorno", "Antigua", kPared, 0,
      [](const Filas& f, int) { return Perfilar(DeTinta(f), 1); }},
-    {"Pergamino", "Clásicas", "Pluma", "de códice, con plumadas", "Pergamino", Margen, 2,
-     [](const Filas& f, int) {
-       Filas rows = f;
-       for (std::string& row : rows) std::replace(row.begin(), row.end(), '#', '8');
-       return rows;
-     }},
-    {"Pluma", "Clásicas", "Pluma", "escrita a mano, letras enlazadas", "Pluma", Enlace, 0, Joined},
-    {"Compacta", "Líneas", "Pequeñas", "cuatro filas, trazo redondo", "Compacta", Margen, 1, Drawn},
-    {"Menuda", "Líneas", "Pequeñas", "tres filas y nada más", "Menuda", Margen, 1, Drawn},
-    {"Inclinada", "Líneas", "Finas", "trazo fino hacia delante", "Inclinada", Margen, 1, Drawn},
-    {"Alambre", "Líneas", "Finas", "trazo fino y recto con esquinas", "Alambre", Margen, 1, Drawn},
-    {"Tubos", "Líneas", "Dobles", "tubos dobles", "Tubos", Margen, 2, Drawn},
-    {"Pixel", "Puntos", "Cuadros", "pocos puntos y cuadrados", "Pixel", Margen, 2,
+    {"Pergamino", "Clásicas", "Pluma", "gótica de códice, con plumadas", "Pergamino", kMargen, 2,
+     [](const Filas& f, int) { return Inked(f, '8'); }},
+    {"Pluma", "Clásicas", "Pluma", "escrita a mano, letras enlazadas", "Pluma", kEnlace, 0, Joined},
+    {"Compacta", "Líneas", "Pequeñas", "cuatro filas, trazo redondo", "Compacta", kMargen, 1, Drawn},
+    {"Menuda", "Líneas", "Pequeñas", "tres filas y nada más", "Menuda", kMargen, 1, Drawn},
+    {"Hilo", "Líneas", "Finas", "trazo fino y recto con esquinas", "Hilo", kMargen, 1, Drawn},
+    {"Tubos", "Líneas", "Finas", "tubos dobles", "Tubos", kMargen, 2, Drawn},
+    {"Pixel", "Puntos", "Cuadros", "pocos puntos y cuadrados", "Pixel", kMargen, 2,
      [](const Filas& f, int) { return Sellar(DeTinta(f), "[]", "  "); }},
-    {"Media", "Puntos", "Cuadros", "dos puntos en cada carácter", "Palo", Margen, 1,
+    {"Media", "Puntos", "Cuadros", "dos puntos en cada carácter", "Palo", kMargen, 1,
      [](const Filas& f, int) { return Doblar(Orlar(DeTinta(f), 0, 1, 0, 0), " m\"#"); }},
-    {"Marcador", "Puntos", "Tableros", "luces sobre un tablero de puntos", "Palo", Margen, 0,
+    {"Marcador", "Puntos", "Tableros", "luces sobre un tablero de puntos", "Palo", kMargen, 0,
      [](const Filas& f, int) { return Sellar(Orlar(DeTinta(f), 1, 0, 1, 0), "O ", ". "); }},
-    {"Torre", "Carteles", "Altas", "alta y estrecha", "Torre", Margen, 3, Drawn},
-    {"Gala", "Carteles", "Altas", "de baile: trazos de rayas y de hilo", "Gala", Margen, 2, Drawn},
-    {"Oeste", "Carteles", "Cortadas", "de cartel del oeste, pesada arriba y abajo", "Oeste", Margen, 2,
+    {"Torre", "Carteles", "Altas", "alta y estrecha", "Torre", kMargen, 3, Drawn},
+    {"Gala", "Carteles", "Altas", "de baile: trazos de rayas y de hilo", "Gala", kMargen, 2,
+     [](const Filas& f, int) { return Inked(f, '|'); }},
+    {"Oeste", "Carteles", "Cortadas", "de cartel del oeste, pesada arriba y abajo", "Oeste", kMargen, 2,
      Drawn},
-    {"Plantilla", "Carteles", "Cortadas", "cortada con plantilla", "Plantilla", Margen, 2, Drawn},
-    {"Negativa", "Carteles", "Fondos", "letras claras sobre fondo oscuro", "Palo", Margen, 0,
+    {"Plantilla", "Carteles", "Cortadas", "cortada con plantilla", "Plantilla", kMargen, 2, Drawn},
+    {"Negativa", "Carteles", "Fondos", "letras claras sobre fondo oscuro", "Palo", kMargen, 0,
      [](const Filas& f, int) { return Sellar(Orlar(DeTinta(f), 1, 1, 1, 1), "  ", "##"); }},
-    {"Teclas", "Carteles", "Fondos", "cada letra en su tecla", "Palo", Margen, 0,
+    {"Teclas", "Carteles", "Fondos", "cada letra en su tecla", "Palo", kMargen, 0,
      [](const Filas&, int code) { return Key(code); }},
-    {"Cursiva", "Inclinadas", "Adelante", "de imprenta, tumbada", "Romana", Margen, 1,
+    {"Cursiva", "Inclinadas", "Adelante", "de imprenta, tumbada", "Antigua", kMargen, 1,
      [](const Filas& f, int) { return Sellar(Inclinar(DeTinta(f), 2), "/", " "); }},
-    {"Toldo", "Contornos", "Finos", "contorno con sombra", "Palo", Margen, 1,
+    {"Inclinada", "Inclinadas", "Adelante", "trazo fino hacia delante", "Inclinada", kMargen, 1, Drawn},
+    {"Toldo", "Contornos", "Finos", "contorno con sombra", "Palo", kMargen, 1,
      [](const Filas& f, int) { return Sombrear(DeTinta(f), 2); }},
-    {"Globo", "Contornos", "Gruesos", "letras vacías y redondas", "Palo", Margen, 1,
+    {"Globo", "Contornos", "Gruesos", "letras vacías y redondas", "Palo", kMargen, 1,
      [](const Filas& f, int) {
        return Doblar(Halo(Orlar(Suavizar(Ampliar(DeTinta(f), 2, 2)), 1, 2, 1, 2)), " .':");
      }},
-    {"Rayada", "Contornos", "Gruesos", "borde grueso y rayas dentro", "Palo", Margen, 1,
+    {"Rayada", "Contornos", "Gruesos", "borde grueso y rayas dentro", "Palo", kMargen, 2,
      [](const Filas& f, int) { return Hatched(DeTinta(f)); }},
-    {"Sombra", "Relieve", "Sombras", "sombra abajo a la derecha", "Pixel", Margen, 1,
+    {"Sombra", "Relieve", "Sombras", "sombra abajo a la derecha", "Pixel", kMargen, 1,
      [](const Filas& f, int) {
        return Apilar(Ampliar(DeTinta(f), 2, 1), {{1, 1, ':'}, {0, 0, '#'}});
      }},
-    {"Eco", "Relieve", "Sombras", "dos ecos que se apagan", "Palo", Margen, 1,
+    {"Eco", "Relieve", "Sombras", "dos ecos que se apagan", "Palo", kMargen, 1,
      [](const Filas& f, int) {
        return Apilar(Ampliar(DeTinta(f), 3, 2), {{4, 2, '.'}, {2, 1, ':'}, {0, 0, '#'}});
      }},
-    {"Cubo", "Relieve", "Volumen", "letras con fondo", "Pixel", Margen, 1,
+    {"Cubo", "Relieve", "Volumen", "letras con fondo", "Pixel", kMargen, 1,
      [](const Filas& f, int) {
        return Apilar(Ampliar(DeTinta(f), 3, 2), {{2, -2, '/'}, {1, -1, '/'}, {0, 0, '#'}});
      }},

@@ -10,7 +10,7 @@ namespace pixmosa::letras {
 
 // How letters that are pushed together meet (the header's number): they keep their margin, or share an edge
 // where both have the same character, or also give way to what stands on a line below.
-enum Junta : int { Margen = 32, Pared = 35, Enlace = 3 };
+enum Junta : int { kMargen = 32, kPared = 35, kEnlace = 3 };
 
 // `pintar` gets a shape of the sheet, at least a column wide, and its code; `margen` columns follow it.
 struct Estilo {

@@ -13,7 +13,7 @@ namespace pixmosa::letras {
 namespace {
 
 struct Cabecera {
-  int blank = 3, scale = 1;
+  std::size_t blank = 3, scale = 1;
   std::string rest;
 };
 
@@ -63,23 +63,34 @@ void ReadBlock(const std::vector<std::string>& lines, std::size_t at, Hoja& shee
   }
 }
 
-// `shape` of a sheet with other rows over and under the base line, each column `scale` times.
-Filas Adapted(const Hoja& from, const Filas& shape, const Hoja& to, int scale) {
+// Signs that hang from the top of the capitals; the others stand on the base line.
+constexpr std::string_view kRaised = "\"'*^\x88\x91\x92\x93\x94\x98\x99\xA8\xAA\xAF\xB0\xB2\xB3\xB9\xBA";
+
+int Top(const Hoja& sheet) {
+  const Filas& capital = sheet['T'];
+  return static_cast<int>(std::find_if_not(capital.begin(), capital.end(), EsBlanca) - capital.begin());
+}
+
+// The shape of a code in a sheet with other rows, each column `scale` times.
+Filas Adapted(const Hoja& from, std::size_t code, const Hoja& to, std::size_t scale) {
+  const Filas& shape = from[code];
+  const bool raised = kRaised.find(static_cast<char>(code)) != std::string_view::npos;
+  const int push = raised ? Top(to) - Top(from) : to.linea - from.linea;
   Filas rows(static_cast<std::size_t>(to.filas), std::string(shape.at(0).size() * scale, ' '));
   for (int y = 0; y < from.filas; ++y) {
     const std::string& row = shape[static_cast<std::size_t>(y)];
-    const int at = y + to.linea - from.linea;
+    const int at = y + push;
     if (EsBlanca(row)) continue;
     if (at < 0 || at >= to.filas) throw std::runtime_error("no room for a row: " + row);
     for (std::size_t x = 0; x < row.size() * scale; ++x)
-      rows[static_cast<std::size_t>(at)][x] = row[x / static_cast<std::size_t>(scale)];
+      rows[static_cast<std::size_t>(at)][x] = row[x / scale];
   }
   return rows;
 }
 
-void TakeFrom(const Hoja& rest, int scale, std::size_t first, Hoja& sheet) {
+void TakeFrom(const Hoja& rest, std::size_t scale, std::size_t first, Hoja& sheet) {
   for (std::size_t code = first; code < 256; ++code)
-    if (sheet[code].empty() && !rest[code].empty()) sheet[code] = Adapted(rest, rest[code], sheet, scale);
+    if (sheet[code].empty() && !rest[code].empty()) sheet[code] = Adapted(rest, code, sheet, scale);
 }
 
 }  // namespace
@@ -112,8 +123,7 @@ Hoja LeerHoja(const std::filesystem::path& folder, const std::string& name) {
   const Cabecera counts = ReadCounts(lines.at(0), sheet);
   for (std::size_t at = 1; at < lines.size(); at += static_cast<std::size_t>(sheet.filas) + 1)
     ReadBlock(lines, at, sheet);
-  sheet[0x20] = sheet[0xA0] =
-      Filas(static_cast<std::size_t>(sheet.filas), std::string(static_cast<std::size_t>(counts.blank), ' '));
+  sheet[0x20] = sheet[0xA0] = Filas(static_cast<std::size_t>(sheet.filas), std::string(counts.blank, ' '));
   Hoja rest;
   if (!counts.rest.empty()) rest = LeerHoja(folder, counts.rest);
   Hoja marks = rest;
