@@ -103,7 +103,7 @@ const std::vector<Estilo> kEstilos = {
      [](const Filas& f, int) {
        return Apilar(Ampliar(DeTinta(f), 3, 2), {{4, 2, '.'}, {2, 1, ':'}, {0, 0, '#'}});
      }},
-    {"Cubo", "Relieve", "Volumen", "letras con fondo", "Pixel", kMargen, 1,
+    {"Cubo", "Relieve", "Volumen", "letras con fondo", "Palo", kMargen, 1,
      [](const Filas& f, int) {
        return Apilar(Ampliar(DeTinta(f), 3, 2), {{2, -2, '/'}, {1, -1, '/'}, {0, 0, '#'}});
      }},
