@@ -57,7 +57,7 @@ const std::vector<Estilo> kEstilos = {
     {"Cartel", "Macizas", "Anchas", "ancha y negra, para verse de lejos", "Cartel", kMargen, 2, Drawn},
     {"Gigante", "Macizas", "Anchas", "enorme y gruesa, con esquinas cortadas", "Palo", kMargen, 2,
      [](const Filas& f, int) { return Sellar(Engrosar(Suavizar(DeTinta(f))), "##", "  "); }},
-    {"Antigua", "Clásicas", "Libro", "de imprenta, con remates", "Antigua", kMargen, 1,
+    {"Antigua", "Clásicas", "Libro", "de imprenta, con remates", "Antigua", kMargen, 2,
      [](const Filas& f, int) { return Inked(f, '8'); }},
     {"Colegial", "Clásicas", "Libro", "con remates, solo su contorno", "Antigua", kPared, 0,
      [](const Filas& f, int) { return Perfilar(DeTinta(f), 1); }},
