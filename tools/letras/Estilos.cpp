@@ -19,7 +19,7 @@ Filas Drawn(const Filas& shape, int /*code*/) {
 Filas Joined(const Filas& shape, int code) {
   Filas rows = shape;
   if (!(code >= 'a' && code <= 'z') && code < 0xDF)
-    for (std::string& row : rows) row += ' ';
+    for (std::string& row : rows) row.insert(row.find_last_not_of(' ') + 1, 1, '$');
   return rows;
 }
 
@@ -63,7 +63,7 @@ const std::vector<Estilo> kEstilos = {
      [](const Filas& f, int) { return Perfilar(DeTinta(f), 1); }},
     {"Pergamino", "Clásicas", "Pluma", "gótica de códice, con plumadas", "Pergamino", kMargen, 2,
      [](const Filas& f, int) { return Inked(f, '8'); }},
-    {"Pluma", "Clásicas", "Pluma", "escrita a mano, letras enlazadas", "Pluma", kEnlace, 0, Joined},
+    {"Pluma", "Clásicas", "Pluma", "escrita a mano, letras enlazadas", "Pluma", kMargen, 0, Joined},
     {"Compacta", "Líneas", "Pequeñas", "cuatro filas, trazo redondo", "Compacta", kMargen, 1, Drawn},
     {"Menuda", "Líneas", "Pequeñas", "tres filas y nada más", "Menuda", kMargen, 1, Drawn},
     {"Hilo", "Líneas", "Finas", "trazo fino y recto con esquinas", "Hilo", kMargen, 1, Drawn},

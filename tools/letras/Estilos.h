@@ -9,8 +9,8 @@
 namespace pixmosa::letras {
 
 // How letters that are pushed together meet (the header's number): they keep their margin, or share an edge
-// where both have the same character, or also give way to what stands on a line below.
-enum Junta : int { kMargen = 32, kPared = 35, kEnlace = 3 };
+// where both have the same character or one has a line below.
+enum Junta : int { kMargen = 32, kPared = 35 };
 
 // `pintar` gets a shape of the sheet, at least a column wide, and its code; `margen` columns follow it.
 struct Estilo {
