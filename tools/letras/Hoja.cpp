@@ -14,6 +14,7 @@ namespace {
 
 struct Cabecera {
   std::size_t blank = 3, scale = 1;
+  bool leans = false;
   std::string rest;
 };
 
@@ -40,6 +41,7 @@ Cabecera ReadCounts(const std::string& line, Hoja& sheet) {
     if (word == "linea") in >> sheet.linea;
     if (word == "hueco") in >> sheet.hueco;
     if (word == "blanco") in >> c.blank;
+    if (word == "inclina") c.leans = true;
     if (word == "resto") in >> c.rest >> c.scale;
   }
   return c;
@@ -88,6 +90,15 @@ Filas Adapted(const Hoja& from, std::size_t code, const Hoja& to, std::size_t sc
   return rows;
 }
 
+// One column further for each row up.
+Filas Leaning(Filas rows) {
+  for (std::size_t y = 0; y < rows.size(); ++y) {
+    std::replace(rows[y].begin(), rows[y].end(), '|', '/');
+    rows[y].insert(0, rows.size() - 1 - y, ' ');
+  }
+  return Recortadas(rows);
+}
+
 void TakeFrom(const Hoja& rest, std::size_t scale, std::size_t first, Hoja& sheet) {
   for (std::size_t code = first; code < 256; ++code)
     if (sheet[code].empty() && !rest[code].empty()) sheet[code] = Adapted(rest, code, sheet, scale);
@@ -126,6 +137,9 @@ Hoja LeerHoja(const std::filesystem::path& folder, const std::string& name) {
   sheet[0x20] = sheet[0xA0] = Filas(static_cast<std::size_t>(sheet.filas), std::string(counts.blank, ' '));
   Hoja rest;
   if (!counts.rest.empty()) rest = LeerHoja(folder, counts.rest);
+  if (counts.leans)
+    for (Filas& shape : rest.formas)
+      if (!shape.empty()) shape = Leaning(shape);
   Hoja marks = rest;
   for (std::size_t code = 0; code < 256; ++code)
     if (!EsMarca(code)) marks[code].clear();

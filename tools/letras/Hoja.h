@@ -28,9 +28,10 @@ struct Hoja {
 };
 
 // Reads "NAME.txt". The first line counts: "filas 10 linea 8 hueco 1 blanco 3", and "resto NAME 2" names the
-// sheet that has what this one lacks, each of its columns twice. Then come blocks of a line that has each
-// character (UTF-8) over the left edge of its shape, and the rows. What is not drawn is put together from
-// what is (letters with marks, paired signs). Throws std::runtime_error for a sheet that cannot be read.
+// sheet that has what this one lacks, each of its columns twice ("inclina": made to lean). Then come blocks
+// of a line that has each character (UTF-8) over the left edge of its shape, and the rows. What is not drawn
+// is put together from what is (letters with marks, paired signs). Throws std::runtime_error for a sheet that
+// cannot be read.
 Hoja LeerHoja(const std::filesystem::path& folder, const std::string& name);
 
 // The lower capital that carries the marks of a capital, or the letter itself.
