@@ -1,6 +1,9 @@
 #include "tools/letras/Estilos.h"
 
-#include "tools/letras/Maestra.h"
+#include <algorithm>
+#include <string>
+
+#include "tools/letras/Mapa.h"
 
 namespace pixmosa::letras {
 namespace {
@@ -8,29 +11,22 @@ namespace {
 // The characters of two by two pixels, see Cuartear.
 constexpr std::string_view kCuartos = " .,m'|/d`\\|b\"qP8";
 
-// With the blank that parts it from the next letter.
-Mapa Spaced(const Mapa& m, int columns = 1) {
-  return Orlar(m, 0, 0, columns, 0);
+Filas Drawn(const Filas& shape, int /*code*/) {
+  return shape;
 }
 
-Filas Padded(Filas rows, std::size_t columns = 1) {
-  for (std::string& row : rows) row.append(columns, ' ');
+// Written in one go: only what is not a small letter keeps apart.
+Filas Joined(const Filas& shape, int code) {
+  Filas rows = shape;
+  if (!(code >= 'a' && code <= 'z') && code < 0xDF)
+    for (std::string& row : rows) row.insert(row.find_last_not_of(' ') + 1, 1, '$');
   return rows;
 }
 
-// The letter itself as ink; those that would not be seen give place to one that is like them.
-char OwnInk(int code) {
-  return code == '$' ? 'S' : code == 0xAD ? '-' : static_cast<char>(code);
-}
-
-// The first row of the ink heavy, the last light.
-char Dusk(int /*x*/, int y) {
-  constexpr std::string_view kInk = "@@@M%#*+=-:.";
-  return kInk[static_cast<std::size_t>(y)];
-}
-
-char Brick(int x, int y) {
-  return x % 4 == (y % 2 ? 3 : 1) ? '|' : '_';
+// With another ink than "#".
+Filas Inked(Filas rows, char ink) {
+  for (std::string& row : rows) std::replace(row.begin(), row.end(), '#', ink);
+  return rows;
 }
 
 // A thick letter with an edge of "#" and hatching within.
@@ -44,109 +40,73 @@ Filas Hatched(const Mapa& m) {
   return rows;
 }
 
-// Leaning, with a trail behind the first stroke of every row.
-Filas Fast(const Mapa& m) {
-  Filas rows = Sellar(Orlar(Inclinar(Ampliar(m, 2, 1), 2), 3, 0, 1, 0), "#", " ");
-  for (std::string& row : rows)
-    if (const std::size_t first = row.find('#'); first != std::string::npos) row.replace(first - 3, 2, "--");
-  return rows;
-}
-
-Filas Tile(const Mapa& m) {
-  const Filas rows = Sellar(Orlar(m, 1, 0, 1, 0), "#", " ");
-  return Padded(Enmarcar(rows));
+// A key with the letter itself; "$" would be a blank.
+Filas Key(int code) {
+  const std::string face = code == '$' ? "S|" : std::string(1, code == 0xAD ? '-' : static_cast<char>(code));
+  const std::string edge(face.size() + 4, '_');
+  return {" " + edge + " ", "|  " + face + "  |", "|" + edge + "|"};
 }
 
 }  // namespace
 
 const std::vector<Estilo> kEstilos = {
-    {"Bloque", "Macizas", "Lisas", "letras macizas de proporciones normales",
-     [](const Mapa& m, int) { return Sellar(Spaced(m), "##", "  "); }},
-    {"Sencilla", "Macizas", "Lisas", "un carácter por punto",
-     [](const Mapa& m, int) { return Sellar(Spaced(m), "#", " "); }},
-    {"Gruesa", "Macizas", "Lisas", "trazo vertical doble",
-     [](const Mapa& m, int) { return Sellar(Spaced(Engrosar(Ampliar(m, 2, 1)), 2), "M", " "); }},
-    {"Redonda", "Macizas", "Curvas", "contornos redondeados con ochos",
-     [](const Mapa& m, int) { return Doblar(Suavizar(Spaced(m)), " o\"8"); }},
-    {"Suave", "Macizas", "Curvas", "esquinas suavizadas con letras",
-     [](const Mapa& m, int) { return Cuartear(Suavizar(Suavizar(Spaced(m))), kCuartos); }},
-    {"Muro", "Texturas", "Materiales", "ladrillos",
-     [](const Mapa& m, int) { return Tramar(Ampliar(Spaced(m), 4, 2), Brick); }},
-    {"Bordada", "Texturas", "Materiales", "punto de cruz",
-     [](const Mapa& m, int) { return Sellar(Spaced(m), "><", "  "); }},
-    {"Ocaso", "Texturas", "Tramas", "tinta que se aclara hacia abajo",
-     [](const Mapa& m, int) { return Tramar(Ampliar(Spaced(m), 2, 1), Dusk); }},
-    {"Ajedrez", "Texturas", "Tramas", "cuadros alternos",
-     [](const Mapa& m, int) {
-       return Tramar(Ampliar(Spaced(m), 4, 2), [](int x, int y) { return (x / 2 + y) % 2 ? '#' : '.'; });
+    {"Redonda", "Macizas", "Curvas", "contornos redondeados con ochos", "Palo", kMargen, 2,
+     [](const Filas& f, int) { return Doblar(Suavizar(DeTinta(f)), " o\"8"); }},
+    {"Suave", "Macizas", "Curvas", "esquinas suavizadas con letras", "Pixel", kMargen, 2,
+     [](const Filas& f, int) { return Cuartear(Suavizar(Suavizar(DeTinta(f))), kCuartos); }},
+    {"Cartel", "Macizas", "Anchas", "ancha y negra, para verse de lejos", "Cartel", kMargen, 2, Drawn},
+    {"Gigante", "Macizas", "Anchas", "enorme y gruesa, con esquinas cortadas", "Palo", kMargen, 2,
+     [](const Filas& f, int) { return Sellar(Engrosar(Suavizar(DeTinta(f))), "##", "  "); }},
+    {"Antigua", "Clásicas", "Libro", "de imprenta, con remates", "Antigua", kMargen, 2,
+     [](const Filas& f, int) { return Inked(f, '8'); }},
+    {"Colegial", "Clásicas", "Libro", "con remates, solo su contorno", "Antigua", kPared, 0,
+     [](const Filas& f, int) { return Perfilar(DeTinta(f), 1); }},
+    {"Pergamino", "Clásicas", "Pluma", "gótica de códice, con plumadas", "Pergamino", kMargen, 2,
+     [](const Filas& f, int) { return Inked(f, '8'); }},
+    {"Pluma", "Clásicas", "Pluma", "escrita a mano, letras enlazadas", "Pluma", kMargen, 0, Joined},
+    {"Compacta", "Líneas", "Pequeñas", "cuatro filas, trazo redondo", "Compacta", kMargen, 1, Drawn},
+    {"Menuda", "Líneas", "Pequeñas", "tres filas y nada más", "Menuda", kMargen, 1, Drawn},
+    {"Hilo", "Líneas", "Finas", "trazo fino y recto con esquinas", "Hilo", kMargen, 1, Drawn},
+    {"Tubos", "Líneas", "Finas", "tubos dobles", "Tubos", kMargen, 2, Drawn},
+    {"Pixel", "Puntos", "Cuadros", "pocos puntos y cuadrados", "Pixel", kMargen, 2,
+     [](const Filas& f, int) { return Sellar(DeTinta(f), "[]", "  "); }},
+    {"Media", "Puntos", "Cuadros", "dos puntos en cada carácter", "Palo", kMargen, 1,
+     [](const Filas& f, int) { return Doblar(Orlar(DeTinta(f), 0, 1, 0, 0), " m\"#"); }},
+    {"Marcador", "Puntos", "Tableros", "luces sobre un tablero de puntos", "Palo", kMargen, 0,
+     [](const Filas& f, int) { return Sellar(Orlar(DeTinta(f), 1, 0, 1, 0), "O ", ". "); }},
+    {"Torre", "Carteles", "Altas", "alta y estrecha", "Torre", kMargen, 3, Drawn},
+    {"Gala", "Carteles", "Altas", "de baile: trazos de rayas y de hilo", "Gala", kMargen, 2,
+     [](const Filas& f, int) { return Inked(f, '|'); }},
+    {"Oeste", "Carteles", "Cortadas", "de cartel del oeste, pesada arriba y abajo", "Oeste", kMargen, 2,
+     Drawn},
+    {"Plantilla", "Carteles", "Cortadas", "cortada con plantilla", "Plantilla", kMargen, 2, Drawn},
+    {"Negativa", "Carteles", "Fondos", "letras claras sobre fondo oscuro", "Palo", kMargen, 0,
+     [](const Filas& f, int) { return Sellar(Orlar(DeTinta(f), 1, 1, 1, 1), "  ", "##"); }},
+    {"Teclas", "Carteles", "Fondos", "cada letra en su tecla", "Palo", kMargen, 0,
+     [](const Filas&, int code) { return Key(code); }},
+    {"Cursiva", "Inclinadas", "Adelante", "de imprenta, tumbada", "Antigua", kMargen, 1,
+     [](const Filas& f, int) { return Sellar(Inclinar(DeTinta(f), 2), "/", " "); }},
+    {"Inclinada", "Inclinadas", "Adelante", "trazo fino hacia delante", "Inclinada", kMargen, 1, Drawn},
+    {"Toldo", "Contornos", "Finos", "contorno con sombra", "Palo", kMargen, 1,
+     [](const Filas& f, int) { return Sombrear(DeTinta(f), 2); }},
+    {"Globo", "Contornos", "Gruesos", "letras vacías y redondas", "Palo", kMargen, 1,
+     [](const Filas& f, int) {
+       return Doblar(Halo(Orlar(Suavizar(Ampliar(DeTinta(f), 2, 2)), 1, 2, 1, 2)), " .':");
      }},
-    {"Rayada", "Texturas", "Tramas", "borde grueso y rayas dentro",
-     [](const Mapa& m, int) { return Padded(Hatched(m)); }},
-    {"Binaria", "Texturas", "Signos", "ceros y unos",
-     [](const Mapa& m, int) {
-       return Tramar(Ampliar(Spaced(m), 2, 1), [](int x, int y) { return (x * 7 + y * 5) % 3 ? '0' : '1'; });
+    {"Rayada", "Contornos", "Gruesos", "borde grueso y rayas dentro", "Palo", kMargen, 2,
+     [](const Filas& f, int) { return Hatched(DeTinta(f)); }},
+    {"Sombra", "Relieve", "Sombras", "sombra abajo a la derecha", "Pixel", kMargen, 1,
+     [](const Filas& f, int) {
+       return Apilar(Ampliar(DeTinta(f), 2, 1), {{1, 1, ':'}, {0, 0, '#'}});
      }},
-    {"Propia", "Texturas", "Signos", "cada letra dibujada con ella misma",
-     [](const Mapa& m, int code) { return Sellar(Spaced(m), std::string(2, OwnInk(code)), "  "); }},
-    {"Perfil", "Contornos", "Finos", "contorno de líneas", [](const Mapa& m, int) { return Perfilar(m, 2); }},
-    {"Filo", "Contornos", "Finos", "contorno de líneas estrecho",
-     [](const Mapa& m, int) { return Perfilar(m, 1); }},
-    {"Trazo", "Contornos", "Finos", "letras de un solo trazo",
-     [](const Mapa& m, int) { return Padded(Trazar(m), 2); }},
-    {"Hueca", "Contornos", "Gruesos", "letras vacías de borde grueso",
-     [](const Mapa& m, int) { return Padded(Sellar(Halo(Orlar(Ampliar(m, 2, 1), 1, 1, 1, 1)), "#", " ")); }},
-    {"Globo", "Contornos", "Gruesos", "letras vacías y redondas",
-     [](const Mapa& m, int) { return Doblar(Halo(Orlar(Suavizar(Ampliar(m, 2, 2)), 1, 2, 1, 2)), " .':"); }},
-    {"Sombra", "Relieve", "Sombras", "sombra abajo a la derecha",
-     [](const Mapa& m, int) {
-       return Padded(Apilar(Ampliar(m, 2, 1), {{1, 1, ':'}, {0, 0, '#'}}));
+    {"Eco", "Relieve", "Sombras", "dos ecos que se apagan", "Palo", kMargen, 1,
+     [](const Filas& f, int) {
+       return Apilar(Ampliar(DeTinta(f), 3, 2), {{4, 2, '.'}, {2, 1, ':'}, {0, 0, '#'}});
      }},
-    {"Eco", "Relieve", "Sombras", "dos ecos que se apagan",
-     [](const Mapa& m, int) {
-       return Padded(Apilar(Ampliar(m, 3, 2), {{4, 2, '.'}, {2, 1, ':'}, {0, 0, '#'}}));
+    {"Cubo", "Relieve", "Volumen", "letras con fondo", "Palo", kMargen, 1,
+     [](const Filas& f, int) {
+       return Apilar(Ampliar(DeTinta(f), 3, 2), {{2, -2, '/'}, {1, -1, '/'}, {0, 0, '#'}});
      }},
-    {"Relieve", "Relieve", "Volumen", "luz y sombra alrededor de la letra",
-     [](const Mapa& m, int) {
-       return Apilar(Ampliar(m, 4, 2), {{-1, -1, '.'}, {1, 1, '#'}, {0, 0, ' '}});
-     }},
-    {"Cubo", "Relieve", "Volumen", "letras con fondo",
-     [](const Mapa& m, int) {
-       return Padded(Apilar(Ampliar(m, 3, 2), {{2, -2, '/'}, {1, -1, '/'}, {0, 0, '#'}}));
-     }},
-    {"Cursiva", "Inclinadas", "Adelante", "inclinada a la derecha",
-     [](const Mapa& m, int) { return Sellar(Inclinar(Spaced(m), 4), "//", "  "); }},
-    {"Veloz", "Inclinadas", "Adelante", "inclinada y con estela", [](const Mapa& m, int) { return Fast(m); }},
-    {"Recostada", "Inclinadas", "Atrás", "inclinada a la izquierda",
-     [](const Mapa& m, int) { return Sellar(Inclinar(Spaced(m), -4), "\\\\", "  "); }},
-    {"Chica", "Tamaños", "Pequeñas", "la mitad de alta, con puntos",
-     [](const Mapa& m, int) { return Doblar(Spaced(m), " .':"); }},
-    {"Nota", "Tamaños", "Pequeñas", "la mitad de alta, inclinada",
-     [](const Mapa& m, int) { return Doblar(Inclinar(Spaced(m), 4), " ,\"#"); }},
-    {"Gigante", "Tamaños", "Grandes", "el doble, con esquinas cortadas",
-     [](const Mapa& m, int) { return Sellar(Suavizar(Spaced(m)), "##", "  "); }},
-    {"Alta", "Tamaños", "Grandes", "el doble de alta",
-     [](const Mapa& m, int) { return Sellar(Ampliar(Spaced(m), 1, 2), "||", "  "); }},
-    {"Ancha", "Tamaños", "Grandes", "el doble de ancha",
-     [](const Mapa& m, int) { return Sellar(Spaced(m), "====", "    "); }},
-    {"Puntos", "Puntos", "Luces", "bombillas sueltas",
-     [](const Mapa& m, int) { return Sellar(Spaced(m), "o ", "  "); }},
-    {"Estrellas", "Puntos", "Luces", "estrellas sueltas",
-     [](const Mapa& m, int) {
-       return Tramar(Ampliar(Spaced(m), 4, 2), [](int x, int y) { return (x + 2 * y) % 4 ? ' ' : '*'; });
-     }},
-    {"Perlas", "Puntos", "Hilos", "perlas en hilos",
-     [](const Mapa& m, int) {
-       Filas rows = Padded(Trazar(m), 2);
-       for (std::size_t y = 0; y < rows.size(); ++y)
-         for (std::size_t x = 0; x < rows[y].size(); x += 2)
-           if (rows[y][x] != ' ') rows[y][x] = 'O';
-       return rows;
-     }},
-    {"Marcador", "Carteles", "Tableros", "luces sobre un tablero de puntos",
-     [](const Mapa& m, int) { return Sellar(Orlar(m, 1, 0, 1, 0), "O ", ". "); }},
-    {"Fichas", "Carteles", "Tableros", "cada letra en su ficha", [](const Mapa& m, int) { return Tile(m); }},
-    {"Negativa", "Carteles", "Fondos", "letras claras sobre fondo oscuro",
-     [](const Mapa& m, int) { return Sellar(Orlar(m, 1, 1, 1, 1), "  ", "##"); }},
 };
 
 }  // namespace pixmosa::letras

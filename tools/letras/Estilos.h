@@ -1,4 +1,4 @@
-// The styles: each makes one font of the master alphabet.
+// The styles: each makes one font of a sheet.
 #pragma once
 
 #include <string_view>
@@ -8,11 +8,16 @@
 
 namespace pixmosa::letras {
 
-// `paint` gets the shape of a letter without blank columns at its sides, at least a column wide, and its
-// code; the rows it gives hold the blank between letters too.
+// How letters that are pushed together meet (the header's number): they keep their margin, or share an edge
+// where both have the same character or one has a line below.
+enum Junta : int { kMargen = 32, kPared = 35 };
+
+// `pintar` gets a shape of the sheet, at least a column wide, and its code; `margen` columns follow it.
 struct Estilo {
-  std::string_view nombre, categoria, subcategoria, descripcion;  // UTF-8
-  Filas (*pintar)(const Mapa& m, int code);
+  std::string_view nombre, categoria, subcategoria, descripcion, hoja;  // UTF-8
+  Junta junta;
+  int margen;
+  Filas (*pintar)(const Filas& shape, int code);
 };
 
 extern const std::vector<Estilo> kEstilos;

@@ -32,6 +32,12 @@ Mapa Fill(int width, int height, Ink ink) {
 
 }  // namespace
 
+Mapa DeTinta(const std::vector<std::string>& rows) {
+  return Fill(static_cast<int>(rows.at(0).size()), static_cast<int>(rows.size()), [&](int x, int y) {
+    return rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] != ' ';
+  });
+}
+
 Mapa Ampliar(const Mapa& m, int x, int y) {
   return Fill(m.Width() * x, m.Height() * y, [&](int i, int j) { return m.At(i / x, j / y); });
 }
@@ -46,7 +52,9 @@ Mapa Suavizar(const Mapa& m) {
 }
 
 Mapa Engrosar(const Mapa& m) {
-  return Fill(m.Width() + 1, m.Height(), [&](int x, int y) { return m.At(x, y) || m.At(x - 1, y); });
+  return Fill(m.Width() + 1, m.Height() + 1, [&](int x, int y) {
+    return m.At(x, y) || m.At(x - 1, y) || m.At(x, y - 1) || m.At(x - 1, y - 1);
+  });
 }
 
 Mapa Inclinar(const Mapa& m, int rows) {
@@ -69,15 +77,6 @@ Mapa Halo(const Mapa& m) {
         if (m.At(x + i, y + j)) return !m.At(x, y);
     return false;
   });
-}
-
-Mapa Recortar(const Mapa& m) {
-  int first = m.Width(), last = -1;
-  for (int y = 0; y < m.Height(); ++y)
-    for (int x = 0; x < m.Width(); ++x)
-      if (m.At(x, y)) first = std::min(first, x), last = std::max(last, x);
-  if (last < 0) return m;
-  return Fill(last - first + 1, m.Height(), [&](int x, int y) { return m.At(x + first, y); });
 }
 
 }  // namespace pixmosa::letras

@@ -21,6 +21,9 @@ class Mapa {
   std::vector<char> ink_;
 };
 
+// What is not blank in rows of one length is ink.
+Mapa DeTinta(const std::vector<std::string>& rows);
+
 // Each pixel as `x` by `y` pixels.
 Mapa Ampliar(const Mapa& m, int x, int y);
 
@@ -28,7 +31,7 @@ Mapa Ampliar(const Mapa& m, int x, int y);
 // agree and the two across from them do not.
 Mapa Suavizar(const Mapa& m);
 
-// Every stroke a pixel thicker to the right.
+// Every stroke a pixel thicker to the right and down.
 Mapa Engrosar(const Mapa& m);
 
 // Rows pushed sideways, one pixel for every `rows` rows; to the right at the top for a positive number.
@@ -39,8 +42,5 @@ Mapa Orlar(const Mapa& m, int left, int top, int right, int bottom);
 
 // Paper that touches ink, the corners too; the map must have a blank border for it.
 Mapa Halo(const Mapa& m);
-
-// Blank columns at both sides cut off; an empty map stays as it is.
-Mapa Recortar(const Mapa& m);
 
 }  // namespace pixmosa::letras

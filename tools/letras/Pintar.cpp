@@ -22,34 +22,6 @@ Filas Paint(int width, int height, Pick pick) {
   return rows;
 }
 
-bool Upright(const Mapa& m, int x, int y) {
-  return m.At(x, y - 1) || m.At(x, y + 1);
-}
-
-// Where a level stroke ends in a slanting one: the slanting character, otherwise 0.
-char Bend(const Mapa& m, int x, int y) {
-  const bool left = m.At(x - 1, y), right = m.At(x + 1, y);
-  if (!m.At(x, y) || left == right || Upright(m, x, y)) return 0;
-  const int away = left ? 1 : -1;
-  const bool up = m.At(x + away, y - 1), down = m.At(x + away, y + 1);
-  if (up == down) return 0;
-  return up == left ? '/' : '\\';
-}
-
-// The character of a pixel of a stroke.
-char Joint(const Mapa& m, int x, int y) {
-  if (!m.At(x, y)) return ' ';
-  if (const char bend = Bend(m, x, y)) return bend;
-  const auto joins = [&](int i) { return m.At(i, y) && !(Upright(m, x, y) && Bend(m, i, y)); };
-  if (joins(x - 1) || joins(x + 1)) return Upright(m, x, y) ? '+' : '-';
-  if (Upright(m, x, y)) return '|';
-  const bool rising = m.At(x + 1, y - 1) || m.At(x - 1, y + 1);
-  const bool falling = m.At(x - 1, y - 1) || m.At(x + 1, y + 1);
-  if (m.At(x - 1, y - 1) && m.At(x + 1, y - 1) && !m.At(x - 1, y + 1) && !m.At(x + 1, y + 1)) return 'V';
-  if (rising && falling) return 'X';
-  return rising ? '/' : falling ? '\\' : 'o';
-}
-
 }  // namespace
 
 Filas Sellar(const Mapa& m, std::string_view ink, std::string_view paper) {
@@ -88,6 +60,16 @@ Filas Perfilar(const Mapa& m, int inside) {
   });
 }
 
+Filas Sombrear(const Mapa& m, int inside) {
+  const int pitch = inside + 1;
+  const Filas outline = Perfilar(Orlar(m, 0, 0, 1, 1), inside);
+  return Paint(static_cast<int>(outline[0].size()), static_cast<int>(outline.size()), [&](int x, int y) {
+    const char c = outline[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)];
+    const bool shade = !m.At(x / pitch, y - 1) && x >= 2 && m.At((x - 2) / pitch, y - 2);
+    return c == ' ' && shade ? ':' : c;
+  });
+}
+
 Filas Doblar(const Mapa& m, std::string_view chars) {
   return Paint(m.Width(), m.Height() / 2, [&](int x, int y) {
     return chars[static_cast<std::size_t>(m.At(x, 2 * y) * 2 + m.At(x, 2 * y + 1))];
@@ -100,23 +82,6 @@ Filas Cuartear(const Mapa& m, std::string_view chars) {
     return chars[static_cast<std::size_t>(m.At(x, y) * 8 + m.At(x + 1, y) * 4 + m.At(x, y + 1) * 2 +
                                           m.At(x + 1, y + 1))];
   });
-}
-
-Filas Trazar(const Mapa& m) {
-  return Paint(2 * m.Width() - 1, m.Height(), [&](int i, int y) {
-    const int x = i / 2;
-    if (i % 2 == 0) return Joint(m, x, y);
-    const bool bends = (Bend(m, x, y) && Upright(m, x + 1, y)) || (Bend(m, x + 1, y) && Upright(m, x, y));
-    return m.At(x, y) && m.At(x + 1, y) && !bends ? '-' : ' ';
-  });
-}
-
-Filas Enmarcar(const Filas& rows) {
-  const std::string edge = "+" + std::string(rows.at(0).size(), '-') + "+";
-  Filas framed{edge};
-  for (const std::string& row : rows) framed.push_back("|" + row + "|");
-  framed.push_back(edge);
-  return framed;
 }
 
 }  // namespace pixmosa::letras

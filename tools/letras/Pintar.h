@@ -7,11 +7,10 @@
 #include <string_view>
 #include <vector>
 
+#include "tools/letras/Hoja.h"
 #include "tools/letras/Mapa.h"
 
 namespace pixmosa::letras {
-
-using Filas = std::vector<std::string>;
 
 // A pixel is `ink` or `paper`, texts of one length.
 Filas Sellar(const Mapa& m, std::string_view ink, std::string_view paper);
@@ -29,17 +28,14 @@ Filas Apilar(const Mapa& m, const std::vector<Capa>& layers);
 // The edges between ink and paper with "_" and "|"; a pixel is `inside` characters wide between its sides.
 Filas Perfilar(const Mapa& m, int inside);
 
+// The same with a shade of ":" to the right and below.
+Filas Sombrear(const Mapa& m, int inside);
+
 // Two rows of pixels in a row of characters: `chars` has those for none, the lower, the upper and both.
 Filas Doblar(const Mapa& m, std::string_view chars);
 
 // Two by two pixels in a character: `chars` has the 16 for upper left 8, upper right 4, lower left 2, lower
 // right 1.
 Filas Cuartear(const Mapa& m, std::string_view chars);
-
-// The strokes with "-", "|", "/", "\" and "+" by the neighbours that a pixel has; a column between pixels.
-Filas Trazar(const Mapa& m);
-
-// Rows within a frame of "+", "-" and "|".
-Filas Enmarcar(const Filas& rows);
 
 }  // namespace pixmosa::letras

@@ -11,11 +11,10 @@
 int main(int argc, char** argv) {
   using namespace pixmosa;
   using namespace pixmosa::letras;
-  const Alfabeto master = Maestra();
-  const std::filesystem::path folder = "data/Fonts";
+  const std::filesystem::path folder = "data/Fonts", sheets = "tools/letras/hojas";
   for (const Estilo& style : kEstilos) {
     if (argc > 2 && std::find(argv + 2, argv + argc, style.nombre) == argv + argc) continue;
-    const Letras letters = Pintadas(master, style);
+    const Letras letters = Pintadas(LeerHoja(sheets, std::string(style.hoja)), style);
     if (argc > 1)
       std::cout << style.nombre << '\n' << Utf8OfBytes(Letrero(letters, BytesOfUtf8(argv[1]))) << '\n';
     else
