@@ -9,6 +9,7 @@
 #include <QProgressBar>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QToolBar>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -67,7 +68,9 @@ frmMain::frmMain(Programa& program, const Escritorio& desktop)
   ActualizarAcciones();
 }
 
-frmMain::~frmMain() = default;
+frmMain::~frmMain() {
+  EsperarAbandonadas();
+}
 
 void frmMain::CrearMenus() {
   imagen_ = new MenuDeImagen(p_, progreso_, desktop_.dialogos, this);

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,6 +25,7 @@
 class QCheckBox;
 class QLabel;
 class QProgressBar;
+class QTemporaryDir;
 class QPushButton;
 class QToolBar;
 class QToolButton;
@@ -182,6 +184,21 @@ class frmMain final : public QMainWindow {
   void HacerSitio();       // the panels at its right give way to a sentence that would be cut
   void Ocupar(bool busy);  // while a long work lets events in: nothing else can be started
   void Cancelar();
+
+  // --- frmMain_Espera.cpp ---
+  // Runs work beside the window, whose bar and button appear where it takes longer than a moment, and gives
+  // its result. Given up it ends unseen: it owns what it touches, apart from the codec and the text surface.
+  // Throws what it throws, and TrabajoCancelado.
+  template <typename Work>
+  auto Esperar(Work work) {
+    auto result = std::make_shared<decltype(work())>();
+    EsperarA([result, work] { *result = work(); });
+    return std::move(*result);
+  }
+  struct Espera;
+  void EsperarA(std::function<void()> work);
+  void EsperarMirando(const std::shared_ptr<Espera>& wait, int milliseconds);
+  void EsperarAbandonadas();
   void NombrarArchivo(const QString& what, const std::string& file);
 
   // --- frmMain_Ver.cpp: how near picture and drawing are seen ---
@@ -236,7 +253,9 @@ class frmMain final : public QMainWindow {
   bool ocupada_ = false;        // a page is being written
   bool cancelada_ = false;      // the user wants it no longer
   bool cerrarDespues_ = false;  // and closed the window
+  std::vector<std::shared_ptr<Espera>> abandonadas_;
   QElapsedTimer desdeElTexto_;
+  std::unique_ptr<QTemporaryDir> arrastres_;  // files of pictures that were dragged out
   std::vector<std::string> recientes_;        // pictures by path, the newest first
   Qt::Alignment alineacion_ = Qt::AlignLeft;  // of banners; pictures' texts lie at the left
   int caducadoPor_ = 0;

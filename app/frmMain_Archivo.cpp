@@ -29,7 +29,14 @@ void frmMain::CargarImagen() {
 bool frmMain::AbrirImagen(const std::filesystem::path& file) {
   std::string warning;
   try {
-    warning = pixmosa::CargarImagen(p_, file);
+    warning = CargarLeida(p_, file, Esperar([codec = &p_.codec, file] {
+                            ImagenLeida read;
+                            read.imagen = codec->Read(file, &read.aviso);
+                            return read;
+                          }));
+  } catch (const TrabajoCancelado&) {
+    Decir(QStringLiteral("Carga cancelada."));
+    return true;
   } catch (const std::exception& e) {
     desktop_.dialogos.Fail("No se ha podido cargar la imagen", "Error en la carga", FraseDe(e));
     return false;

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QMimeData>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -87,7 +88,9 @@ void frmMain::ArrastrarImagen() {
   std::filesystem::path file = p_.archivo;
   std::error_code none;
   if (!PasosDados(p_).empty() || !std::filesystem::exists(file, none)) {
-    file = p_.basGif.carpeta / ((p_.archivo.empty() ? "imagen" : NombreDeImagen(p_)) + ".png");
+    if (!arrastres_) arrastres_ = std::make_unique<QTemporaryDir>();
+    file = std::filesystem::path(arrastres_->path().toStdString()) /
+           ((p_.archivo.empty() ? "imagen" : NombreDeImagen(p_)) + ".png");
     EscribirArchivo(file, p_.codec.Encode(p_.imagen.picMain, "png"));
   }
   auto* carried = new QMimeData;

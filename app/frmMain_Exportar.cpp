@@ -41,7 +41,7 @@ Medios frmMain::MediosDeExportar() {
           p_.ajustes.font,
           {p_.basAscii.CellWidth, p_.basAscii.CellHeight},
           [](const Picture& picture) { return EscribirPng(picture, Empaquetado::Pequeno); },
-          [this](std::string_view text) { return TextoGuardado(p_.ajustes.font, text); }};
+          [font = p_.ajustes.font](std::string_view text) { return TextoGuardado(font, text); }};
 }
 
 std::string frmMain::EnFormato(const Dibujo& drawing, const Formato& format) {
@@ -63,7 +63,10 @@ void frmMain::Exportar() {
   Intentar(
       desktop_.dialogos,
       [&] {
-        EscribirArchivo(file, EnFormato(DibujoDeVentana(p_, txtAscii_->Utf8()), *format));
+        const auto drawing = std::make_shared<Dibujo>(DibujoDeVentana(p_, txtAscii_->Utf8()));
+        EscribirArchivo(file, Esperar([drawing, format, options = p_.exportar, means = MediosDeExportar()] {
+                          return format->escribir(*drawing, options, means);
+                        }));
         NombrarArchivo(QStringLiteral("Dibujo exportado"), file);
       },
       "Error al guardar");

@@ -107,7 +107,10 @@ void frmMain::GuardarImagen() {
       desktop_.dialogos,
       [&] {
         const std::string ending = std::filesystem::path(file).extension().string();
-        EscribirArchivo(file, p_.codec.Encode(p_.imagen.picMain, ending.empty() ? "png" : ending.substr(1)));
+        const std::string format = ending.empty() ? "png" : ending.substr(1);
+        EscribirArchivo(file, Esperar([codec = &p_.codec, picture = p_.imagen.picMain, format] {
+                          return codec->Encode(picture, format);
+                        }));
         NombrarArchivo(QStringLiteral("Imagen guardada"), file);
       },
       "Error al guardar");

@@ -22,17 +22,21 @@ bool EstaEntero(const std::filesystem::path& file) {
 }  // namespace
 
 std::string CargarImagen(Programa& p, const std::filesystem::path& file) {
-  std::string warning;
-  Picture loaded = p.codec.Read(file, &warning);
+  ImagenLeida read;
+  read.imagen = p.codec.Read(file, &read.aviso);
+  return CargarLeida(p, file, std::move(read));
+}
+
+std::string CargarLeida(Programa& p, const std::filesystem::path& file, ImagenLeida read) {
   const bool gif = TerminaEnGif(file), frames = gif && !p.basGif.carpeta.empty();
   if (frames) CortarGif(p.basGif, file);
-  p.imagen.Cargar(std::move(loaded));
+  p.imagen.Cargar(std::move(read.imagen));
   p.archivo = file;
   p.animArtDisponible = frames && p.basGif.AnimArtDisponible();
   p.animArt = p.animArt && p.animArtDisponible;
   if (gif && !EstaEntero(file)) return "El GIF está incompleto: se muestra lo que hay de él.";
   if (frames && !p.basGif.PorQueNo.empty()) return "No se puede animar: " + p.basGif.PorQueNo;
-  return warning;
+  return read.aviso;
 }
 
 void PonerImagen(Programa& p, Picture picture) {

@@ -14,6 +14,13 @@ namespace pixmosa {
 // and then everything is as it was.
 std::string CargarImagen(Programa& p, const std::filesystem::path& file);
 
+// What the codec read of a file, which may be read beside everything else; CargarLeida does the rest.
+struct ImagenLeida {
+  Picture imagen;
+  std::string aviso;
+};
+std::string CargarLeida(Programa& p, const std::filesystem::path& file, ImagenLeida read);
+
 // The same for a picture that is there already, of no file.
 void PonerImagen(Programa& p, Picture picture);
 

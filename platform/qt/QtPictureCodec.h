@@ -10,7 +10,7 @@
 
 namespace pixmosa {
 
-class QtPictureCodec final : public PictureCodec {
+class QtPictureCodec : public PictureCodec {
  public:
   // `mientras` is called about every 15 ms while the decoding process works. `decodificador` is its program;
   // without one, the program that ships with this one.

@@ -29,6 +29,10 @@ void QtProgress::Show() {
   bar_->show();
 }
 
+void QtProgress::SinFin() {
+  if (bar_) bar_->setRange(0, 0);
+}
+
 void QtProgress::Hide() {
   if (bar_) bar_->hide();
   if (boton_) boton_->hide();

@@ -23,6 +23,9 @@ class QtProgress final : public Progress {
   void SetValue(int percent) override;
   void Yield() override;
 
+  // The bar only shows that the work goes on.
+  void SinFin();
+
   // The next yield of the work that runs throws TrabajoCancelado.
   void Cancelar() { cancelado_ = true; }
 

@@ -2,6 +2,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -51,6 +53,7 @@ class ImagenTest : public QObject {
   void RecipesAreKeptAndAppliedFromTheMenu();
   void TheLastEffectIsRepeated();
   void ALongEffectCanBeCancelled();
+  void ALongLoadingShowsItselfAndCanBeGivenUp();
 };
 
 void ImagenTest::APartIsMarkedMovedSizedAndCut() {
@@ -151,6 +154,24 @@ void ImagenTest::ALongEffectCanBeCancelled() {
   QCOMPARE(m.Now().ColourAt(1000, 1000), Rgb(10, 20, 30));
   QVERIFY(m.dialogs.log.size() == 1);  // the one that loaded
   QVERIFY(Find<QLabel>(m.window, "lblEnlace").text().startsWith("Cancelado"));
+}
+
+void ImagenTest::ALongLoadingShowsItselfAndCanBeGivenUp() {
+  Window m;
+  m.Load(Grays({{10, 20}}), "antes.png");
+  m.pictures.milisegundos = 600;
+  for (const bool wait : {true, false}) {
+    bool shown = false, free = true;
+    QTimer::singleShot(450, &m.window, [&] {
+      shown = Find<QProgressBar>(m.window, "prgBar1").isVisible();
+      free = m.window.menuBar()->isEnabled();
+      if (!wait) QTest::keyClick(&m.window, Qt::Key_Escape);
+    });
+    m.Load(Grays({{30, 40, 50}}), wait ? "nueva.png" : "otra.png");
+    QVERIFY(shown && !free && m.window.menuBar()->isEnabled());
+    QCOMPARE(NombreDeImagen(m.program), "nueva");
+  }
+  QCOMPARE(Find<QLabel>(m.window, "lblEnlace").text(), "Carga cancelada.");
 }
 
 QTEST_MAIN(ImagenTest)

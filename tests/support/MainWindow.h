@@ -1,6 +1,8 @@
 // The real main window over recording dialogs and desktop, driven by control names.
 #pragma once
 
+#include <thread>
+
 #include <QAction>
 #include <QApplication>
 #include <QTest>
@@ -20,12 +22,21 @@
 
 namespace pixmosa::test {
 
+// Reads as late as it is told.
+struct CodecTardo : QtPictureCodec {
+  int milisegundos = 0;
+  Picture Read(const std::filesystem::path& file, std::string* aviso) override {
+    std::this_thread::sleep_for(std::chrono::milliseconds(milisegundos));
+    return QtPictureCodec::Read(file, aviso);
+  }
+};
+
 struct MainWindow {
   std::filesystem::path fonts;
   TestFolder folder;
   TestFolder scratch;
   QtTextSurface surface;
-  QtPictureCodec pictures;
+  CodecTardo pictures;
   RecordingDialogs dialogs;
   RecordingShell shell;
   FakeRegistry registry;
