@@ -63,6 +63,9 @@ class Argumentos {
   std::map<std::string, std::string> valores_;
 };
 
+// A colour as R,G,B, each from 0 to 255, or nothing.
+std::optional<Colour> ColorDeTexto(const std::string& text);
+
 // The whole of `text` as a decimal integer within minimo..maximo, or nothing.
 std::optional<int> EnteroDeTexto(std::string_view text, int minimo, int maximo);
 
