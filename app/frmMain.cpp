@@ -172,6 +172,7 @@ void frmMain::CrearPaneles() {
   CrearLetreros();
   opciones_ = new frmOpcAlgoritmo(p_, desktop_.dialogos, PicAlgoritmos_);
   QGridLayout* area = Superpuestos({figlet_, opciones_});
+  area->setAlignment(figlet_, {});  // as high as there is room
   area->setContentsMargins(0, 0, 0, 0);
   PicAlgoritmos_->setLayout(area);
   Dialogs& dialogs = desktop_.dialogos;

@@ -139,7 +139,7 @@ class frmMain final : public QMainWindow {
   // --- frmMain_Modos.cpp ---
   void ElegirModo(Modo mode);
   void PresentarModo();  // the chosen one's icon and sentence
-  void PonerLetrero(const std::string& banner);
+  void PonerLetrero(const std::string& banner, const std::string& utf8);
   void MostrarLetreros(bool shown);  // the banner panel in front of the options, or not
 
   // --- frmMain_Web.cpp ---

@@ -24,7 +24,7 @@ bool Dibujada(const FuenteFiglet& font, char32_t c) {
 
 std::u32string FilaDe(std::string_view bytes) {
   std::u32string row;
-  for (const char c : bytes.substr(0, kMasColumnas))
+  for (const char c : bytes.substr(0, kMasColumnasDeLetra))
     row += c == '$' ? kBlancoDuro : UnicodeOfByte(static_cast<unsigned char>(c));
   return row;
 }

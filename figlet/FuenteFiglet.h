@@ -18,7 +18,7 @@ namespace pixmosa {
 inline constexpr char32_t kBlancoDuro = 0x110000;
 
 // No row of a character is longer.
-inline constexpr std::size_t kMasColumnas = 4096;
+inline constexpr std::size_t kMasColumnasDeLetra = 4096;
 
 // A character's rows; a shorter one is blank to the length of the longest.
 using Letra = std::vector<std::u32string>;

@@ -218,7 +218,7 @@ FuenteFiglet LeerFuente(std::string_view font, const std::string& name) {
   if (!read.comments.empty()) whole.comentario = "\r\n" + read.comments.substr(0, read.comments.size() - 2);
   for (auto& [code, glyph] : read.glyphs) {
     for (std::u32string& row : glyph.rows)
-      if (row.size() > kMasColumnas) row.resize(kMasColumnas);
+      if (row.size() > kMasColumnasDeLetra) row.resize(kMasColumnasDeLetra);
     whole.letras.emplace(code, std::move(glyph.rows));
   }
   return whole;

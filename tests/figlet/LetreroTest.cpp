@@ -56,7 +56,7 @@ TEST(Letrero, AnyFontIsReadAsItIs) {
   EXPECT_EQ(BytesDe(blocks.Dibujar("AB", {})), "B#\"\xF1\r\n");
   EXPECT_EQ(Utf8De(FuenteEnUso(LeerFuente(test::OwnFont(), "f")).Dibujar("€ñ", {})), "€1ñ1\r\n€2ñ2\r\n");
   EXPECT_EQ(LeerFuente(FontOf(std::string(5000, 'x'), "flf2a$ 1 1 8 0 0"), "f").De(U'A')[0].size(),
-            kMasColumnas);
+            kMasColumnasDeLetra);
 }
 
 TEST(Letrero, HeadersSayHowLettersStand) {
