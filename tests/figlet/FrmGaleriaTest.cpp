@@ -66,7 +66,7 @@ class FrmGaleriaTest : public QObject {
     QCOMPARE(p.Row(1).data().toString(), "beta\nñ1\nñ2");
     p.Get<QComboBox>("cboComposicion").setCurrentText("Fundir");
     p.In<AreaDeTexto>("txtTextoGaleria").PonerTexto("aaaa\r\n");
-    QCOMPARE(p.Row(2).data().toString(), "Gama Ancha\naaaaaa");
+    QCOMPARE(p.Row(2).data().toString(), "Gama Ancha\naaaaaaaaaaaaaaaaaaaaa");
     QTest::mouseClick(p.List().viewport(), Qt::LeftButton, {}, p.List().visualRect(p.Row(1)).center());
     QCOMPARE(p.font.Comment, "\r\nLa segunda");
     QCOMPARE(p.Get<QListWidget>("lsvFuentesFig").currentItem()->text(), "beta.flf");
