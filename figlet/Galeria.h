@@ -24,8 +24,8 @@ struct FichaDeFuente {
 
 // What a shown font has to be; the default lets every one pass.
 struct CribaDeFuentes {
-  std::string nombre;  // part of its name, in any case
-  std::string categoria;
+  std::string nombre{};  // part of its name, in any case
+  std::string categoria{};
   const Favoritas* favoritas = nullptr;
   bool espanol = false, porAltura = false;
   std::size_t altura = 0, anchura = 0;  // at most; 0 does not matter

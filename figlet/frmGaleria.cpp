@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -82,7 +83,7 @@ frmGaleria::frmGaleria(std::vector<std::filesystem::path> folders, Registry& reg
   Conectar();
   MostrarFavorita();
   MostrarCuantas();
-  resize(780, 680);
+  resize(QSize(780, 680).boundedTo(screen()->availableSize() - QSize(32, 64)));
 }
 
 QLayout* frmGaleria::CrearBusqueda() {
