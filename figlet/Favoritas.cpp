@@ -13,8 +13,11 @@ Favoritas LeerFavoritas(Registry& registry) {
   const auto value = registry.Query(kClave, kNombre);
   if (!value || value->type != RegistryType::Binary) return names;
   std::string_view rest = value->data;
-  for (std::size_t end; (end = rest.find(kFin)) != std::string_view::npos; rest.remove_prefix(end + 1))
+  while (rest.find(kFin) != std::string_view::npos) {
+    const std::size_t end = rest.find(kFin);
     names.emplace(rest.substr(0, end));
+    rest.remove_prefix(end + 1);
+  }
   return names;
 }
 

@@ -107,6 +107,7 @@ QToolBar* frmFiglet::CrearVistas() {
     connect(Boton(bar, group, name, icon), &QAction::triggered, this, [this, list] {
       lsvFuentesFig_->setVisible(list);
       tvwFigFonts_->setVisible(!list);
+      if (tvwFigFonts_->currentItem()) tvwFigFonts_->scrollToItem(tvwFigFonts_->currentItem());
     });
   };
   view("Lista simple", "view-list", true);

@@ -93,11 +93,12 @@ void frmFiglet::Senalar(const std::string& name) {
     if (lsvFuentesFig_->item(row)->data(Qt::UserRole).toString() == file) lsvFuentesFig_->setCurrentRow(row);
   const QTreeWidgetItem* current = tvwFigFonts_->currentItem();
   if (current && current->text(0) == text && current->childCount() == 0) return;
-  // Only where it can be seen: the tree keeps its open branches.
   tvwFigFonts_->setCurrentItem(nullptr);
-  for (QTreeWidgetItemIterator at(tvwFigFonts_); *at; ++at)
-    if ((*at)->text(0) == text && (*at)->parent() && (*at)->parent()->isExpanded())
-      tvwFigFonts_->setCurrentItem(*at);
+  for (QTreeWidgetItemIterator at(tvwFigFonts_); *at; ++at) {
+    if ((*at)->text(0) != text || !(*at)->parent() || (*at)->childCount() > 0) continue;
+    tvwFigFonts_->setCurrentItem(*at);
+    return;
+  }
 }
 
 QMenu* frmFiglet::CrearMenuDeAgregar() {
