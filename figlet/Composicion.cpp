@@ -1,6 +1,7 @@
 #include "figlet/Composicion.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "figlet/Apilar.h"
 #include "figlet/Fundir.h"
@@ -8,7 +9,7 @@
 namespace pixmosa {
 namespace {
 
-constexpr std::size_t kMasCeldas = 40'000'000;
+constexpr std::size_t kMasCeldas = 40'000'000, kFilaVacia = 8;  // what a row takes without characters
 
 using Filas = std::vector<std::u32string>;
 
@@ -129,17 +130,21 @@ class Renglones {
       at = end;
     }
     Cerrar();
-    return std::move(done_);
+    return std::exchange(done_, {});
   }
 
  private:
+  static void Comprobar(std::size_t cells) {
+    if (cells > kMasCeldas)
+      throw LetreroExcesivo("El letrero es demasiado grande: pasa de 40 millones de caracteres.");
+  }
+
   bool Cabe(const Renglon& line) const { return width_ == 0 || line.Ancho() <= width_; }
 
   void Poner(Renglon& line, std::u32string_view text) {
     for (const char32_t c : text) {
       line.Poner(font_.De(c));
-      if (line.Ancho() * font_.altura > kMasCeldas)
-        throw LetreroExcesivo("El letrero es demasiado grande: pasa de 40 millones de caracteres.");
+      Comprobar(line.Ancho() * font_.altura);
       if (!Cabe(line)) return;
     }
   }
@@ -175,6 +180,8 @@ class Renglones {
   }
 
   void Cerrar() {
+    celdas_ += (line_.Ancho() + kFilaVacia) * font_.altura;
+    Comprobar(celdas_);
     done_.push_back(line_.Llevarse());
     line_ = Renglon(font_.altura, mode_);
     begun_ = false;
@@ -185,6 +192,7 @@ class Renglones {
   std::size_t width_;
   Renglon line_;
   bool begun_ = false;
+  std::size_t celdas_ = 0;  // of what is done
   std::vector<Filas> done_;
 };
 
@@ -208,16 +216,12 @@ std::vector<std::u32string> Componer(const FuenteFiglet& font, std::u32string_vi
   const Modo mode = ModoDe(font.disposicion, options.composicion);
   const auto wrap = static_cast<std::size_t>(std::max(options.ancho, 0));
   std::vector<Filas> lines;
-  for (std::size_t cells = 0; !text.empty();) {
+  Renglones layout(font, mode, wrap);
+  while (!text.empty()) {
     const std::size_t end = text.find(U'\n');
     std::u32string_view line = text.substr(0, end);
     if (line.ends_with(U'\r')) line.remove_suffix(1);
-    for (Filas& rows : Renglones(font, mode, wrap).De(line)) {
-      cells += rows.empty() ? 0 : (rows[0].size() + 1) * rows.size();
-      lines.push_back(std::move(rows));
-    }
-    if (cells > kMasCeldas)
-      throw LetreroExcesivo("El letrero es demasiado grande: pasa de 40 millones de caracteres.");
+    for (Filas& rows : layout.De(line)) lines.push_back(std::move(rows));
     if (end == std::u32string_view::npos) break;
     text.remove_prefix(end + 1);
     if (text.empty()) lines.emplace_back(font.altura);

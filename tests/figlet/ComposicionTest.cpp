@@ -145,7 +145,7 @@ TEST(Composicion, NoFontGrowsWhereItsLettersMove) {
     if (file.path().extension() != ".flf") continue;
     BasFigLet read;
     LoadFontBytes(read, LeerArchivo(file.path()), [](const std::string& f) { ADD_FAILURE() << f; });
-    const FuenteFiglet font = FuenteLeida(read);
+    const FuenteEnUso font(read);
     for (const std::u32string text : {U"Pixmosa", U"AVAW To//\\ |_|", U"¿Año?\nÑandú", U"il.,\n\nÁÉ"}) {
       SCOPED_TRACE(file.path());
       std::vector<Dibujo> drawn;
@@ -153,7 +153,7 @@ TEST(Composicion, NoFontGrowsWhereItsLettersMove) {
       for (const char32_t c : text) AppendUtf8(utf8, c);
       std::size_t columns = SIZE_MAX, rows = SIZE_MAX;
       for (const Composicion how : {Completo, Juntar, Fundir}) {
-        const Dibujo banner = FuenteEnUso(read).Dibujar(utf8, {{how}, {}});
+        const Dibujo banner = font.Dibujar(utf8, {{how}, {}});
         EXPECT_LE(banner.Columnas(), columns);
         EXPECT_LE(banner.filas.size(), rows);
         columns = banner.Columnas();
