@@ -222,6 +222,7 @@ void frmFiglet::Cargar(const std::string& name) {
   directa_ = false;
   cargada_ = name;
   Senalar(name);
+  if (galeria_) galeria_->Senalar(name);
   Dibujar();
 }
 

@@ -134,6 +134,10 @@ void frmGaleria::Conectar() {
   connect(txtTextoGaleria_, &QPlainTextEdit::textChanged, this,
           [this] { emit TextoCambiado(txtTextoGaleria_->Utf8()); });
   connect(txtBuscarFuente_, &QLineEdit::textChanged, this, &frmGaleria::Cribar);
+  connect(txtBuscarFuente_, &QLineEdit::returnPressed, this, [this] {
+    if (!lsvGaleria_->currentIndex().isValid()) lsvGaleria_->setCurrentIndex(modelo_->index(0));
+    Elegir(lsvGaleria_->currentIndex());
+  });
   connect(cboCategoria_, &QComboBox::currentIndexChanged, this, &frmGaleria::Cribar);
   connect(cboOrden_, &QComboBox::currentIndexChanged, this, &frmGaleria::Cribar);
   connect(chkEspanol_, &QCheckBox::toggled, this, &frmGaleria::Cribar);

@@ -81,7 +81,12 @@ class FrmGaleriaTest : public QObject {
     QCOMPARE(p.Names(), "alfa beta Gama Ancha ");
     QTest::keyClicks(&p.In<QLineEdit>("txtBuscarFuente"), "ANCH");
     QCOMPARE(p.Names(), "Gama Ancha ");
+    QTest::keyClick(&p.In<QLineEdit>("txtBuscarFuente"), Qt::Key_Return);
+    QCOMPARE(p.Get<QListWidget>("lsvFuentesFig").currentItem()->text(), "Gama Ancha.flf");
+    p.Click(p.Get<QListWidget>("lsvFuentesFig"), p.Get<QListWidget>("lsvFuentesFig").item(0));
     p.In<QLineEdit>("txtBuscarFuente").clear();
+    p.Click(p.Get<QListWidget>("lsvFuentesFig"), p.Get<QListWidget>("lsvFuentesFig").item(1));
+    QCOMPARE(p.List().currentIndex().row(), 1);
     p.In<QCheckBox>("chkEspanol").click();
     QCOMPARE(p.Names(), "alfa beta ");
     p.In<QCheckBox>("chkEspanol").click();
