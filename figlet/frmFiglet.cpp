@@ -239,7 +239,7 @@ void frmFiglet::Dibujar() {
   });
 }
 
-void frmFiglet::Mostrar(std::string banner, std::string utf8) {
+void frmFiglet::Mostrar(std::string banner, const std::string& utf8) {
   font_.Banner = std::move(banner);
   emit LetreroCambiado(font_.Banner, utf8);
 }

@@ -69,7 +69,7 @@ class frmFiglet final : public QWidget {
   void Conectar();
   void Cargar(const std::string& name);
   void Dibujar();
-  void Mostrar(std::string banner, std::string utf8 = {});
+  void Mostrar(std::string banner, const std::string& utf8 = {});
   void Alinear();
   void AbrirGaleria();
 
