@@ -179,6 +179,7 @@ void frmMain::CrearBarraDeEstado() {
 void frmMain::CrearPaneles() {
   CrearLetreros();
   QGridLayout* area = Superpuestos({figlet_});
+  area->setAlignment(figlet_, {});  // as high as there is room
   area->setContentsMargins(0, 0, 0, 0);
   PicAlgoritmos_->setLayout(area);
   CrearOpciones();

@@ -166,7 +166,7 @@ class frmMain final : public QMainWindow {
   // --- frmMain_Modos.cpp ---
   void ElegirModo(Modo mode);
   void PresentarModo();  // the chosen one's icon and sentence
-  void PonerLetrero(const std::string& banner);
+  void PonerLetrero(const std::string& banner, const std::string& utf8);
   void MostrarLetreros(bool shown);  // the banner panel in front of the options, or not
 
   // --- frmMain_Web.cpp ---
@@ -196,7 +196,7 @@ class frmMain final : public QMainWindow {
     return std::move(*result);
   }
   struct Espera;
-  void EsperarA(std::function<void()> work);
+  void EsperarA(const std::function<void()>& work);
   void EsperarMirando(const std::shared_ptr<Espera>& wait, int milliseconds);
   void EsperarAbandonadas();
   void NombrarArchivo(const QString& what, const std::string& file);

@@ -2,6 +2,7 @@
 // and can give it up.
 #include <condition_variable>
 #include <mutex>
+#include <system_error>
 #include <thread>
 
 #include <QCoreApplication>
@@ -22,23 +23,28 @@ struct frmMain::Espera {
   }
 };
 
-void frmMain::EsperarA(std::function<void()> work) {
+void frmMain::EsperarA(const std::function<void()>& work) {
   constexpr int kUnMomento = 300, kEntreEventos = 15;  // milliseconds
   if (ocupada_) {
     work();
     return;
   }
   auto wait = std::make_shared<Espera>();
-  std::thread([wait, work = std::move(work)] {
-    try {
-      work();
-    } catch (...) {
-      wait->fallo = std::current_exception();
-    }
-    const std::lock_guard lock(wait->cierre);
-    wait->hecha = true;
-    wait->aviso.notify_all();
-  }).detach();
+  try {
+    std::thread([wait, work] {
+      try {
+        work();
+      } catch (...) {
+        wait->fallo = std::current_exception();
+      }
+      const std::lock_guard lock(wait->cierre);
+      wait->hecha = true;
+      wait->aviso.notify_all();
+    }).detach();
+  } catch (const std::system_error&) {  // no room for a thread
+    work();
+    return;
+  }
   if (!wait->Hecha(kUnMomento)) EsperarMirando(wait, kEntreEventos);
   if (wait->fallo) std::rethrow_exception(wait->fallo);
 }

@@ -45,7 +45,7 @@ Medios frmMain::MediosDeExportar() {
 }
 
 std::string frmMain::EnFormato(const Dibujo& drawing, const Formato& format) {
-  return format.escribir(drawing, p_.exportar, MediosDeExportar());
+  return format.escribir(drawing, OpcionesDeVentana(p_), MediosDeExportar());
 }
 
 void frmMain::Exportar() {
@@ -138,7 +138,7 @@ void frmMain::CopiarComoTexto() {
 }
 
 void frmMain::CopiarConFormato() {
-  OpcionesDeExportar options = p_.exportar;
+  OpcionesDeExportar options = OpcionesDeVentana(p_);
   options.papel = p_.fondoTexto;
   options.tinta = p_.colorTexto;
   const std::string text = txtAscii_->Utf8();

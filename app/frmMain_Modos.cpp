@@ -7,6 +7,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "app/MarcoDeImagen.h"
 #include "app/frmMain.h"
 #include "app/frmOpcAlgoritmo.h"
 #include "figlet/frmFiglet.h"
@@ -84,14 +85,15 @@ void frmMain::ElegirModo(Modo mode) {
 }
 
 void frmMain::CrearLetreros() {
-  figlet_ = new frmFiglet(p_.basFigLet, p_.carpetasDeFuentes, desktop_.dialogos, PicAlgoritmos_);
+  figlet_ = new frmFiglet(p_.basFigLet, p_.letrero, p_.carpetasDeFuentes, desktop_, PicAlgoritmos_);
   figlet_->hide();
   const auto count = [this](int fonts) {
     panelFiglet_->setText(QStringLiteral("Fuentes FigLet encontradas (%1)").arg(fonts));
   };
   connect(figlet_, &frmFiglet::ListaCambiada, this, count);
   connect(figlet_, &frmFiglet::LetreroCambiado, this,
-          Con(desktop_.dialogos, [this](const std::string& banner) { PonerLetrero(banner); }));
+          Con(desktop_.dialogos,
+              [this](const std::string& banner, const std::string& utf8) { PonerLetrero(banner, utf8); }));
   connect(figlet_, &frmFiglet::AlineacionCambiada, this, [this](Qt::Alignment alignment) {
     alineacion_ = alignment;
     txtAscii_->Alinear(alignment);
@@ -99,11 +101,15 @@ void frmMain::CrearLetreros() {
   count(figlet_->Cuantas());
 }
 
-void frmMain::PonerLetrero(const std::string& banner) {
+void frmMain::PonerLetrero(const std::string& banner, const std::string& utf8) {
   p_.basAscii.ProducedText = banner;
-  p_.basAscii.ProducedUtf8.clear();
+  p_.basAscii.ProducedUtf8 = utf8;
   p_.metodoDelTexto = -1;
-  txtAscii_->PonerTexto(banner);
+  if (utf8.empty()) {
+    txtAscii_->PonerTexto(banner);
+  } else {
+    txtAscii_->PonerUtf8(utf8);
+  }
   txtAscii_->Alinear(alineacion_);
 }
 
@@ -111,6 +117,7 @@ void frmMain::MostrarLetreros(bool shown) {
   // The options keep their own state behind the panel.
   figlet_->setVisible(shown);
   opciones_->setVisible(!shown);
+  marco_->setVisible(!shown);  // a banner has no picture: its fonts take the place
   if (shown) figlet_->PrimeraVez();
 }
 

@@ -83,13 +83,20 @@ int Argumentos::Entero(const std::string& option, int otherwise) const {
 std::optional<Colour> Argumentos::Color(const std::string& option) const {
   const std::optional<std::string> text = Texto(option);
   if (!text) return std::nullopt;
+  const std::optional<Colour> colour = ColorDeTexto(*text);
+  if (!colour)
+    throw ErrorDeUso("la opción " + option + " espera tres números de 0 a 255, como 0,0,128, no " +
+                     Citado(*text));
+  return colour;
+}
+
+std::optional<Colour> ColorDeTexto(const std::string& text) {
   std::array<int, 3> parts{};
-  const std::vector<std::string> words = Separar(*text);
+  const std::vector<std::string> words = Separar(text);
+  if (words.size() != parts.size()) return std::nullopt;
   for (std::size_t i = 0; i < words.size(); ++i) {
     const auto part = EnteroDeTexto(words[i], 0, 255);
-    if (!part || words.size() != parts.size())
-      throw ErrorDeUso("la opción " + option + " espera tres números de 0 a 255, como 0,0,128, no " +
-                       Citado(*text));
+    if (!part) return std::nullopt;
     parts[i] = *part;
   }
   return Rgb(parts[0], parts[1], parts[2]);

@@ -63,4 +63,7 @@ class Argumentos {
   std::map<std::string, std::string> valores_;
 };
 
+// A colour as R,G,B, each from 0 to 255, or nothing.
+std::optional<Colour> ColorDeTexto(const std::string& text);
+
 }  // namespace pixmosa::cli

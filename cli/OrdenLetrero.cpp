@@ -1,14 +1,16 @@
 #include <filesystem>
 
+#include "cli/AjustesDeLetrero.h"
 #include "cli/OpcionesDeDibujo.h"
 #include "cli/OpcionesDeTexto.h"
 #include "cli/Ordenes.h"
 #include "conversion/TextoGuardado.h"
 #include "figlet/Catalogo.h"
-#include "figlet/basFigLet.h"
+#include "figlet/Letrero.h"
 #include "platform/AtomicFile.h"
 #include "platform/CodePage.h"
 #include "platform/ProgramFolder.h"
+#include "platform/zip/Descomprimir.h"
 
 namespace pixmosa::cli {
 namespace {
@@ -33,39 +35,52 @@ fs::path FuenteDe(const Argumentos& arguments) {
   return named;
 }
 
-// Line breaks of the operand as the renderer wants them.
-std::string ConCrLf(const std::string& bytes) {
-  std::string text;
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    if (bytes[i] == '\n' && (i == 0 || bytes[i - 1] != '\r')) text += '\r';
-    text += bytes[i];
-  }
-  return text;
+// A banner with its rows as they are printed, as they are saved and as cells.
+struct Hecho {
+  std::string utf8, bytes;
+  Dibujo dibujo;
+};
+
+Hecho HechoDe(Dibujo drawing) {
+  return {Utf8De(drawing), BytesDe(drawing), std::move(drawing)};
+}
+
+Hecho Escribir(std::string_view bytes, const fs::path& file, const std::string& text,
+               const OpcionesDeLetrero& options) {
+  BasFigLet font;
+  bool failed = false;
+  LoadFontBytes(font, bytes, [&](const std::string&) { failed = true; });
+  if (failed) throw ErrorDeTrabajo("Error abriendo la fuente \"" + file.string() + "\".");
+  if (!EsElDeSiempre(options)) return HechoDe(FuenteEnUso(font).Dibujar(text, options));
+  const std::string banner = RenderBanner(font, TextoConCrLf(BytesOfUtf8(text)));
+  return {Utf8OfBytes(banner), banner, DibujoDeTexto(banner)};
 }
 
 int Hacer(Consola& consola, const Argumentos& arguments) {
   arguments.ExigirOperandos(1, 1, "el texto");
-  const Exportacion output(arguments);
+  Exportacion output(arguments);
+  const OpcionesDeLetrero options = LetreroPedido(arguments);
+  if (options.acabado.degradado) output.opciones.color = true;
   const std::string& operand = arguments.Operandos()[0];
-  const std::string text = ConCrLf(BytesOfUtf8(operand == "-" ? consola.LeerBytes("-") : operand));
+  const std::string text = operand == "-" ? consola.LeerBytes("-") : operand;
   const fs::path file = FuenteDe(arguments);
-  BasFigLet font;
-  bool failed = false;
-  LoadFontBytes(font, consola.LeerBytes(file.string()), [&](const std::string&) { failed = true; });
-  if (failed) throw ErrorDeTrabajo("Error abriendo la fuente \"" + file.string() + "\".");
-  const std::string banner = RenderBanner(font, text);
+  const std::string font = consola.LeerBytes(file.string());
+  const bool direct = arguments.Tiene("--directo") || LowerCase(file.extension().string()) == ".tlf";
+  const Hecho banner =
+      direct ? HechoDe(FuenteEnUso(AbrirFuente(font, file.string(), DescomprimirZip)).Dibujar(text, options))
+             : Escribir(font, file, text, options);
   // What the window would save: its header names the program's own font.
   const Font own;
   const auto target = arguments.Texto("-o");
   if (output.EsTexto()) {
     if (target) {
-      EscribirArchivo(*target, TextoGuardado(own, banner));
+      EscribirArchivo(*target, TextoGuardado(own, banner.bytes));
     } else {
-      consola.EscribirLineas(Utf8OfBytes(banner));
+      consola.EscribirLineas(banner.utf8);
     }
     return 0;
   }
-  std::string bytes = output.Bytes(consola, own, DibujoDeTexto(banner), Utf8OfBytes(text));
+  std::string bytes = output.Bytes(consola, own, banner.dibujo, Utf8OfBytes(TextoConCrLf(BytesOfUtf8(text))));
   if (target) {
     EscribirArchivo(*target, bytes);
   } else {
@@ -83,8 +98,10 @@ Orden OrdenLetrero() {
       "Escribe un texto con letras grandes de una fuente FIGlet.",
       "pixmosa-cli letrero \"¡Hola!\"",
       Juntar({{"--figlet", Tipo::Texto, "FUENTE", "un archivo .flf o el nombre de una fuente de la carpeta"},
+              {"--directo", Tipo::Interruptor, "",
+               "lee cualquier fuente FIGlet tal como es, también en zip; con un .tlf siempre"},
               {"-o", Tipo::Texto, "ARCHIVO", "archivo donde se guarda; si falta, la salida estándar"}},
-             OpcionesDeDibujo()),
+             Juntar(AjustesDeLetrero(), OpcionesDeDibujo())),
       Hacer};
 }
 

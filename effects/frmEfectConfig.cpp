@@ -233,11 +233,13 @@ void frmEfectConfig::Aplicar() {
     return;
   }
   image_.Asignar(Picture1_.picMain);
-  if (probado_) {
-    ultimos_[m_.CurrentDialogEffect] = sldEfecto_->value();
-    emit Aplicado(m_.CurrentDialogEffect, Argumento());
-  }
+  const int effect = m_.CurrentDialogEffect;
+  const std::int32_t argument = Argumento();
+  // Closed first: the picture that changes now is no other one to preview.
   accept();
+  if (!probado_) return;
+  ultimos_[effect] = sldEfecto_->value();
+  emit Aplicado(effect, argument);
 }
 
 std::int32_t frmEfectConfig::Argumento() const {

@@ -20,15 +20,10 @@ constexpr std::size_t kMostSentences = 20;
 
 using Carpetas = std::vector<fs::path>;
 
-bool EndsAsFont(const std::string& name) {
-  const std::string lower = LowerCase(name);
-  return lower.ends_with(".flf") || lower.ends_with(".tlf");
-}
-
 // A file's name without folders and without the ending of a font or a zip.
 std::string NameOf(std::string file, std::string_view separators) {
   file.erase(0, file.find_last_of(separators) + 1);
-  const bool ends = EndsAsFont(file) || LowerCase(file).ends_with(".zip");
+  const bool ends = PareceFuente(file) || LowerCase(file).ends_with(".zip");
   return ends ? file.substr(0, file.size() - 4) : file;
 }
 
@@ -37,7 +32,7 @@ Carpetas FontsIn(const fs::path& folder) {
   Carpetas files;
   std::error_code ec;
   for (fs::directory_iterator at(folder, ec), end; !ec && at != end; at.increment(ec))
-    if (EndsAsFont(at->path().filename().string())) files.push_back(at->path());
+    if (PareceFuente(at->path().filename().string())) files.push_back(at->path());
   std::sort(files.begin(), files.end());
   return files;
 }
@@ -149,12 +144,6 @@ FuenteAgregada Add(const Carpetas& folders, const std::string& file, const std::
   return Refused(file, "No se ha añadido " + Quoted(file) + ". " + e.what());
 }
 
-// Whether a file of a zip is named as a font; the companions that one system puts beside every file are not.
-bool NamedAsFont(const std::string& inner) {
-  const std::string file = inner.substr(inner.find_last_of("/\\") + 1);
-  return EndsAsFont(file) && !file.starts_with("._");
-}
-
 // Every font of a zip; its other files are passed over.
 void AddZip(const Carpetas& folders, const std::string& file, std::string_view zip,
             const Desempaquetar& unpack, std::vector<FuenteAgregada>& fonts) {
@@ -162,7 +151,7 @@ void AddZip(const Carpetas& folders, const std::string& file, std::string_view z
   std::size_t found = 0;
   try {
     for (const ArchivoComprimido& inner : unpack(zip)) {
-      const bool named = NamedAsFont(inner.nombre);
+      const bool named = PareceFuente(inner.nombre);
       if (!named && !EmpiezaComoFuente(inner.bytes)) continue;
       ++found;
       const std::string where = file + ": " + inner.nombre;
@@ -180,14 +169,10 @@ void AddZip(const Carpetas& folders, const std::string& file, std::string_view z
   }
 }
 
-bool IsZip(std::string_view bytes) {
-  return bytes.starts_with("PK\x03\x04") || bytes.starts_with("PK\x05\x06");
-}
-
 void AddFile(const Carpetas& folders, const std::string& file, const Desempaquetar& unpack,
              std::vector<FuenteAgregada>& fonts) try {
   const std::string bytes = LeerArchivo(file, kLargestFile);
-  if (IsZip(bytes)) {
+  if (EsZip(bytes)) {
     AddZip(folders, file, bytes, unpack, fonts);
   } else {
     fonts.push_back(Add(folders, file, NameOf(file, "/"), bytes));

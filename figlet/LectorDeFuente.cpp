@@ -1,8 +1,5 @@
 #include "figlet/LectorDeFuente.h"
 
-#include <charconv>
-
-#include "figlet/Parecidos.h"
 #include "figlet/Reescribir.h"
 #include "platform/CodePage.h"
 #include "platform/Lines.h"
@@ -12,21 +9,6 @@ namespace {
 
 constexpr std::int32_t kMostRows = 256;
 constexpr char32_t kBad = 0xFFFD;
-
-// The numbers of a header behind its hard blank.
-std::vector<std::int32_t> Numbers(std::string_view text) {
-  std::vector<std::int32_t> numbers;
-  for (;;) {
-    const std::size_t first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return numbers;
-    text.remove_prefix(first);
-    std::int32_t n = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), n);
-    if (error != std::errc()) return numbers;
-    numbers.push_back(n);
-    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
-  }
-}
 
 // Takes a character off the front: its bytes, and its number, or kBad where it is a byte of the code page.
 std::pair<std::string_view, char32_t> TakeChar(std::string_view& rest, bool utf8) {
@@ -59,26 +41,18 @@ std::string_view WithoutMarks(Dibujada& glyph, std::string_view line, bool utf8)
   return line;
 }
 
-// The code page's character for one of the artwork, not a hard blank.
-char OwnChar(std::string_view bytes, char32_t wide) {
+// A character of the artwork, not a hard blank; controls are blanks.
+char32_t CharOf(std::string_view bytes, char32_t wide) {
   const auto first = static_cast<unsigned char>(bytes[0]);
-  if (first < 128) return first == '$' ? 'S' : first < 32 || first == 127 ? ' ' : bytes[0];
-  if (wide == kBad) return bytes[0];
-  const auto byte = ByteOfUnicode(wide);
-  return byte ? static_cast<char>(*byte) : Parecido(wide);
+  if (first < 32 || first == 127) return U' ';
+  return wide == kBad ? UnicodeOfByte(first) : wide;
 }
 
-// A row in our own form, into the character.
 void AddRow(Dibujada& glyph, std::string_view line, const std::string& hardBlank, bool utf8) {
-  std::string row;
+  std::u32string row;
   for (std::string_view rest = WithoutMarks(glyph, line, utf8); !rest.empty();) {
     const auto [bytes, wide] = TakeChar(rest, utf8);
-    if (bytes == hardBlank) {
-      row += '$';
-      continue;
-    }
-    row += OwnChar(bytes, wide);
-    glyph.replaced += wide != kBad && !ByteOfUnicode(wide);
+    row += bytes == hardBlank ? kBlancoDuro : CharOf(bytes, wide);
   }
   glyph.rows.push_back(std::move(row));
 }
@@ -92,8 +66,8 @@ std::string_view LectorDeFuente::Linea(const char* what) {
 }
 
 void LectorDeFuente::Rechazar(const std::string& fault, std::size_t line) const {
-  throw FuenteRechazada("No se ha añadido \"" + *name_ + "\": línea " + std::to_string(line ? line : line_) +
-                        ": " + fault + ".");
+  throw FuenteRechazada(std::string(complaint_) + " \"" + *name_ + "\": línea " +
+                        std::to_string(line ? line : line_) + ": " + fault + ".");
 }
 
 CabeceraDeFuente LeerCabecera(LectorDeFuente& in) {
@@ -101,14 +75,14 @@ CabeceraDeFuente LeerCabecera(LectorDeFuente& in) {
   if (!EmpiezaComoFuente(line) || line.size() < 6) in.Rechazar("no empieza como una fuente FIGlet (flf2)");
   std::string_view rest = line.substr(5);
   const std::string_view hardBlank = TakeChar(rest, true).first;
-  const std::vector<std::int32_t> n = Numbers(rest);
+  const std::vector<std::int32_t> n = NumerosDeCabecera(rest);
   if (n.size() < 5) in.Rechazar("a la cabecera le faltan números");
   if (n[0] < 1 || n[0] > kMostRows)
     in.Rechazar("la altura " + std::to_string(n[0]) + " no está entre 1 y 256");
   if (n[4] < 0) in.Rechazar("el número de líneas de comentario es negativo");
   std::string own = "flf2a$";
   for (std::size_t i = 0; i < 5; ++i) own += " " + std::to_string(n[i]);
-  return {std::string(hardBlank), n[0], n[1], n[4], own};
+  return {std::string(hardBlank), n[0], n[1], n[4], DisposicionDe(n), own};
 }
 
 Dibujada LeerDibujada(LectorDeFuente& in, const CabeceraDeFuente& header, bool utf8) {

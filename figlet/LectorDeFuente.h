@@ -1,4 +1,4 @@
-// What reads a standard font before it is rewritten: its lines, its header, its rows of artwork.
+// What reads a standard font: its lines, its header, its rows of artwork.
 #pragma once
 
 #include <cstdint>
@@ -6,13 +6,16 @@
 #include <string_view>
 #include <vector>
 
+#include "figlet/FuenteFiglet.h"
+
 namespace pixmosa {
 
 // Reads a font line by line and names the line in every failure.
 class LectorDeFuente {
  public:
-  // `name` has to outlive the reader.
-  LectorDeFuente(std::string_view font, const std::string& name) : rest_(font), name_(&name) {}
+  // `name` has to outlive the reader; `complaint` begins the sentence of every failure.
+  LectorDeFuente(std::string_view font, const std::string& name, const char* complaint)
+      : rest_(font), name_(&name), complaint_(complaint) {}
 
   bool AlFinal() const { return rest_.empty(); }
   std::string_view Resto() const { return rest_; }
@@ -26,24 +29,25 @@ class LectorDeFuente {
  private:
   std::string_view rest_;
   const std::string* name_;
+  const char* complaint_;
   std::size_t line_ = 0;
 };
 
 struct CabeceraDeFuente {
   std::string hardBlank = "$";  // one character; several bytes in UTF-8
   std::int32_t height = 0, baseline = 0, comments = 0;
-  std::string propia;  // the line as a font of the reader's own form would have it
+  Disposicion disposicion;
+  std::string propia;  // the line as a font of the specified reader's own form begins it
 };
 
 // Reads the header line. The numbers stay within what a font can have.
 CabeceraDeFuente LeerCabecera(LectorDeFuente& in);
 
-// A character's rows in our own form, without end marks.
+// A character's rows without end marks, as they are long.
 struct Dibujada {
-  std::vector<std::string> rows;
-  std::size_t replaced = 0;  // characters of the rows that the code page lacks
-  std::string mark;          // the end mark of all rows; empty where they differ
-  bool doubled = false;      // the last row has it twice
+  Letra rows;
+  std::string mark;      // the end mark of all rows; empty where they differ
+  bool doubled = false;  // the last row has it twice
 };
 
 // Reads a character of the header's height. One that ends the file may lack its last row. `utf8`: the artwork

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "figlet/LectorDeFuente.h"
+#include "figlet/Parecidos.h"
 #include "platform/CodePage.h"
 #include "platform/Lines.h"
 
@@ -17,7 +18,9 @@ constexpr std::array<std::uint32_t, 7> kAdditional = {196, 214, 220, 228, 246, 2
 constexpr std::int32_t kBlocks = 224;
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-using Glyphs = std::map<unsigned char, Dibujada>;
+constexpr char kNoAnadida[] = "No se ha añadido", kNoLeida[] = "No se ha podido leer";
+
+using Glyphs = std::map<char32_t, Dibujada>;
 
 // Without what stands around a font in files of other systems: a byte-order mark, the old end-of-file
 // character, empty lines at the end.
@@ -27,10 +30,20 @@ std::string_view Bare(std::string_view font) {
   return font.substr(0, last == std::string_view::npos ? 0 : last + 1);
 }
 
+bool EsTlf(std::string_view font) {
+  return Bare(font).starts_with("tlf2");
+}
+
 std::size_t CountLines(std::string_view text) {
   std::size_t n = 0;
   for (; !text.empty(); ++n) TakeLine(text);
   return n;
+}
+
+// Whether a header line is the own form's, which may have the layout's numbers behind.
+bool EsDeCabecera(std::string_view line, const std::string& own) {
+  return line.starts_with(own) && (line.size() == own.size() || line[own.size()] == ' ') &&
+         line.find_first_not_of(" -0123456789", own.size()) == std::string_view::npos;
 }
 
 // Whether a font is in the reader's own form, end marks included, to its last line.
@@ -43,7 +56,7 @@ bool IsOwn(std::string_view font, const CabeceraDeFuente& header) {
     if (end == std::string_view::npos || line >= last) return false;
     const std::string_view text = font.substr(0, end);
     if (text.find_first_of("\r\n") != std::string_view::npos) return false;
-    if (line == 0 && text != header.propia) return false;
+    if (line == 0 && !EsDeCabecera(text, header.propia)) return false;
     const bool bottom = (line - first + 1) % header.height == 0;
     if (line >= first && !text.ends_with(bottom ? "@@" : "@")) return false;
     font.remove_prefix(end + 2);
@@ -74,9 +87,7 @@ std::optional<std::int64_t> TagCode(std::string_view text) {
 }
 
 void Put(Glyphs& glyphs, std::int64_t unicode, Dibujada glyph) {
-  if (unicode < 32 || unicode > 0x10FFFF) return;
-  const auto byte = ByteOfUnicode(static_cast<char32_t>(unicode));
-  if (byte) glyphs[*byte] = std::move(glyph);
+  if (unicode >= 0 && unicode <= 0x10FFFF) glyphs[static_cast<char32_t>(unicode)] = std::move(glyph);
 }
 
 // The seven additional characters as far as the font has them. What follows and does not end as characters
@@ -112,21 +123,61 @@ std::size_t ReadGlyphs(LectorDeFuente& in, const CabeceraDeFuente& header, bool 
   return 0;
 }
 
+// A standard font as its file has it.
+struct Leida {
+  CabeceraDeFuente header;
+  std::string comments;  // each line with CR LF behind
+  Glyphs glyphs;
+  std::size_t lineasDeMas = 0;
+};
+
+Leida Read(LectorDeFuente& in, CabeceraDeFuente header, bool tlf) {
+  Leida font{std::move(header), {}, {}, 0};
+  for (std::int32_t i = 0; i < font.header.comments; ++i) {
+    const std::string_view line = in.Linea("acabar los comentarios");
+    font.comments += (EsUtf8(line) ? BytesOfUtf8(line) : std::string(line)) + "\r\n";
+  }
+  // Two bytes of an old code page may look like one character of UTF-8: the artwork as a whole decides.
+  font.lineasDeMas = ReadGlyphs(in, font.header, tlf || EsUtf8(in.Resto()), font.glyphs);
+  return font;
+}
+
+// The code page's character for one of the artwork; a dollar of it would be shown as a blank.
+char OwnChar(char32_t c, std::size_t& replaced) {
+  if (c == kBlancoDuro || c == U'$') return c == U'$' ? 'S' : '$';
+  const auto byte = ByteOfUnicode(c);
+  replaced += byte ? 0 : 1;
+  return byte ? static_cast<char>(*byte) : Parecido(c);
+}
+
+// The layout's numbers as they stand behind the comments' one; full width says nothing.
+std::string LayoutNumbers(const Disposicion& layout) {
+  if (layout.reglas == 0 && !layout.haciaLaIzquierda) return {};
+  return (layout.haciaLaIzquierda ? " 1 " : " 0 ") + std::to_string(layout.reglas);
+}
+
 // The header, the comments and the 224 blocks.
-std::string OwnForm(const CabeceraDeFuente& header, const std::string& comments, const Glyphs& glyphs) {
+FuenteReescrita OwnForm(const Leida& font) {
+  const CabeceraDeFuente& header = font.header;
+  FuenteReescrita own;
+  own.lineasDeMas = font.lineasDeMas;
   std::string blocks;
   std::size_t longest = 0;
   const auto height = static_cast<std::size_t>(header.height);
   for (int code = 32; code < 32 + kBlocks; ++code) {
-    const auto at = glyphs.find(static_cast<unsigned char>(code));
+    const auto at = font.glyphs.find(UnicodeOfByte(static_cast<unsigned char>(code)));
     for (std::size_t row = 0; row < height; ++row) {
-      const std::string art = at == glyphs.end() ? std::string() : at->second.rows[row];
+      std::string art;
+      if (at != font.glyphs.end())
+        for (const char32_t c : at->second.rows[row]) art += OwnChar(c, own.reemplazados);
       longest = std::max(longest, art.size() + 2);
       blocks += art + (row + 1 == height ? "@@\r\n" : "@\r\n");
     }
   }
-  return "flf2a$ " + std::to_string(header.height) + " " + std::to_string(header.baseline) + " " +
-         std::to_string(longest) + " -1 " + std::to_string(header.comments) + "\r\n" + comments + blocks;
+  own.bytes = "flf2a$ " + std::to_string(header.height) + " " + std::to_string(header.baseline) + " " +
+              std::to_string(longest) + " -1 " + std::to_string(header.comments) +
+              LayoutNumbers(header.disposicion) + "\r\n" + font.comments + blocks;
+  return own;
 }
 
 }  // namespace
@@ -136,23 +187,41 @@ bool EmpiezaComoFuente(std::string_view bytes) {
   return bytes.starts_with("flf2") || bytes.starts_with("tlf2");
 }
 
+bool PareceFuente(const std::string& file) {
+  const std::string name = LowerCase(file.substr(file.find_last_of("/\\") + 1));
+  return (name.ends_with(".flf") || name.ends_with(".tlf")) && !name.starts_with("._");
+}
+
+bool EsZip(std::string_view bytes) {
+  return bytes.starts_with("PK\x03\x04") || bytes.starts_with("PK\x05\x06");
+}
+
 FuenteReescrita ReescribirFuente(std::string_view font, const std::string& name) {
-  LectorDeFuente in(Bare(font), name);
-  const CabeceraDeFuente header = LeerCabecera(in);
+  LectorDeFuente in(Bare(font), name, kNoAnadida);
+  CabeceraDeFuente header = LeerCabecera(in);
   if (IsOwn(font, header)) return {std::string(font), 0, 0};
-  std::string comments;
-  for (std::int32_t i = 0; i < header.comments; ++i) {
-    const std::string_view line = in.Linea("acabar los comentarios");
-    comments += (EsUtf8(line) ? BytesOfUtf8(line) : std::string(line)) + "\r\n";
+  return OwnForm(Read(in, std::move(header), EsTlf(font)));
+}
+
+FuenteFiglet LeerFuente(std::string_view font, const std::string& name) {
+  LectorDeFuente in(Bare(font), name, kNoLeida);
+  CabeceraDeFuente header = LeerCabecera(in);
+  if (IsOwn(font, header)) {
+    BasFigLet own;
+    LoadFontBytes(own, font, [](const std::string&) {});
+    return FuenteLeida(own);
   }
-  // Two bytes of an old code page may look like one character of UTF-8: the artwork as a whole decides.
-  const bool utf8 = Bare(font).starts_with("tlf2") || EsUtf8(in.Resto());
-  Glyphs glyphs;
-  FuenteReescrita own;
-  own.lineasDeMas = ReadGlyphs(in, header, utf8, glyphs);
-  for (const auto& [code, glyph] : glyphs) own.reemplazados += glyph.replaced;
-  own.bytes = OwnForm(header, comments, glyphs);
-  return own;
+  Leida read = Read(in, std::move(header), EsTlf(font));
+  FuenteFiglet whole;
+  whole.altura = static_cast<std::size_t>(read.header.height);
+  whole.disposicion = read.header.disposicion;
+  if (!read.comments.empty()) whole.comentario = "\r\n" + read.comments.substr(0, read.comments.size() - 2);
+  for (auto& [code, glyph] : read.glyphs) {
+    for (std::u32string& row : glyph.rows)
+      if (row.size() > kMasColumnasDeLetra) row.resize(kMasColumnasDeLetra);
+    whole.letras.emplace(code, std::move(glyph.rows));
+  }
+  return whole;
 }
 
 }  // namespace pixmosa

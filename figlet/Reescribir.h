@@ -31,4 +31,10 @@ FuenteReescrita ReescribirFuente(std::string_view font, const std::string& name)
 // Whether bytes begin as a font does.
 bool EmpiezaComoFuente(std::string_view bytes);
 
+// Whether a file, maybe of a zip, is named as a font; the companions that one system puts beside every file
+// are not.
+bool PareceFuente(const std::string& file);
+
+bool EsZip(std::string_view bytes);
+
 }  // namespace pixmosa

@@ -65,6 +65,7 @@ bool ParseFields(BasFigLet& font, std::string_view line) {
 }
 
 void ParseHeader(BasFigLet& font, std::string_view line, const HeaderFailure& fail) {
+  font.Cabecera = line;
   if (!ParseFields(font, line)) fail("Error abriendo la fuente.");
 }
 
@@ -162,6 +163,7 @@ void ResetFontState(BasFigLet& font) {
   font.Height = "1";
   font.EndMark.clear();
   font.Comment.clear();
+  font.Cabecera.clear();
 }
 
 void LoadFont(BasFigLet& font, const std::filesystem::path& file, const HeaderFailure& fail) {
@@ -184,9 +186,13 @@ void LoadFontBytes(BasFigLet& font, std::string_view bytes, const HeaderFailure&
   }
 }
 
+std::size_t FilasDeLetrero(const BasFigLet& font) {
+  return static_cast<std::size_t>(HeightOf(font).value_or(0));
+}
+
 std::string RenderBanner(const BasFigLet& font, std::string_view text) {
   std::string banner;
-  const auto height = static_cast<std::size_t>(HeightOf(font).value_or(0));
+  const std::size_t height = FilasDeLetrero(font);
   while (!text.empty()) {
     const std::size_t end = text.find("\r\n");
     const std::string_view line = text.substr(0, end);

@@ -20,7 +20,8 @@ struct BasFigLet {
       Glyphs;                  // rows of each code, from the first; rows never loaded are missing
   std::int32_t TableRows = 0;  // rows that each code has in the table; set by a header
   std::int32_t NextCode = 32, NextRow = 1, LineNumber = 1;
-  std::string Banner;  // as the panel shows it; not the reader's
+  std::string Cabecera;  // the header's whole line, for the layout beside this one
+  std::string Banner;    // as the panel shows it; not the reader's
 };
 
 // A header that cannot be parsed is reported through this; the load goes on.
@@ -34,6 +35,9 @@ void LoadFont(BasFigLet& font, const std::filesystem::path& file, const HeaderFa
 void LoadFontBytes(BasFigLet& font, std::string_view bytes, const HeaderFailure& fail);
 
 void ResetFontState(BasFigLet& font);
+
+// Rows of a line of the banner; 0 where the height is no number of rows.
+std::size_t FilasDeLetrero(const BasFigLet& font);
 
 // The text as banner rows, each ended by CR LF. Glyphs stand edge to edge; every "$" becomes a blank.
 std::string RenderBanner(const BasFigLet& font, std::string_view text);

@@ -35,7 +35,18 @@ void Colorear(Dibujo& drawing, const Programa& p, const Picture& source, const P
   Colorear(drawing, MediasDeCeldas(source, cells), rows);
 }
 
+// The text in the window is a banner that has colours of its own.
+bool EsLetreroEnColor(const Programa& p) {
+  return p.metodoDelTexto < 0 && !p.basFigLet.Banner.empty() && p.letrero.acabado.degradado;
+}
+
 }  // namespace
+
+OpcionesDeExportar OpcionesDeVentana(const Programa& p) {
+  OpcionesDeExportar options = p.exportar;
+  options.color = options.color || EsLetreroEnColor(p);
+  return options;
+}
 
 Dibujo DibujoDe(const Programa& p) {
   ComprobarTamano(p.basAscii.ProducedText.size());
@@ -52,6 +63,7 @@ Dibujo DibujoEnColor(const Programa& p, const Picture& source, const Picture& re
 Dibujo DibujoDeVentana(const Programa& p, std::string_view utf8) {
   ComprobarTamano(utf8.size());
   Dibujo drawing = DibujoDeUtf8(utf8);
+  if (EsLetreroEnColor(p)) Degradar(drawing, *p.letrero.acabado.degradado);
   if (!p.exportar.color || p.metodoDelTexto < 0 || !HayImagen(p)) return drawing;
   const Picture& source = p.imagen.picMain;
   const bool drops = p.metodoDelTexto == kGrayscale;

@@ -19,8 +19,12 @@ Dibujo DibujoDe(const Programa& p);
 Dibujo DibujoEnColor(const Programa& p, const Picture& source, const Picture& resized, int method);
 
 // A text as it stands in the window (UTF-8), in the colours of the working picture where p.exportar asks for
-// them and the text was made of it. Throws DibujoExcesivo.
+// them and the text was made of it, or in those of the banner. Throws DibujoExcesivo.
 Dibujo DibujoDeVentana(const Programa& p, std::string_view utf8);
+
+// The options that such a drawing is exported with: those chosen, and its colours where the banner has some.
+OpcionesDeExportar OpcionesDeVentana(const Programa& p);
+
 // Where the picture of a drawing comes from: the whole of it, or only what a method needs of it.
 struct OrigenDeImagen {
   std::function<Picture()> entera;

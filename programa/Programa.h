@@ -10,7 +10,7 @@
 #include "effects/ImagenDeTrabajo.h"
 #include "effects/mFiltros.h"
 #include "exportar/Formatos.h"
-#include "figlet/basFigLet.h"
+#include "figlet/Letrero.h"
 #include "platform/PictureCodec.h"
 #include "platform/TextSurface.h"
 #include "programa/HistorialDeImagen.h"
@@ -42,6 +42,7 @@ struct Programa {
   int columnas = 0;  // asked for as a number; 0 where the size says them
   BasEditor basEditor{};
   BasFigLet basFigLet{};
+  OpcionesDeLetrero letrero{};
   BasWeb basWeb{};
   WebSettings ajustesWeb{};
   OpcionesDeExportar exportar{};

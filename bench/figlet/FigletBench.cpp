@@ -1,10 +1,11 @@
-// Listing 400 fonts, loading a font of 100 KB and drawing banners, beside a memcpy of the font.
+// Listing 400 fonts, loading a font of 100 KB, drawing banners, and what the gallery of 400 such fonts does:
+// its first screen, a keystroke in it, measuring them all for its sieve. Beside a memcpy of the font.
 #include <benchmark/benchmark.h>
 #include <cstring>
 #include <filesystem>
 
 #include "figlet/Catalogo.h"
-#include "figlet/basFigLet.h"
+#include "figlet/Galeria.h"
 #include "platform/AtomicFile.h"
 
 using namespace pixmosa;
@@ -65,5 +66,53 @@ void Keystroke100Characters(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(RenderBanner(font, text));
 }
 BENCHMARK(Keystroke100Characters)->Unit(benchmark::kMillisecond);
+
+constexpr std::size_t kALaVista = 6;  // rows of a screen
+
+// 400 fonts in a folder of their own while it lives.
+class Carpeta {
+ public:
+  Carpeta() {
+    fs::create_directories(path_);
+    for (int i = 0; i < 400; ++i) EscribirArchivo(path_ / ("fuente" + std::to_string(i) + ".flf"), Font());
+  }
+  ~Carpeta() { fs::remove_all(path_); }
+  std::vector<fs::path> Lista() const { return {path_}; }
+
+ private:
+  fs::path path_ = fs::temp_directory_path() / "pixmosa-bench-galeria";
+};
+
+void Pantalla(Galeria& gallery, const std::string& text, const OpcionesDeLetrero& options) {
+  for (std::size_t i = 0; i < kALaVista; ++i) benchmark::DoNotOptimize(gallery.Letrero(i, text, options));
+}
+
+void GalleryFirstScreen(benchmark::State& state) {
+  const Carpeta folder;
+  for (auto _ : state) {
+    Galeria gallery(folder.Lista());
+    benchmark::DoNotOptimize(gallery.Cribar({}));
+    Pantalla(gallery, "Pixmosa", {});
+  }
+}
+BENCHMARK(GalleryFirstScreen)->Unit(benchmark::kMillisecond);
+
+void GalleryKeystroke(benchmark::State& state) {
+  const Carpeta folder;
+  Galeria gallery(folder.Lista());
+  const OpcionesDeLetrero options{{static_cast<Composicion>(state.range(0))}, {}};
+  for (auto _ : state) Pantalla(gallery, "Una linea de texto", options);
+}
+BENCHMARK(GalleryKeystroke)->Arg(0)->Arg(2)->Unit(benchmark::kMillisecond);
+
+void GalleryMeasures(benchmark::State& state) {
+  const Carpeta folder;
+  for (auto _ : state) {
+    Galeria gallery(folder.Lista());
+    gallery.Medir(SIZE_MAX);
+    benchmark::DoNotOptimize(gallery.Cribar({.espanol = true}));
+  }
+}
+BENCHMARK(GalleryMeasures)->Unit(benchmark::kMillisecond);
 
 }  // namespace

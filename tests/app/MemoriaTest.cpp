@@ -1,4 +1,5 @@
 // The window when memory runs out: a message, and everything as it was.
+#include <malloc.h>
 #include <optional>
 
 #include <QCheckBox>
@@ -16,6 +17,9 @@ using test::Find;
 using Strings = std::vector<std::string>;
 
 namespace {
+
+// A second arena, a thread's, would still have room when the first has none.
+[[maybe_unused]] const int kUnaArena = ::mallopt(M_ARENA_MAX, 1);
 
 const std::string kNone = "No queda memoria para este trabajo.";
 

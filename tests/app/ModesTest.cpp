@@ -12,7 +12,9 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include "app/MarcoDeImagen.h"
 #include "platform/qt/Muestra.h"
+#include "programa/Dibujar.h"
 #include "programa/Modos.h"
 #include "tests/support/DrawnPicture.h"
 #include "tests/support/FigletFont.h"
@@ -342,6 +344,22 @@ void ModesTest::BannersAreTheProducedText() {
   m.Choose(kModoTexto);
   QTest::keyClicks(&Find<AreaDeTexto>(m.window, "txtFigText"), "P");
   QVERIFY2(side().testFlag(Qt::AlignHCenter), "the next banner lies as the button says");
+
+  QVERIFY2(!m.window.findChild<MarcoDeImagen*>()->isVisible(), "the fonts have the picture's place");
+  m.Trigger("mnuMarcoLinea");
+  m.Trigger("mnuArcoiris");
+  QVERIFY(m.program.basAscii.ProducedText.starts_with("+-----"));
+  QVERIFY(m.Area().Utf8().starts_with("┌─────"));
+  m.Trigger("mnuClipboard");
+  QCOMPARE(m.shell.clipboard, m.Area().Utf8());
+  const Dibujo drawn = DibujoDeVentana(m.program, m.Area().Utf8());
+  QCOMPARE(drawn.filas[0].front().tinta, Rgb(230, 0, 0));
+  QCOMPARE(drawn.filas[0].back().tinta, Rgb(230, 0, 230));
+  QVERIFY(OpcionesDeVentana(m.program).color);
+  m.Choose(kModoGrises);
+  QVERIFY(m.window.findChild<MarcoDeImagen*>()->isVisible());
+  m.Trigger("Play");
+  QVERIFY(!OpcionesDeVentana(m.program).color);
 }
 
 void ModesTest::EmptyOutlinesOfferBlackAndWhite() {

@@ -1,59 +1,23 @@
 // The banner panel by itself.
+#include <QComboBox>
+#include <QDropEvent>
 #include <QListWidget>
+#include <QMimeData>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <QUrl>
 
-#include "figlet/frmFiglet.h"
-#include "platform/AtomicFile.h"
 #include "platform/qt/AreaDeTexto.h"
-#include "tests/support/FigletFont.h"
-#include "tests/support/Find.h"
-#include "tests/support/RecordingDialogs.h"
-#include "tests/support/TestFolder.h"
+#include "tests/figlet/Panel.h"
 
 using namespace pixmosa;
 using test::Find;
+using test::Panel;
 using Strings = std::vector<std::string>;
-
-namespace {
-
-// The panel over two fonts, one of them in the tree.
-struct Panel {
-  test::TestFolder folder;
-  test::RecordingDialogs dialogs;
-  BasFigLet font;
-  std::unique_ptr<frmFiglet> panel;
-  Strings banners;
-
-  Panel() {
-    std::filesystem::create_directory(folder.Path() / "Fonts");
-    Write("Fonts/alfa.flf", test::OwnFont());
-    std::string upper = test::OwnFont();
-    Write("Fonts/beta.flf", upper.replace(upper.find("Comentario"), 10, "La segunda"));
-    Write("Fonts/categoriestree.txt", "[Uno]\r\n[Uno|Sub]\r\nbeta\r\nno-esta\r\n");
-    panel = std::make_unique<frmFiglet>(font, std::vector{folder.Path() / "Fonts"}, dialogs, nullptr);
-    QObject::connect(panel.get(), &frmFiglet::LetreroCambiado,
-                     [this](const std::string& b) { banners.push_back(b); });
-    panel->show();
-  }
-  std::string Write(const std::string& name, const std::string& bytes) {
-    EscribirArchivo(folder.File(name), bytes);
-    return folder.File(name);
-  }
-  template <typename Control>
-  Control& Get(const char* name) {
-    return Find<Control>(*panel, name);
-  }
-  template <typename View, typename Item>
-  void Click(View& view, Item* item) {
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualItemRect(item).center());
-  }
-};
-
-}  // namespace
 
 class FrmFigletTest : public QObject {
   Q_OBJECT
@@ -128,8 +92,103 @@ class FrmFigletTest : public QObject {
     QVERIFY(p.banners.empty());
   }
 
+  void ArrowsLoadFontsAndEveryViewShowsWhich() {
+    Panel p;
+    p.panel->PrimeraVez();
+    auto& list = p.Get<QListWidget>("lsvFuentesFig");
+    auto& tree = p.Get<QTreeWidget>("tvwFigFonts");
+    tree.expandAll();
+    p.banners.clear();
+    QTest::keyClick(&list, Qt::Key_Down);
+    QCOMPARE(p.font.Comment, "\r\nLa segunda");
+    QCOMPARE(p.banners.size(), 2U);
+    QCOMPARE(tree.currentItem()->text(0), "beta");
+    QTest::keyClick(&list, Qt::Key_Up);
+    QVERIFY(!tree.currentItem());
+    p.Get<QAction>("Lista agrupada por categorías").trigger();
+    tree.setCurrentItem(tree.topLevelItem(0)->child(0));
+    QTest::keyClick(&tree, Qt::Key_Down);
+    QCOMPARE(list.currentItem()->text(), "beta.flf");
+    p.banners.clear();
+    p.Click(tree, tree.currentItem());
+    p.Click(tree, tree.currentItem());
+    QVERIFY2(!p.banners.empty(), "a click on the same font loads it anew");
+  }
+
+  void LayoutAndFinishShapeTheBanner() {
+    Panel p;
+    p.panel->PrimeraVez();
+    p.Get<AreaDeTexto>("txtFigText").PonerTexto("a (b\r\nc");
+    const auto last = [&] { return p.banners.back(); };
+    const std::string full = last();
+    auto& layout = p.Get<QComboBox>("cboComposicion");
+    QCOMPARE(layout.currentText(), "Ancho completo");
+    layout.setCurrentText("Fundir");
+    QCOMPARE(last(), "a1(b1\r\na2(b2\r\nc1\r\nc2\r\n");
+    layout.setCurrentText("Juntar");
+    QCOMPARE(last(), "a1 1(1b1\r\na2 2(2b2\r\nc1\r\nc2\r\n");
+    layout.setCurrentIndex(0);
+    p.Get<QSpinBox>("numAncho").setValue(5);
+    QCOMPARE(last(), "a1\r\na2\r\n(1b1\r\n(2b2\r\nc1\r\nc2\r\n");
+    QSignalSpy aligned(p.panel.get(), &frmFiglet::AlineacionCambiada);
+    p.Get<QAction>("Derecha").trigger();
+    p.Get<QAction>("mnuAlinearTexto").trigger();
+    QCOMPARE(last(), "   a1\r\n   a2\r\n (1b1\r\n (2b2\r\n   c1\r\n   c2\r\n");
+    QCOMPARE(aligned.back().at(0).value<Qt::Alignment>(), Qt::Alignment(Qt::AlignLeft));
+    p.Get<QAction>("mnuAlinearTexto").trigger();
+    p.Get<QSpinBox>("numAncho").setValue(0);
+    QCOMPARE(last(), full);
+    QCOMPARE(aligned.back().at(0).value<Qt::Alignment>(), Qt::Alignment(Qt::AlignRight));
+    p.Get<AreaDeTexto>("txtFigText").PonerTexto("(");
+    for (const char* entry : {"mnuEspejo", "mnuMarcoDoble", "mnuComentarioSh"})
+      p.Get<QAction>(entry).trigger();
+    QCOMPARE(last(), "# ╔════╗\r\n# ║ 1) ║\r\n# ║ 2) ║\r\n# ╚════╝\r\n");
+    QCOMPARE(p.font.Banner.substr(0, 10), "# +====+\r\n");
+    QCOMPARE(p.Get<QToolButton>("cmdAcabado").text(), "Acabado (3)");
+    p.dialogs.colours = {Rgb(1, 2, 3), Rgb(4, 5, 6)};
+    p.Get<QAction>("mnuDosColores").trigger();
+    p.Get<QAction>("mnuHaciaAbajo").trigger();
+    QVERIFY(p.options.acabado.degradado == (Degradado{Rgb(1, 2, 3), Rgb(4, 5, 6), false, true}));
+    p.Get<QAction>("mnuDosColores").trigger();  // cancelled
+    QVERIFY(p.options.acabado.degradado->hasta == Rgb(4, 5, 6));
+    p.Get<QAction>("mnuSinColores").trigger();
+    QVERIFY(!p.options.acabado.degradado);
+  }
+
+  void DroppedFontsAreAddedAndDrawnAsTheyAre() {
+    Panel p;
+    p.panel->PrimeraVez();
+    p.Get<AreaDeTexto>("txtFigText").PonerTexto("ab");
+    auto& list = p.Get<QListWidget>("lsvFuentesFig");
+    const std::string file = p.Write("gama.tlf", test::StandardFont("Ä@\n█@@\n").replace(0, 1, "t"));
+    const auto drop = [&](const std::vector<std::string>& files) {
+      QMimeData data;
+      QList<QUrl> urls;
+      for (const std::string& f : files) urls << QUrl::fromLocalFile(QString::fromStdString(f));
+      data.setUrls(urls);
+      QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+      enter.ignore();
+      QCoreApplication::sendEvent(p.panel.get(), &enter);
+      if (!enter.isAccepted()) return false;
+      QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+      QCoreApplication::sendEvent(p.panel.get(), &event);
+      return true;
+    };
+    QVERIFY2(!drop({p.Write("foto.png", "x")}), "pictures are the window's");
+    QVERIFY(drop({file}));
+    QCOMPARE(list.count(), 3);
+    QCOMPARE(list.currentItem()->text(), "gama.flf");
+    p.Get<AreaDeTexto>("txtFigText").PonerUtf8("Ä");
+    QCOMPARE(p.banners.back(), "Ä\r\n█\r\n");
+    QCOMPARE(p.font.Banner, "\xC4\r\n#\r\n");
+    p.Click(list, list.item(0));
+    p.Click(list, list.item(2));
+    QCOMPARE(p.banners.back(), "\xC4\r\n#\r\n");
+  }
+
   void AddedFontsAreListedAtOnce() {
     Panel p;
+    p.Get<QTreeWidget>("tvwFigFonts").expandAll();
     QSignalSpy count(p.panel.get(), &frmFiglet::ListaCambiada);
     p.dialogs.paths = {p.Write("nueva.flf", test::StandardFont()), p.Write("rota.flf", "no")};
     p.Get<QAction>("mnuAgregarFuentes").trigger();
@@ -140,6 +199,9 @@ class FrmFigletTest : public QObject {
     auto& tree = p.Get<QTreeWidget>("tvwFigFonts");
     QCOMPARE(tree.topLevelItemCount(), 2);
     QCOMPARE(tree.topLevelItem(1)->child(0)->child(0)->text(0), "nueva");
+    QVERIFY2(tree.topLevelItem(0)->child(0)->isExpanded(), "what was open stays open");
+    QCOMPARE(p.Get<QListWidget>("lsvFuentesFig").currentItem()->text(), "nueva.flf");
+    QVERIFY(p.font.Comment.starts_with("\r\nHecha"));
 
     std::filesystem::create_directory(folder);
     for (const char* name : {"serie/uno.flf", "serie/dos.flf"}) p.Write(name, test::StandardFont());

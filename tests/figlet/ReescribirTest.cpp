@@ -52,7 +52,7 @@ TEST(Reescribir, EveryAwkwardVariantIsReadWhole) {
           // What the font has not is empty; additional characters; tags in hexadecimal, decimal, octal.
           EXPECT_EQ(Shown(own, "a\xE1\xC4\xDC\xDF\xF1\x80\xBF"), "aa0a2a6n~E=?%\r\n _ _ _ _ _ _ _\r\n")
               << hardBlank << mark;
-          EXPECT_TRUE(own.starts_with("flf2a$ 2 1 4 -1 2\r\nHecha, para probar\r\n$ y @\r\n"));
+          EXPECT_TRUE(own.starts_with("flf2a$ 2 1 4 -1 2 0 143\r\nHecha, para probar\r\n$ y @\r\n"));
           EXPECT_EQ(read.lineasDeMas, 0U);
           EXPECT_EQ(ReescribirFuente(own, "f").bytes, own) << "the own form stays";
         }

@@ -18,6 +18,7 @@ FONTS = {
     "crlf": font(end="\r\n", comments=()),
     "bloques": font("tlf2a\x7f", art="█▀░╭\x7f", more="0xF1 N\n▄@@\n8364\nE@@\n-5 x\n?@@\n"),
     "adicionales": "\ufeff" + font(more="a@@\n" * 7 + "0277  SIGNO\n¿@@\nfin\x1a"),
+    "reglas": font("flf2a$", 2, art="|{c}_/", comments=()).replace(" -1 0", " 0 0 1 32767", 1),
     "sin-final": font(height=3)[:-6],
 }
 

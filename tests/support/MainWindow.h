@@ -25,7 +25,7 @@ namespace pixmosa::test {
 // Reads as late as it is told.
 struct CodecTardo : QtPictureCodec {
   int milisegundos = 0;
-  Picture Read(const std::filesystem::path& file, std::string* aviso) override {
+  Picture Read(const std::filesystem::path& file, std::string* aviso = nullptr) override {
     std::this_thread::sleep_for(std::chrono::milliseconds(milisegundos));
     return QtPictureCodec::Read(file, aviso);
   }
