@@ -1,7 +1,10 @@
 #include "platform/qt/Estilo.h"
 
+#include <optional>
+#include <type_traits>
+
 #include <QPainter>
-#include <QStyleOptionMenuItem>
+#include <QStyleOption>
 #include <QWidget>
 
 namespace pixmosa {
@@ -16,20 +19,33 @@ QIcon DeUnColor(const QIcon& icon, int side, double ratio, const QColor& colour)
   return shape;
 }
 
+// The option as it is drawn where its entry is chosen: with the icon in the text's colour.
+template <typename Option>
+std::optional<Option> Elegida(const QStyle& style, const QStyleOption* option, const QWidget* widget) {
+  const auto* entry = qstyleoption_cast<const Option*>(option);
+  const bool chosen =
+      entry && (entry->state & QStyle::State_Selected) && (entry->state & QStyle::State_Enabled);
+  if (!chosen || entry->icon.isNull()) return std::nullopt;
+  int side = style.pixelMetric(QStyle::PM_SmallIconSize, option, widget);
+  if constexpr (std::is_same_v<Option, QStyleOptionViewItem>) side = entry->decorationSize.width();
+  Option seen(*entry);
+  seen.icon = DeUnColor(entry->icon, side, widget ? widget->devicePixelRatioF() : 1,
+                        option->palette.highlightedText().color());
+  return seen;
+}
+
 }  // namespace
 
 void Estilo::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                          const QWidget* widget) const {
-  const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-  const bool chosen = entry && (entry->state & State_Selected) && (entry->state & State_Enabled);
-  if (element != CE_MenuItem || !chosen || entry->icon.isNull()) {
-    QProxyStyle::drawControl(element, option, painter, widget);
-    return;
+  if (element == CE_MenuItem) {
+    if (const auto seen = Elegida<QStyleOptionMenuItem>(*this, option, widget))
+      return QProxyStyle::drawControl(element, &*seen, painter, widget);
+  } else if (element == CE_ItemViewItem) {
+    if (const auto seen = Elegida<QStyleOptionViewItem>(*this, option, widget))
+      return QProxyStyle::drawControl(element, &*seen, painter, widget);
   }
-  QStyleOptionMenuItem seen(*entry);
-  seen.icon = DeUnColor(entry->icon, pixelMetric(PM_SmallIconSize, option, widget),
-                        widget ? widget->devicePixelRatioF() : 1, option->palette.highlightedText().color());
-  QProxyStyle::drawControl(element, &seen, painter, widget);
+  QProxyStyle::drawControl(element, option, painter, widget);
 }
 
 }  // namespace pixmosa

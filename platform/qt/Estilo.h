@@ -1,4 +1,4 @@
-// The desktop's style, with the icons of chosen menu entries in the colour of their text.
+// The desktop's style, with the icons of chosen menu entries and list rows in the colour of their text.
 #pragma once
 
 #include <QProxyStyle>
