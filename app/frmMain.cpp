@@ -122,6 +122,7 @@ void frmMain::CrearCentro() {
   txtAscii_ = named<AreaDeTexto>("txtAscii");
   imagen_->CederAtajos(txtAscii_);
   CrearPrimerosPasos();
+  AvisarDeDibujo();
   connect(txtAscii_, &QPlainTextEdit::textChanged, this, &frmMain::ActualizarAcciones);
   connect(txtAscii_, &AreaDeTexto::TextoSustituido, this, [this] {
     Decir(QStringLiteral("El texto editado a mano se ha sustituido."), QStringLiteral("Recuperarlo"),

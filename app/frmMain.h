@@ -85,6 +85,7 @@ class frmMain final : public QMainWindow {
   void Pegar();          // a picture, a file of one or its address
   void SeguirCarga(const std::string& warning);
   void CrearPrimerosPasos();
+  std::string ElegirArchivoDeImagen();
   void GuardarTexto();
   bool Guardar();  // false where nothing was saved
   void CopiarTexto();
@@ -100,6 +101,12 @@ class frmMain final : public QMainWindow {
   void CopiarComoImagen();
   Medios MediosDeExportar();
   std::string EnFormato(const Dibujo& drawing, const Formato& format);
+  void EscribirDibujo(const std::function<Dibujo()>& drawing);  // as the settings of export say
+
+  // --- frmMain_Editor.cpp ---
+  void AbrirEditor();
+  void ExportarDelEditor(const Dibujo& drawing);
+  void AvisarDeDibujo();  // that an earlier run did not get to keep
 
   // --- frmMain_Imagen.cpp ---
   static const std::vector<Entrada>& EntradasDeHistorial();
@@ -176,7 +183,6 @@ class frmMain final : public QMainWindow {
   void MostrarImagenCompleta();
   void AcercaDe();
   void Comparar();
-  void AbrirEditor();
   void MostrarEstadisticas();
   void MostrarSistema();
 

@@ -52,7 +52,11 @@ void frmMain::Exportar() {
   const Dibujo shown = DibujoDeUtf8(txtAscii_->Utf8());
   const Extent size{static_cast<int>(shown.Columnas()), static_cast<int>(shown.filas.size())};
   frmExportar dialog(p_, desktop_.dialogos, size, HayImagen(p_) && p_.metodoDelTexto >= 0, this);
-  if (dialog.exec() != QDialog::Accepted) return;
+  if (dialog.exec() == QDialog::Accepted)
+    EscribirDibujo([this] { return DibujoDeVentana(p_, txtAscii_->Utf8()); });
+}
+
+void frmMain::EscribirDibujo(const std::function<Dibujo()>& drawing) {
   const Formato* format = FormatoDe(p_.formatoDeExportar);
   const std::string file = desktop_.dialogos.SaveFile("Exportar el dibujo", Filtro(Formatos(), *format),
                                                       format->terminacion, NombreDeImagen(p_));
@@ -63,7 +67,7 @@ void frmMain::Exportar() {
   Intentar(
       desktop_.dialogos,
       [&] {
-        EscribirArchivo(file, EnFormato(DibujoDeVentana(p_, txtAscii_->Utf8()), *format));
+        EscribirArchivo(file, EnFormato(drawing(), *format));
         NombrarArchivo(QStringLiteral("Dibujo exportado"), file);
       },
       "Error al guardar");
