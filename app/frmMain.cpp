@@ -63,6 +63,7 @@ frmMain::frmMain(Programa& program, const Escritorio& desktop)
   CrearPaneles();
   PrepararVista();
   ActualizarAcciones();
+  AvisarDeDibujo();
 }
 
 frmMain::~frmMain() = default;
@@ -122,7 +123,6 @@ void frmMain::CrearCentro() {
   txtAscii_ = named<AreaDeTexto>("txtAscii");
   imagen_->CederAtajos(txtAscii_);
   CrearPrimerosPasos();
-  AvisarDeDibujo();
   connect(txtAscii_, &QPlainTextEdit::textChanged, this, &frmMain::ActualizarAcciones);
   connect(txtAscii_, &AreaDeTexto::TextoSustituido, this, [this] {
     Decir(QStringLiteral("El texto editado a mano se ha sustituido."), QStringLiteral("Recuperarlo"),

@@ -15,8 +15,29 @@ ZonaDeCeldas Unida(const ZonaDeCeldas& a, const ZonaDeCeldas& b) {
           {std::max(a.hasta.column, b.hasta.column), std::max(a.hasta.row, b.hasta.row)}};
 }
 
+void Diario::Anotar(std::size_t at, std::size_t count, const Valor& before) {
+  constexpr std::uint32_t kPocos = 8;  // equal values that are not worth a span of their own
+  if (!tramos.empty() && tramos.back().largo != 0 && tramos.back().desde + tramos.back().largo == at) {
+    Tramo& last = tramos.back();
+    if (last.iguales && valores.back() == before) {
+      last.largo += static_cast<std::uint32_t>(count);
+      return;
+    }
+    if (count < kPocos && (!last.iguales || last.largo < kPocos)) {
+      if (last.iguales) valores.insert(valores.end(), last.largo - 1, Valor(valores.back()));
+      last.iguales = false;
+      valores.insert(valores.end(), count, before);
+      last.largo += static_cast<std::uint32_t>(count);
+      return;
+    }
+  }
+  tramos.push_back({static_cast<std::uint32_t>(at), static_cast<std::uint32_t>(count),
+                    static_cast<std::uint32_t>(valores.size()), true});
+  valores.push_back(before);
+}
+
 std::size_t Diario::Bytes() const {
-  std::size_t bytes = corridas.capacity() * sizeof(Corrida);
+  std::size_t bytes = tramos.capacity() * sizeof(Tramo) + valores.capacity() * sizeof(Valor);
   for (const auto& canvas : lienzos) bytes += canvas->Bytes();
   return bytes;
 }
@@ -37,29 +58,37 @@ void Lienzo::Poner(Cell c, const Contenido& content) {
 
 void Lienzo::PonerTramo(Cell first, int count, const Contenido& content) {
   if (count <= 0) return;
-  Escribir(Indice(first), static_cast<std::size_t>(count), Palabra(content), content.tinta);
+  PrepararTinta(content.tinta);
+  Escribir(Indice(first), static_cast<std::size_t>(count), {Palabra(content), content.tinta});
   Marcar({first, {first.column + count - 1, first.row}});
 }
 
-void Lienzo::Escribir(std::size_t first, std::size_t count, std::uint32_t word, Colour ink) {
-  if (ink != kNoColour && inks_.empty()) inks_.assign(words_.size(), kNoColour);
-  for (std::size_t i = first; i < first + count; ++i) {
-    const std::uint32_t before = words_[i];
-    const Colour beforeInk = inks_.empty() ? kNoColour : inks_[i];
-    if (before == word && beforeInk == ink) continue;
-    words_[i] = word;
-    if (!inks_.empty()) inks_[i] = ink;
-    if (!logging_) continue;
-    if (!log_.corridas.empty()) {
-      Corrida& last = log_.corridas.back();
-      if (last.largo != 0 && last.desde + last.largo == i && last.valor == before &&
-          last.tinta == beforeInk) {
-        ++last.largo;
-        continue;
-      }
-    }
-    log_.corridas.push_back({static_cast<std::uint32_t>(i), 1, before, beforeInk});
+void Lienzo::Escribir(std::size_t at, std::size_t count, const Diario::Valor& value) {
+  const bool inks = !inks_.empty();
+  for (std::size_t i = at, next = 0; i < at + count; i = next) {
+    const Diario::Valor before{words_[i], inks ? inks_[i] : kNoColour};
+    next = i + 1;
+    while (next < at + count && words_[next] == before.palabra && (!inks || inks_[next] == before.tinta))
+      ++next;
+    if (before == value) continue;
+    std::fill(words_.data() + i, words_.data() + next, value.palabra);
+    if (inks) std::fill(inks_.data() + i, inks_.data() + next, value.tinta);
+    if (logging_) log_.Anotar(i, next - i, before);
   }
+}
+
+std::vector<std::uint8_t> Lienzo::Donde(char32_t ch) const {
+  std::vector<std::uint8_t> there(words_.size());
+  std::ranges::transform(words_, there.begin(),
+                         [ch](std::uint32_t word) { return std::uint8_t{(word & kLetra) == ch}; });
+  return there;
+}
+
+void Lienzo::Igualar(const Lienzo& other) {
+  if (other.HayTinta() && inks_.empty()) inks_.assign(words_.size(), kNoColour);
+  for (std::size_t i = 0; i < words_.size(); ++i)
+    Escribir(i, 1, {other.words_[i], other.inks_.empty() ? kNoColour : other.inks_[i]});
+  Marcar({{0, 0}, {columns_, rows_ + 1}});
 }
 
 void Lienzo::Marcar(const ZonaDeCeldas& zone) {
@@ -84,7 +113,7 @@ void Lienzo::Sustituir(Lienzo&& other) {
     log_ = {};
     logging_ = false;
     changed_.clear();
-    log.corridas.push_back({0, 0, static_cast<std::uint32_t>(log.lienzos.size()), kNoColour});
+    log.tramos.push_back({0, 0, static_cast<std::uint32_t>(log.lienzos.size()), false});
     log.lienzos.push_back(std::make_shared<const Lienzo>(std::move(*this)));
   }
   *this = std::move(other);
@@ -100,23 +129,42 @@ void Lienzo::Anotar() {
 
 Diario Lienzo::Anotado() {
   logging_ = false;
-  log_.corridas.shrink_to_fit();
+  log_.tramos.shrink_to_fit();
+  log_.valores.shrink_to_fit();
   return std::exchange(log_, {});
 }
 
+void Lienzo::Devolver(const Diario::Tramo& span, const Diario::Valor* values) {
+  if (span.iguales) {
+    PrepararTinta(values->tinta);
+    Escribir(span.desde, span.largo, *values);
+    return;
+  }
+  for (std::size_t i = 0; i < span.largo && inks_.empty(); ++i) PrepararTinta(values[i].tinta);
+  log_.tramos.push_back({span.desde, span.largo, static_cast<std::uint32_t>(log_.valores.size()), false});
+  const bool inks = !inks_.empty();
+  for (std::size_t i = 0, at = span.desde; i < span.largo; ++i, ++at) {
+    log_.valores.push_back({words_[at], inks ? inks_[at] : kNoColour});
+    words_[at] = values[i].palabra;
+    if (inks) inks_[at] = values[i].tinta;
+  }
+}
+
 void Lienzo::Devolver(const Diario& log) {
-  for (auto run = log.corridas.rbegin(); run != log.corridas.rend(); ++run) {
-    if (run->largo == 0) {
-      Sustituir(Lienzo(*log.lienzos[run->valor]));
+  log_.tramos.reserve(log.tramos.size());
+  log_.valores.reserve(log.valores.size());
+  for (auto span = log.tramos.rbegin(); span != log.tramos.rend(); ++span) {
+    if (span->largo == 0) {
+      Sustituir(Lienzo(*log.lienzos[span->valores]));
       continue;
     }
-    Escribir(run->desde, run->largo, run->valor, run->tinta);
-    const int across = columns_ + 1;
-    const int first = static_cast<int>(run->desde), last = first + static_cast<int>(run->largo) - 1;
-    if (first / across == last / across) {
-      Marcar({{first % across, first / across}, {last % across, last / across}});
+    Devolver(*span, &log.valores[span->valores]);
+    const int across = columns_ + 1, first = static_cast<int>(span->desde);
+    const int row = first / across, last = first + static_cast<int>(span->largo) - 1;
+    if (last < (row + 1) * across) {
+      Marcar({{first - row * across, row}, {last - row * across, row}});
     } else {
-      Marcar({{0, first / across}, {columns_, last / across}});
+      Marcar({{0, row}, {columns_, last / across}});
     }
   }
 }

@@ -45,17 +45,24 @@ struct Contenido {
 
 class Lienzo;
 
-// What was in cells before they were written: a run of equal ones along the rows. Without length, the canvas
-// was replaced: `valor` is its number in the log.
-struct Corrida {
-  std::uint32_t desde, largo, valor;
-  Colour tinta;
-};
-
+// What was in cells before they were written, in spans along the rows: the values of all, or one where they
+// are equal. Without length, the canvas was replaced by another: `valores` is the number of the old one.
 struct Diario {
-  std::vector<Corrida> corridas;
+  struct Valor {
+    std::uint32_t palabra;
+    Colour tinta;
+    bool operator==(const Valor&) const = default;
+  };
+  struct Tramo {
+    std::uint32_t desde, largo, valores;
+    bool iguales;
+  };
+  std::vector<Tramo> tramos;
+  std::vector<Valor> valores;
   std::vector<std::shared_ptr<const Lienzo>> lienzos;
-  bool Vacio() const { return corridas.empty(); }
+
+  bool Vacio() const { return tramos.empty(); }
+  void Anotar(std::size_t at, std::size_t count, const Valor& before);
   std::size_t Bytes() const;
 };
 
@@ -89,6 +96,12 @@ class Lienzo {
   void Poner(Cell c, const Contenido& content);
   void PonerTramo(Cell first, int count, const Contenido& content);
 
+  // Whether each entry, row by row, holds this character.
+  std::vector<std::uint8_t> Donde(char32_t ch) const;
+
+  // Writes what differs from another canvas of the same size.
+  void Igualar(const Lienzo& other);
+
   // Takes another's place with a canvas of any size; the log goes on.
   void Sustituir(Lienzo&& other);
 
@@ -117,8 +130,13 @@ class Lienzo {
     return static_cast<std::uint32_t>(content.caracter) | (content.borrada ? kBorrada : 0) |
            (content.resto ? kResto : 0);
   }
-  // Writes entries in a row and logs them; no mark for who shows them.
-  void Escribir(std::size_t first, std::size_t count, std::uint32_t word, Colour ink);
+  // Writes entries and logs them; no mark for who shows them.
+  void Escribir(std::size_t at, std::size_t count, const Diario::Valor& value);
+  // A span of the log as it was; what is there is logged as one, changed or not.
+  void Devolver(const Diario::Tramo& span, const Diario::Valor* values);
+  void PrepararTinta(Colour ink) {
+    if (ink != kNoColour && inks_.empty()) inks_.assign(words_.size(), kNoColour);
+  }
   void Marcar(const ZonaDeCeldas& zone);
 
   int columns_, rows_;

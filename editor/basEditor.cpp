@@ -46,9 +46,13 @@ void Repaint(BasEditor& editor, At cell) {
     }
     text.insert(text.end(), {{U'\r', kNoColour}, {U'\n', kNoColour}});
   }
-  Clear(editor);
-  Escritura write(editor);
+  // Beside the drawing, so that each cell is written once.
+  BasEditor turned{grid, nullptr, {}};
+  turned.Grid.Anotado();  // what is written there is no action
+  Clear(turned);
+  Escritura write(turned);
   for (const Letra& letter : text) write.Poner(letter);
+  editor.Grid.Igualar(turned.Grid);
 }
 
 // Every cell whose character `other` changes, each in its own ink.

@@ -58,6 +58,7 @@ frmEditor::frmEditor(BasEditor& editor, const Font& font, Dialogs& dialogs, Shel
     lblCoordenadas_->setText(column > 0 ? QStringLiteral("columna %1, fila %2").arg(column).arg(row)
                                         : QString());
   });
+  connect(picDraw_, &Superficie::Terminado, this, [this] { ElegirHerramienta(Tool::Libre); });
   ElegirHerramienta(Tool::Libre);
   resize(EnPantalla(*this, {1180, 860}));
   Actualizar();

@@ -32,7 +32,7 @@ constexpr FilaDeHerramienta kHerramientas[] = {
     {"CajaR", Tool::CajaR, "draw-rectangle-filled", "X", "Caja rellena", "Arrastre de una esquina a otra"},
     {"Rellenar", Tool::Rellenar, "color-fill", "R", "Rellenar una zona", "En azul, lo que se rellenará"},
     {"Texto", Tool::Texto, "insert-text", "T", "Texto",
-     "Pulse y escriba. Intro baja al renglón siguiente, debajo de donde se empezó"},
+     "Pulse y escriba. Intro baja al renglón siguiente, debajo de donde se empezó; Esc deja de escribir"},
     {"Linea", Tool::Linea, "draw-line", "N", "Línea", "Arrastre; con Mayús, recta o en diagonal"},
     {"Flecha", Tool::Flecha, "draw-arrow", "F", "Flecha",
      "Arrastre hasta la punta; con Mayús, recta o en diagonal"},
@@ -118,7 +118,6 @@ void frmEditor::CrearOpciones() {
         {Tool::Seleccionar});
   lblPista_ = named<QLabel>("lblPista");
   lblPista_->setMargin(4);
-  lblPista_->setEnabled(false);
   bar->addWidget(lblPista_);
   addToolBar(bar);
 }

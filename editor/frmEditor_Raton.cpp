@@ -40,10 +40,10 @@ void Superficie::MoverFigura(Cell to, bool straight) {
   // A box or an ellipse may hang over the edge; far away there is nothing to draw.
   to = {std::clamp(to.column, -whole.hasta.column, 2 * whole.hasta.column),
         std::clamp(to.row, -whole.hasta.row, 2 * whole.hasta.row)};
-  update(RectDe(figureZone_).adjusted(-2, -2, 2, 2));
+  update(Alrededor(figureZone_));
   figure_ = FiguraDe(editor_, tool_, opciones, *from_, to);
   figureZone_ = ZonaDeFigura(figure_, {*from_, *from_});
-  update(RectDe(figureZone_).adjusted(-2, -2, 2, 2));
+  update(Alrededor(figureZone_));
 }
 
 void Superficie::PulsarSeleccion(Cell c, bool copy) {
@@ -161,7 +161,7 @@ void Superficie::mouseReleaseEvent(QMouseEvent* event) {
   } else if (from_ && EsFigura(tool_)) {
     MoverFigura(c, event->modifiers().testFlag(Qt::ShiftModifier));
     const std::vector<Pintada> figure = std::exchange(figure_, {});
-    update(RectDe(figureZone_).adjusted(-2, -2, 2, 2));
+    update(Alrededor(figureZone_));
     Hacer([&] { Pintar(editor_, figure); });
   } else if (from_) {
     ArrastrarSeleccion(c);

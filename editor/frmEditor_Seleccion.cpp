@@ -10,7 +10,7 @@ ZonaDeCeldas Superficie::ZonaDe(const Flotante& f) const {
 void Superficie::Seleccionar(const std::optional<ZonaDeCeldas>& zone) {
   if (zone == selection_) return;
   for (const auto& z : {selection_, zone})
-    if (z) update(RectDe(*z).adjusted(-2, -2, 2, 2));
+    if (z) update(Alrededor(*z));
   selection_ = zone;
   emit SeleccionCambiada();
 }
@@ -24,7 +24,7 @@ void Superficie::Levantar(bool copy) {
   if (floating_ || !selection_) return;
   floating_ =
       Flotante{Copiado(editor_.Grid, *selection_), selection_->desde, copy ? std::nullopt : selection_};
-  update(RectDe(*selection_));
+  update(Alrededor(*selection_));
 }
 
 void Superficie::MoverFlotante(Cell to) {
@@ -42,7 +42,7 @@ void Superficie::Pegar(const Bloque& block) {
   if (!seen.isEmpty() && !seen.intersects(RectDe({at, at}))) at = CeldaEn(seen.topLeft());
   floating_ = Flotante{block, at, std::nullopt};
   Seleccionar(ZonaDe(*floating_));
-  update(RectDe(*selection_));
+  update(Alrededor(*selection_));
   emit Cambiado();
 }
 
@@ -61,7 +61,7 @@ bool Superficie::Asentar() {
   const bool inside = zone.hasta.column >= 1 && zone.hasta.row >= 1 &&
                       zone.desde.column <= whole.hasta.column && zone.desde.row <= whole.hasta.row;
   Seleccionar(inside ? std::optional(EnElLienzo(editor_.Grid, zone)) : std::nullopt);
-  update(RectDe(zone).adjusted(-2, -2, 2, 2));
+  update(Alrededor(zone));
   return true;
 }
 
@@ -69,8 +69,8 @@ bool Superficie::Soltar() {
   if (!floating_) return false;
   const Flotante f = std::move(*floating_);
   floating_.reset();
-  update(RectDe(ZonaDe(f)).adjusted(-2, -2, 2, 2));
-  if (f.origen) update(RectDe(*f.origen));
+  update(Alrededor(ZonaDe(f)));
+  if (f.origen) update(Alrededor(*f.origen));
   Seleccionar(f.origen);
   emit Cambiado();
   return true;
@@ -79,7 +79,7 @@ bool Superficie::Soltar() {
 void Superficie::Transformar(const std::function<Bloque(const Bloque&)>& change) {
   if (floating_) {
     floating_->bloque = change(floating_->bloque);
-    update(RectDe(ZonaDe(*floating_)));
+    update(Alrededor(ZonaDe(*floating_)));
     return;
   }
   const ZonaDeCeldas zone = selection_ ? *selection_ : ZonaUsada(editor_.Grid);
@@ -90,7 +90,7 @@ void Superficie::BorrarSeleccion() {
   if (floating_) {
     Flotante f = std::move(*floating_);
     floating_.reset();
-    update(RectDe(ZonaDe(f)).adjusted(-2, -2, 2, 2));
+    update(Alrededor(ZonaDe(f)));
     Seleccionar(f.origen);
     if (!f.origen) {
       emit Cambiado();

@@ -53,7 +53,7 @@ void Superficie::Refrescar() {
     update();
   }
   region_.clear();
-  for (const ZonaDeCeldas& zone : editor_.Grid.Cambiadas()) update(RectDe(zone).adjusted(-1, -1, 1, 1));
+  for (const ZonaDeCeldas& zone : editor_.Grid.Cambiadas()) update(Alrededor(zone));
 }
 
 Point Superficie::PuntoDe(QPoint position) const {
@@ -77,6 +77,12 @@ QRect Superficie::RectDe(const ZonaDeCeldas& zone) const {
   const Escala& scale = kEscalas[scaleIndex_];
   return {(zone.desde.column - 1) * scale.ancho, (zone.desde.row - 1) * scale.alto,
           zone.Columnas() * scale.ancho, zone.Filas() * scale.alto};
+}
+
+QRect Superficie::Alrededor(const ZonaDeCeldas& zone) const {
+  const Escala& scale = kEscalas[scaleIndex_];
+  const int x = scale.ancho / 4 + 2, y = scale.alto / 4 + 2;
+  return RectDe(zone).adjusted(-x, -y, x, y);
 }
 
 void Superficie::PonerEscala(int index) {

@@ -56,6 +56,7 @@ class Superficie final : public QWidget {
   void PonerOpacidad(int percent);
   Cell CeldaEn(QPoint position) const;  // of the widget; may lie outside
   QRect RectDe(const ZonaDeCeldas& zone) const;
+  QRect Alrededor(const ZonaDeCeldas& zone) const;  // with what its glyphs and marks reach
   Cell Senalada() const { return pointed_; }
 
   QSize sizeHint() const override;
@@ -67,6 +68,7 @@ class Superficie final : public QWidget {
   void Cambiado();                          // an action changed the drawing or the history
   void SeleccionCambiada();
   void Tomado(char32_t ch, Colour ink);  // picked from the canvas
+  void Terminado();                      // Escape leaves the text tool
   void Reciente(int number);             // a digit asks for a recent character, 0 the first
   void Visible(QRect area);              // to be scrolled to
 

@@ -67,6 +67,9 @@ bool Superficie::TeclaDeTexto(const QKeyEvent& event) {
     return true;
   }
   switch (event.key()) {
+    case Qt::Key_Escape:
+      emit Terminado();
+      return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
       PonerCursor({margin_.column, cursor_.row + 1});
