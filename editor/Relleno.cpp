@@ -34,14 +34,22 @@ std::vector<TramoDeFila> RegionDe(const Lienzo& canvas, Cell start) {
   return region;
 }
 
+std::vector<TramoDeFila> RegionQueSeRellena(const BasEditor& editor, Cell start) {
+  const Pincel& brush = editor.CurrentChar;
+  const Lienzo& grid = editor.Grid;
+  if (!grid.Tiene(start)) return {};
+  const bool same = brush.soloTinta || grid.Caracter(start) == brush.caracter;
+  if (same && brush.tinta == grid.Tinta(start)) return {};
+  return RegionDe(grid, start);
+}
+
 void FloodFill(BasEditor& editor, Cell start) {
   const Pincel& brush = editor.CurrentChar;
   Lienzo& grid = editor.Grid;
-  if (!grid.Tiene(start)) return;
-  const char32_t target = grid.Caracter(start);
-  if (target == brush.caracter && !brush.soloTinta && brush.tinta == grid.Tinta(start)) return;
-  const char32_t with = brush.soloTinta ? target : brush.caracter;
-  for (const TramoDeFila& t : RegionDe(grid, start))
+  const std::vector<TramoDeFila> region = RegionQueSeRellena(editor, start);
+  if (region.empty()) return;
+  const char32_t with = brush.soloTinta ? grid.Caracter(start) : brush.caracter;
+  for (const TramoDeFila& t : region)
     if (t.row <= grid.Filas()) grid.PonerTramo({t.desde, t.row}, t.hasta - t.desde + 1, {with, brush.tinta});
 }
 

@@ -17,8 +17,9 @@ struct TramoDeFila {
 // and for one without a neighbour of its kind: a fill leaves that as it is.
 std::vector<TramoDeFila> RegionDe(const Lienzo& canvas, Cell start);
 
-// Fills the start's region with the brush. The brush's own character is left as it is, unless the ink
-// differs.
+// What a fill from there with the brush would paint: its region, or nothing where it is as it would become.
+std::vector<TramoDeFila> RegionQueSeRellena(const BasEditor& editor, Cell start);
+
 void FloodFill(BasEditor& editor, Cell start);
 
 }  // namespace pixmosa

@@ -104,6 +104,7 @@ QWidget* frmEditor::CrearCentro() {
   connect(lblRecuperar_, &QLabel::linkActivated, this, Con(dialogs_, [this](const QString& link) {
             if (link == QStringLiteral("recuperar")) return Recuperar();
             for (const auto& file : kept_.Huerfanos()) std::filesystem::remove(file);
+            lost_ = false;
             Actualizar();
           }));
   size_ = CrearTamano();

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <future>
 #include <string>
 #include <string_view>
 
@@ -116,10 +117,10 @@ class frmEditor final : public QMainWindow {
   MediosDelEditor means_;
   Historial history_;
   Resguardo kept_;
-  std::string saved_;     // the drawing's text as it was last opened, sent or saved
-  Bloque copied_;         // what was last copied here, in its colours
-  std::string copiedAs_;  // its text on the clipboard
-  bool shiftedIsFine_ = false;
+  std::string saved_;                          // the drawing's text as it was last opened, sent or saved
+  Bloque copied_;                              // what was last copied here, in its colours
+  std::string copiedAs_;                       // its text on the clipboard
+  bool shiftedIsFine_ = false, lost_ = false;  // there is a drawing of a run that ended abruptly
   Superficie* picDraw_;
   PanelDeCaracteres* characters_ = nullptr;
   frmReemplazar* replace_ = nullptr;
@@ -133,6 +134,7 @@ class frmEditor final : public QMainWindow {
   QWidget* size_ = nullptr;
   QSpinBox *numColumnas_ = nullptr, *numFilas_ = nullptr;
   QTimer* timer_ = nullptr;
+  std::future<void> keeping_;  // the drawing being written
 };
 
 }  // namespace pixmosa

@@ -24,6 +24,7 @@ bool frmEditor::Abrir(std::string_view text) {
   picDraw_->Seleccionar(std::nullopt);
   picDraw_->Refrescar();
   shiftedIsFine_ = false;
+  lost_ = !kept_.Huerfanos().empty();
   Actualizar();
   saved_ = DrawingText(editor_);
   show();
@@ -40,7 +41,7 @@ void frmEditor::Actualizar() {
   if (const auto& zone = picDraw_->Seleccion())
     size += QStringLiteral(" (%1 x %2)").arg(zone->Columnas()).arg(zone->Filas());
   lblMedidas_->setText(size);
-  lblRecuperar_->setVisible(!kept_.Huerfanos().empty());
+  lblRecuperar_->setVisible(lost_);
   const TextoAbierto* opened = editor_.Abierto.get();
   const bool shifted = opened && opened->desplazado && !opened->alineado;
   alinear_->setEnabled(shifted);
@@ -102,16 +103,17 @@ void frmEditor::Exportar() {
 }
 
 void frmEditor::Resguardar() {
-  const auto start = std::chrono::steady_clock::now();
-  try {
-    kept_.Guardar(editor_);
-  } catch (const FileError&) {
-    // Nobody asked for it; what is drawn goes on.
-  }
-  // A large drawing is kept less often: at most a twentieth of the time goes into it.
-  using std::chrono::milliseconds;
-  const auto spent = std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - start);
-  timer_->setInterval(std::max(milliseconds(1000), 20 * spent));
+  using std::chrono_literals::operator""s;
+  if (means_.resguardo.empty()) return;
+  if (keeping_.valid() && keeping_.wait_for(0s) != std::future_status::ready) return timer_->start();
+  // Of a copy and beside the drawing, which goes on.
+  keeping_ = std::async(std::launch::async, [kept = kept_, copy = editor_] {
+    try {
+      kept.Guardar(copy);
+    } catch (const std::exception&) {
+      // Nobody asked for it.
+    }
+  });
 }
 
 void frmEditor::Recuperar() {
@@ -127,6 +129,7 @@ void frmEditor::Recuperar() {
     kept_.Guardar(editor_);
   }
   std::filesystem::remove(files.front());
+  lost_ = files.size() > 1;
   Actualizar();
   if (!whole) dialogs_.Fail("El archivo del dibujo que se conservaba está dañado.", "Recuperar");
 }
@@ -155,6 +158,7 @@ void frmEditor::closeEvent(QCloseEvent* event) {
   event->setAccepted(PuedePerderse());
   if (!event->isAccepted()) return;
   timer_->stop();
+  if (keeping_.valid()) keeping_.wait();
   kept_.Retirar();
 }
 

@@ -1,4 +1,6 @@
 // The pointer on the drawing surface.
+#include <utility>
+
 #include <QMouseEvent>
 
 #include "editor/frmEditor_Superficie.h"
@@ -49,27 +51,40 @@ void Superficie::MoverFigura(Cell to, bool straight) {
 void Superficie::PulsarSeleccion(Cell c, bool copy) {
   from_ = c;
   cursor_ = EnElLienzo(editor_.Grid, {c, c}).desde;
-  if (selection_ && selection_->Contiene(c)) {
-    if (copy) Asentar();  // one stays where it is
-    Levantar(copy);
-    floatingFrom_ = floating_->en;
-    return;
-  }
+  moving_ = selection_ && selection_->Contiene(c);
+  copying_ = copy;
+  if (moving_) return;
   Asentar();
   Seleccionar(std::nullopt);
 }
 
 void Superficie::ArrastrarSeleccion(Cell c) {
-  if (floating_) {
-    MoverFlotante({floatingFrom_.column + c.column - from_->column, floatingFrom_.row + c.row - from_->row});
-  } else if (c != *from_ || selection_) {
-    Seleccionar(EnElLienzo(editor_.Grid, ZonaEntre(*from_, c)));
+  if (!moving_) {
+    if (c != *from_ || selection_) Seleccionar(EnElLienzo(editor_.Grid, ZonaEntre(*from_, c)));
+    return;
   }
+  if (c == *from_ && !floating_) return;
+  if (std::exchange(copying_, false)) {
+    Asentar();  // one stays where it is
+    Levantar(true);
+  } else {
+    Levantar(false);
+  }
+  if (!floating_) return;
+  MoverFlotante({floating_->en.column + c.column - from_->column, floating_->en.row + c.row - from_->row});
+  from_ = c;
+}
+
+// The part in sight of what a fill would take.
+void Superficie::RefrescarRegion() {
+  const QRect seen = visibleRegion().boundingRect();
+  QRect part;
+  for (const TramoDeFila& t : region_) part |= RectDe({{t.desde, t.row}, {t.hasta, t.row}}).intersected(seen);
+  if (!part.isEmpty()) update(part);
 }
 
 void Superficie::OlvidarRegion() {
-  for (const TramoDeFila& t : region_)
-    update(RectDe({{t.desde, t.row}, {t.hasta, t.row}}).intersected(visibleRegion().boundingRect()));
+  RefrescarRegion();
   region_.clear();
 }
 
@@ -77,9 +92,8 @@ void Superficie::MostrarRegion(Cell c) {
   for (const TramoDeFila& t : region_)
     if (t.row == c.row && c.column >= t.desde && c.column <= t.hasta) return;
   OlvidarRegion();
-  region_ = RegionDe(editor_.Grid, c);
-  const QRect seen = visibleRegion().boundingRect();
-  for (const TramoDeFila& t : region_) update(RectDe({{t.desde, t.row}, {t.hasta, t.row}}).intersected(seen));
+  region_ = RegionQueSeRellena(editor_, c);
+  RefrescarRegion();
 }
 
 void Superficie::Tomar(Cell c) {

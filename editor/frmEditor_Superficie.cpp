@@ -52,7 +52,7 @@ void Superficie::Refrescar() {
     if (selection_ && !floating_) selection_ = EnElLienzo(editor_.Grid, *selection_);
     update();
   }
-  region_.clear();
+  OlvidarRegion();
   for (const ZonaDeCeldas& zone : editor_.Grid.Cambiadas()) update(Alrededor(zone));
 }
 

@@ -101,6 +101,7 @@ class Superficie final : public QWidget {
   void PulsarSeleccion(Cell c, bool copy);
   void ArrastrarSeleccion(Cell c);
   void MostrarRegion(Cell c);
+  void RefrescarRegion();
   void OlvidarRegion();
   void Tomar(Cell c);
 
@@ -140,8 +141,8 @@ class Superficie final : public QWidget {
   std::vector<TramoDeFila> region_;  // that a fill would take
   std::optional<ZonaDeCeldas> selection_;
   std::optional<Flotante> floating_;
-  Cell floatingFrom_{};
-  Cell cursor_{1, 1}, margin_{1, 1};  // of the text tool, and where its lines begin
+  bool moving_ = false, copying_ = false;  // what is selected is dragged, or a copy of it is to be
+  Cell cursor_{1, 1}, margin_{1, 1};       // of the text tool, and where its lines begin
   Cell pointed_{};
 };
 

@@ -416,6 +416,13 @@ void MainWindowTest::EditorSendsItsDrawingBack() {
   PintarCaracter(m.program.basEditor, 1, 3, 'x');
   Find<QAction>(editor, "mnuEnviar").trigger();
   QCOMPARE(m.Text(), "hola\r\n\r\nx");
+  m.Area().Deshacer();
+  QCOMPARE(m.Text(), "hola");
+  m.program.carpetaDeDibujos = m.folder.Path();
+  EscribirArchivo(m.folder.File("dibujo-99999999.pixmosa"), "");  // of no process
+  const frmMain next(m.program, {m.dialogs, m.shell, m.registry});
+  QVERIFY(Find<QLabel>(next, "lblEnlace").text().startsWith("El programa terminó de golpe"));
+  m.program.carpetaDeDibujos.clear();
   PintarCaracter(m.program.basEditor, 1, 4, 'y');
   QVERIFY2(!m.window.close(), "the editor's unsent changes are asked about first");
   QVERIFY(m.dialogs.log.back().starts_with("AskToSave|Editor Ascii|"));
