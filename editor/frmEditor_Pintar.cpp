@@ -75,9 +75,15 @@ void Superficie::PintarArea(QPainter& painter, const QRect& area) {
 }
 
 void Superficie::PintarEncima(QPainter& painter, const QRect& area) {
-  for (const TramoDeFila& t : region_) {
-    const QRect span = RectDe({{t.desde, t.row}, {t.hasta, t.row}}).intersected(area);
-    if (!span.isEmpty()) painter.fillRect(span, kResalte);
+  if (!region_.Vacia()) {
+    const ZonaDeCeldas zone =
+        EnElLienzo(editor_.Grid, {CeldaEn(area.topLeft()), CeldaEn(area.bottomRight())});
+    for (int row = zone.desde.row; row <= zone.hasta.row; ++row)
+      for (Cell c{zone.desde.column, row}, from = c; c.column <= zone.hasta.column; ++c.column) {
+        if (!region_.Contiene(c)) continue;
+        for (from = c; c.column < zone.hasta.column && region_.Contiene({c.column + 1, row});) ++c.column;
+        painter.fillRect(RectDe({from, c}), kResalte);
+      }
   }
   for (const auto& [c, ch] : figure_) {
     const QRect cell = RectDe({c, c});

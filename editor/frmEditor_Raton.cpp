@@ -75,25 +75,20 @@ void Superficie::ArrastrarSeleccion(Cell c) {
   from_ = c;
 }
 
-// The part in sight of what a fill would take.
-void Superficie::RefrescarRegion() {
-  const QRect seen = visibleRegion().boundingRect();
-  QRect part;
-  for (const TramoDeFila& t : region_) part |= RectDe({{t.desde, t.row}, {t.hasta, t.row}}).intersected(seen);
-  if (!part.isEmpty()) update(part);
+void Superficie::OlvidarRegion() {
+  MarcarRegion();
+  region_ = {};
 }
 
-void Superficie::OlvidarRegion() {
-  RefrescarRegion();
-  region_.clear();
+void Superficie::MarcarRegion() {
+  if (!region_.Vacia()) update(RectDe(region_.Alrededor()));
 }
 
 void Superficie::MostrarRegion(Cell c) {
-  for (const TramoDeFila& t : region_)
-    if (t.row == c.row && c.column >= t.desde && c.column <= t.hasta) return;
-  OlvidarRegion();
+  if (region_.Contiene(c)) return;
+  MarcarRegion();
   region_ = RegionQueSeRellena(editor_, c);
-  RefrescarRegion();
+  MarcarRegion();
 }
 
 void Superficie::Tomar(Cell c) {
@@ -166,8 +161,8 @@ void Superficie::mouseReleaseEvent(QMouseEvent* event) {
     update(rubber.adjusted(-2, -2, 2, 2));
     Hacer([&] { DrawBox(editor_, from, corner_, tool_ == Tool::CajaR); });
   } else if (tool_ == Tool::Rellenar && !event->modifiers().testFlag(Qt::ControlModifier)) {
-    Hacer([&] { FloodFill(editor_, c); });
-    OlvidarRegion();
+    MostrarRegion(c);
+    Hacer([&] { RellenarRegion(editor_, std::exchange(region_, {})); });
   } else if (stroke_) {
     stroke_ = false;
     history_.Terminar(editor_);

@@ -52,8 +52,9 @@ void Superficie::Refrescar() {
     if (selection_ && !floating_) selection_ = EnElLienzo(editor_.Grid, *selection_);
     update();
   }
-  OlvidarRegion();
-  for (const ZonaDeCeldas& zone : editor_.Grid.Cambiadas()) update(Alrededor(zone));
+  const std::vector<ZonaDeCeldas> changed = editor_.Grid.Cambiadas();
+  if (!changed.empty()) OlvidarRegion();
+  for (const ZonaDeCeldas& zone : changed) update(Alrededor(zone));
 }
 
 Point Superficie::PuntoDe(QPoint position) const {

@@ -101,7 +101,7 @@ class Superficie final : public QWidget {
   void PulsarSeleccion(Cell c, bool copy);
   void ArrastrarSeleccion(Cell c);
   void MostrarRegion(Cell c);
-  void RefrescarRegion();
+  void MarcarRegion();
   void OlvidarRegion();
   void Tomar(Cell c);
 
@@ -138,7 +138,7 @@ class Superficie final : public QWidget {
   std::optional<Cell> last_;  // its last cell
   std::vector<Pintada> figure_;
   ZonaDeCeldas figureZone_{};
-  std::vector<TramoDeFila> region_;  // that a fill would take
+  Region region_;  // that a fill would take
   std::optional<ZonaDeCeldas> selection_;
   std::optional<Flotante> floating_;
   bool moving_ = false, copying_ = false;  // what is selected is dragged, or a copy of it is to be

@@ -44,6 +44,7 @@ frmReemplazar::frmReemplazar(QWidget* parent) : QDialog(parent) {
   buttons->addButton(QStringLiteral("Cerrar"), QDialogButtonBox::RejectRole);
   connect(buttons, &QDialogButtonBox::accepted, this, [this] { emit Pedido(De(txtBuscar_), De(txtPoner_)); });
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+  setMinimumWidth(300);  // its title
   auto* form = new QFormLayout(this);
   form->addRow(QStringLiteral("&Buscar:"), txtBuscar_);
   form->addRow(QStringLiteral("&Poner:"), txtPoner_);
