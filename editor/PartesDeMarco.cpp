@@ -46,7 +46,7 @@ Brazos BrazosDe(char32_t c, bool ascii) {
   if (ascii && c == U'+') return {1, 1, 1, 1};
   Brazos arms{};
   if (c < kPrimero || c > kUltimo) return arms;
-  for (std::size_t i = 0; i < arms.size(); ++i) arms[i] = kBrazos[(c - kPrimero) * 5 + i] - '0';
+  for (std::size_t i = 0; i < arms.size(); ++i) arms[i] = kBrazos[std::size_t{c - kPrimero} * 5 + i] - '0';
   return arms;
 }
 

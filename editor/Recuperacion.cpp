@@ -162,6 +162,7 @@ std::vector<fs::path> Resguardo::Huerfanos() const {
   }
   std::ranges::sort(found, std::greater<>());
   std::vector<fs::path> files;
+  files.reserve(found.size());
   for (auto& [when, file] : found) files.push_back(std::move(file));
   return files;
 }

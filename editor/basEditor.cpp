@@ -106,7 +106,14 @@ void EraseCell(BasEditor& editor, Cell c) {
 
 void PaintText(BasEditor& editor, std::string_view text) {
   Escritura write(editor);
-  while (!text.empty() && write.Cabe()) write.Poner({NextUtf8(text), kNoColour});
+  // Line by line, as the text is taken apart when it goes out: a broken sequence ends with its line.
+  while (write.Cabe()) {
+    const std::size_t end = text.find('\r');
+    for (std::string_view row = text.substr(0, end); !row.empty();) write.Poner({NextUtf8(row), kNoColour});
+    if (end == std::string_view::npos) return;
+    write.Poner({U'\r', kNoColour});
+    text.remove_prefix(end + 1);
+  }
 }
 
 void Clear(BasEditor& editor) {
