@@ -87,6 +87,10 @@ QWidget* frmEditor::CrearCentro() {
     const QPoint middle = area.center();
     scroll->ensureVisible(middle.x(), middle.y(), area.width() / 2 + 4, area.height() / 2 + 4);
   });
+  connect(picDraw_, &Superficie::Arrastrada, scroll, [scroll](QPoint by) {
+    scroll->horizontalScrollBar()->setValue(scroll->horizontalScrollBar()->value() - by.x());
+    scroll->verticalScrollBar()->setValue(scroll->verticalScrollBar()->value() - by.y());
+  });
   lblNoCabe_ = CrearAviso("lblNoCabe");
   lblDesplazado_ = CrearAviso("lblDesplazado");
   lblDesplazado_->setText(

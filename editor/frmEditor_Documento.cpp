@@ -5,14 +5,21 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QStatusBar>
 #include <QTimer>
 
 #include "editor/TextoDelEditor.h"
 #include "editor/frmEditor.h"
 #include "editor/frmEditor_Superficie.h"
 #include "platform/AtomicFile.h"
+#include "platform/qt/QtText.h"
 
 namespace pixmosa {
+namespace {
+
+constexpr int kAviso = 4000;  // milliseconds
+
+}  // namespace
 
 bool frmEditor::Abrir(std::string_view text) {
   if (isVisible() && !PuedePerderse()) return false;
@@ -72,6 +79,7 @@ void frmEditor::Enviar() {
   picDraw_->Asentar();
   saved_ = DrawingText(editor_);
   emit Enviado(saved_);
+  statusBar()->showMessage(QStringLiteral("El dibujo está en la ventana principal."), kAviso);
 }
 
 bool frmEditor::Guardar() {
@@ -83,6 +91,7 @@ bool frmEditor::Guardar() {
     const TextoDePagina page = EnPagina(text);
     EscribirArchivo(file, page.bytes + (text.ends_with("\r\n") ? "" : "\r\n"));
     saved_ = std::move(text);
+    statusBar()->showMessage(QStringLiteral("Guardado: ") + Q(file), kAviso);
     if (page.cambiados > 0)
       dialogs_.Inform(
           "El dibujo tiene caracteres que no están en la página de códigos (" +

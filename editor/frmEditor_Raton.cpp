@@ -98,6 +98,7 @@ void Superficie::Tomar(Cell c) {
 }
 
 void Superficie::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::MiddleButton) pan_ = event->globalPosition().toPoint();
   if (event->button() != Qt::LeftButton) return;
   const QPoint at = Donde(event);
   const Cell c = CeldaDeHerramienta(at);
@@ -127,6 +128,12 @@ void Superficie::mousePressEvent(QMouseEvent* event) {
 }
 
 void Superficie::mouseMoveEvent(QMouseEvent* event) {
+  if (pan_ && event->buttons().testFlag(Qt::MiddleButton)) {
+    const QPoint here = event->globalPosition().toPoint();
+    emit Arrastrada(here - *pan_);
+    pan_ = here;
+    return;
+  }
   const QPoint at = Donde(event);
   const Cell c = CeldaDeHerramienta(at);
   pointed_ = CeldaEn(at);

@@ -71,6 +71,7 @@ class Superficie final : public QWidget {
   void Terminado();                      // Escape leaves the text tool
   void Reciente(int number);             // a digit asks for a recent character, 0 the first
   void Visible(QRect area);              // to be scrolled to
+  void Arrastrada(QPoint by);            // with the middle button
 
  protected:
   bool event(QEvent* event) override;
@@ -144,6 +145,7 @@ class Superficie final : public QWidget {
   bool moving_ = false, copying_ = false;  // what is selected is dragged, or a copy of it is to be
   Cell cursor_{1, 1}, margin_{1, 1};       // of the text tool, and where its lines begin
   Cell pointed_{};
+  std::optional<QPoint> pan_;  // on the screen, while the middle button is held
 };
 
 }  // namespace pixmosa
