@@ -2,13 +2,10 @@
 
 #include <QComboBox>
 #include <QDockWidget>
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSlider>
-#include <QSpinBox>
 #include <QStatusBar>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -121,36 +118,6 @@ QWidget* frmEditor::CrearCentro() {
     layout->addWidget(bar);
   layout->addWidget(scroll, 1);
   return centre;
-}
-
-QWidget* frmEditor::CrearTamano() {
-  auto* bar = named<QWidget>("barraTamano");
-  auto* row = new QHBoxLayout(bar);
-  const auto number = [&](const char* name, const char* caption, int most) {
-    auto* field = named<QSpinBox>(name);
-    field->setRange(1, most);
-    field->setAccessibleName(QString::fromUtf8(caption));
-    field->setToolTip(QStringLiteral("De 1 a %1").arg(most));
-    row->addWidget(new QLabel(QString::fromUtf8(caption) + ":"));
-    row->addWidget(field);
-    return field;
-  };
-  numColumnas_ = number("numColumnasEditor", "Columnas", kLadoMayor);
-  numFilas_ = number("numFilasEditor", "Filas", kLadoMayor);
-  const auto button = [&](const char* name, const char* text, auto work) {
-    auto* b = named<QPushButton>(name, QString::fromUtf8(text));
-    connect(b, &QPushButton::clicked, this, Con(dialogs_, [work](bool) { work(); }));
-    row->addWidget(b);
-    return b;
-  };
-  button("cmdRedimensionar", "Cambiar el tamaño", [this] { CambiarTamano(); });
-  button("cmdCerrarTamano", "Cerrar", [this] {
-    size_->hide();
-    picDraw_->setFocus();
-  });
-  row->addStretch(1);
-  bar->hide();
-  return bar;
 }
 
 void frmEditor::CrearCaracteres() {

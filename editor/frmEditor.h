@@ -67,7 +67,6 @@ class frmEditor final : public QMainWindow {
   QLabel* CrearAviso(const char* name);
   void CrearEstado();
   void CrearCaracteres();
-  QWidget* CrearTamano();
 
   // --- frmEditor_Menus.cpp ---
   QAction* Propia(QMenu* menu, const EntradaDeMenu& row, std::function<void()> work);
@@ -106,6 +105,9 @@ class frmEditor final : public QMainWindow {
   void SeleccionarTodo();
   void Voltear(Eje axis);
   void AbrirReemplazar();
+
+  // --- frmEditor_Tamano.cpp ---
+  QWidget* CrearTamano();
   void PedirTamano();
   void CambiarTamano();
   void Recortar(const ZonaDeCeldas& zone);

@@ -1,7 +1,4 @@
-// What the menus do to the selection and to the canvas.
-#include <QAction>
-#include <QSpinBox>
-
+// What the menus do to the selection.
 #include "editor/frmEditor.h"
 #include "editor/frmEditor_Superficie.h"
 #include "editor/frmReemplazar.h"
@@ -55,30 +52,6 @@ void frmEditor::AbrirReemplazar() {
   const Cell at = picDraw_->Senalada();
   const char32_t under = editor_.Grid.SePinta(at) ? editor_.Grid.Visto(at) : U' ';
   replace_->Mostrar(under, editor_.CurrentChar.caracter, picDraw_->Seleccion().has_value());
-}
-
-void frmEditor::PedirTamano() {
-  const bool asked =
-      numColumnas_->value() != editor_.Grid.Columnas() || numFilas_->value() != editor_.Grid.Filas();
-  if (size_->isVisible() && asked) return CambiarTamano();
-  numColumnas_->setValue(editor_.Grid.Columnas());
-  numFilas_->setValue(editor_.Grid.Filas());
-  size_->show();
-  numColumnas_->setFocus();
-  numColumnas_->selectAll();
-}
-
-void frmEditor::CambiarTamano() {
-  const int columns = numColumnas_->value(), rows = numFilas_->value();
-  if (columns == editor_.Grid.Columnas() && rows == editor_.Grid.Filas()) return;
-  picDraw_->Hacer([&] { Redimensionar(editor_, columns, rows); });
-}
-
-void frmEditor::Recortar(const ZonaDeCeldas& zone) {
-  picDraw_->Asentar();
-  const ZonaDeCeldas inside = EnElLienzo(editor_.Grid, zone);
-  picDraw_->Seleccionar(std::nullopt);
-  picDraw_->Hacer([&] { Redimensionar(editor_, inside.Columnas(), inside.Filas(), inside.desde); });
 }
 
 }  // namespace pixmosa

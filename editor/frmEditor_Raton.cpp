@@ -30,6 +30,12 @@ void Superficie::Trazar(Cell c) {
   Refrescar();
 }
 
+void Superficie::TerminarTrazo() {
+  if (!std::exchange(stroke_, false)) return;
+  history_.Terminar(editor_);
+  emit Cambiado();
+}
+
 void Superficie::MoverGoma(Point corner) {
   const QRect before = RectDeGoma();
   corner_ = SnapToLattice(corner);
@@ -171,9 +177,7 @@ void Superficie::mouseReleaseEvent(QMouseEvent* event) {
     MostrarRegion(c);
     Hacer([&] { RellenarRegion(editor_, std::exchange(region_, {})); });
   } else if (stroke_) {
-    stroke_ = false;
-    history_.Terminar(editor_);
-    emit Cambiado();
+    TerminarTrazo();
   } else if (from_ && EsFigura(tool_)) {
     MoverFigura(c, event->modifiers().testFlag(Qt::ShiftModifier));
     const std::vector<Pintada> figure = std::exchange(figure_, {});

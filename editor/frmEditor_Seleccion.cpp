@@ -47,6 +47,7 @@ void Superficie::Pegar(const Bloque& block) {
 }
 
 bool Superficie::Asentar() {
+  TerminarTrazo();
   if (!floating_) return false;
   const Flotante f = std::move(*floating_);
   floating_.reset();
@@ -66,6 +67,7 @@ bool Superficie::Asentar() {
 }
 
 bool Superficie::Soltar() {
+  TerminarTrazo();
   if (!floating_) return false;
   const Flotante f = std::move(*floating_);
   floating_.reset();

@@ -20,6 +20,7 @@ QSize Superficie::sizeHint() const {
 }
 
 void Superficie::PonerHerramienta(Tool tool) {
+  TerminarTrazo();
   if (tool != Tool::Seleccionar) {
     Asentar();
     Seleccionar(std::nullopt);

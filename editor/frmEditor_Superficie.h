@@ -97,6 +97,7 @@ class Superficie final : public QWidget {
 
   // --- _Raton.cpp ---
   void Trazar(Cell c);
+  void TerminarTrazo();
   void MoverGoma(Point corner);
   void MoverFigura(Cell to, bool straight);
   void PulsarSeleccion(Cell c, bool copy);

@@ -71,6 +71,10 @@ class HerramientasTest : public QObject {
     Editor e;
     e.Trace({{1, 1}, {6, 2}});
     QCOMPARE(Rows(e.state.Grid, 1, 2, 6), (Strings{"###   ", "   ###"}));
+    QTest::mousePress(&e.surface, Qt::LeftButton, {}, e.At({1, 5}));
+    e.Trigger("mnuDeshacer");  // ends the stroke, and takes it back
+    QTest::mouseRelease(&e.surface, Qt::LeftButton, {}, e.At({9, 5}));
+    QCOMPARE(DrawingText(e.state), "###\r\n   ###");
     QTest::keyClick(&e.surface, Qt::Key_B);
     Find<QSpinBox>(e.window, "numGoma").setValue(3);
     Find<QCheckBox>(e.window, "chkBorrarDelTodo").setChecked(true);
@@ -141,7 +145,7 @@ class HerramientasTest : public QObject {
     e.Trigger("mnuRedimensionar");
     Find<QSpinBox>(e.window, "numColumnasEditor").setValue(320);
     Find<QSpinBox>(e.window, "numFilasEditor").setValue(111);
-    Find<QPushButton>(e.window, "cmdRedimensionar").click();
+    QTest::keyClick(&Find<QSpinBox>(e.window, "numFilasEditor"), Qt::Key_Return);
     QCOMPARE(e.surface.size(), QSize(320 * 8, 112 * 12));
     e.Trace({{320, 111}});
     QCOMPARE(e.state.Grid.Caracter({320, 111}), U'#');
