@@ -152,4 +152,15 @@ TEST_F(BasEditorTest, HistoryUndoesAndRedoesWholeActions) {
   EXPECT_FALSE(h.PuedeDeshacer());
   act([&] { PaintText(e, "z"); });
   EXPECT_FALSE(h.PuedeRehacer()) << "a new action ends the redo";
+  for (int i = 0; i < 1010; ++i)
+    act([&] { PintarCelda(e, {1 + i % 100, 1 + i / 100}, U'*', i % 3 ? kNoColour : i); });
+  act([&] { e.Grid.Sustituir(Lienzo(4096, 4096)); });
+  act([&] { FloodFill(e, {9, 9}); });
+  int steps = 0;
+  for (; h.PuedeDeshacer(); ++steps) h.Deshacer(e);
+  EXPECT_EQ(steps, 1000);
+  EXPECT_EQ(Rows(e.Grid, 1, 1, 14), Strings{"************  "}) << "the oldest are forgotten";
+  for (; h.PuedeRehacer(); --steps) h.Rehacer(e);
+  EXPECT_EQ(steps, 0);
+  EXPECT_EQ(e.Grid.Caracter({4096, 4096}), e.CurrentChar.caracter);
 }
