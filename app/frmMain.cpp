@@ -66,6 +66,7 @@ frmMain::frmMain(Programa& program, const Escritorio& desktop)
   PrepararVista();
   RecuperarVentana();
   ActualizarAcciones();
+  AvisarDeDibujo();
 }
 
 frmMain::~frmMain() {

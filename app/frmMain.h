@@ -89,6 +89,7 @@ class frmMain final : public QMainWindow {
   void SeguirCarga(const std::string& warning);
   void ArrastrarImagen();  // out of the window: a file and a picture
   void CrearPrimerosPasos();
+  std::string ElegirArchivoDeImagen();
   void GuardarTexto();
   bool Guardar();  // false where nothing was saved
   void CopiarTexto();
@@ -104,6 +105,12 @@ class frmMain final : public QMainWindow {
   void CopiarComoImagen();
   Medios MediosDeExportar();
   std::string EnFormato(const Dibujo& drawing, const Formato& format);
+  void EscribirDibujo(const std::function<Dibujo()>& drawing);  // as the settings of export say
+
+  // --- frmMain_Editor.cpp ---
+  void AbrirEditor();
+  void ExportarDelEditor(const Dibujo& drawing);
+  void AvisarDeDibujo();  // that an earlier run did not get to keep
 
   // --- frmMain_Imagen.cpp ---
   static const std::vector<Entrada>& EntradasDeHistorial();
@@ -219,7 +226,6 @@ class frmMain final : public QMainWindow {
   void MostrarImagenCompleta();
   void AcercaDe();
   void Comparar();
-  void AbrirEditor();
   void MostrarEstadisticas();
   void MostrarSistema();
 

@@ -18,11 +18,15 @@ constexpr char kFiltroDeTodas[] = "|Todas las imágenes que se pueden leer|";
 
 }  // namespace
 
-void frmMain::CargarImagen() {
+std::string frmMain::ElegirArchivoDeImagen() {
   std::string all;
   for (const std::string& ending : p_.codec.FormatosLegibles()) all += (all.empty() ? "*." : ";*.") + ending;
-  const std::string file = desktop_.dialogos.OpenFile("Seleccione una imagen...",
-                                                      std::string(kFiltroDeImagenes) + kFiltroDeTodas + all);
+  return desktop_.dialogos.OpenFile("Seleccione una imagen...",
+                                    std::string(kFiltroDeImagenes) + kFiltroDeTodas + all);
+}
+
+void frmMain::CargarImagen() {
+  const std::string file = ElegirArchivoDeImagen();
   if (!file.empty()) AbrirImagen(file);
 }
 

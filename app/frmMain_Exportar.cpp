@@ -52,7 +52,11 @@ void frmMain::Exportar() {
   const Dibujo shown = DibujoDeUtf8(txtAscii_->Utf8());
   const Extent size{static_cast<int>(shown.Columnas()), static_cast<int>(shown.filas.size())};
   frmExportar dialog(p_, desktop_.dialogos, size, HayImagen(p_) && p_.metodoDelTexto >= 0, this);
-  if (dialog.exec() != QDialog::Accepted) return;
+  if (dialog.exec() == QDialog::Accepted)
+    EscribirDibujo([this] { return DibujoDeVentana(p_, txtAscii_->Utf8()); });
+}
+
+void frmMain::EscribirDibujo(const std::function<Dibujo()>& drawing) {
   const Formato* format = FormatoDe(p_.formatoDeExportar);
   const std::string file = desktop_.dialogos.SaveFile("Exportar el dibujo", Filtro(Formatos(), *format),
                                                       format->terminacion, NombreDeImagen(p_));
@@ -63,9 +67,9 @@ void frmMain::Exportar() {
   Intentar(
       desktop_.dialogos,
       [&] {
-        const auto drawing = std::make_shared<Dibujo>(DibujoDeVentana(p_, txtAscii_->Utf8()));
-        EscribirArchivo(file, Esperar([drawing, format, options = p_.exportar, means = MediosDeExportar()] {
-                          return format->escribir(*drawing, options, means);
+        const auto made = std::make_shared<Dibujo>(drawing());
+        EscribirArchivo(file, Esperar([made, format, options = p_.exportar, means = MediosDeExportar()] {
+                          return format->escribir(*made, options, means);
                         }));
         NombrarArchivo(QStringLiteral("Dibujo exportado"), file);
       },

@@ -57,25 +57,6 @@ void frmMain::Comparar() {
   window.exec();
 }
 
-void frmMain::AbrirEditor() {
-  if (!txtAscii_->CabeEnLaPagina() &&
-      !desktop_.dialogos.Ask(
-          "El editor solo admite los caracteres de la página de códigos: los demás se abrirán "
-          "como \"?\".\r\n¿Desea abrir así el dibujo?"))
-    return;
-  // A window closed by the user is gone; one that is open asks before it takes another text.
-  if (!editor_ || !editor_->isVisible()) {
-    delete editor_;
-    editor_ = new frmEditor(p_.basEditor, p_.ajustes.font, desktop_.dialogos, desktop_.entorno, this);
-    connect(editor_, &frmEditor::Enviado, this, Con(desktop_.dialogos, [this](const std::string& text) {
-              txtAscii_->RecibirTexto(text);
-              Decir("El dibujo del editor ha sustituido al texto.", "Deshacer",
-                    [this] { txtAscii_->Deshacer(); });
-            }));
-  }
-  editor_->Abrir(txtAscii_->Texto());
-}
-
 void frmMain::closeEvent(QCloseEvent* event) {
   if (ocupada_) {
     cerrarDespues_ = true;

@@ -86,6 +86,7 @@ int main(int argc, char** argv) {
   QtShell shell;
   QtRegistry registry;
   Programa program{surface, pictures, ProgramFolder(), FontFolders()};
+  program.carpetaDeDibujos = DrawingFolder();
   if (!Intentar(dialogs, [&] { CargarPaleta3x2(program); })) return 1;
   std::unique_ptr<PrivateFolder> scratch;
   try {

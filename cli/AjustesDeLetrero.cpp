@@ -69,7 +69,7 @@ OpcionesDeLetrero LetreroPedido(const Argumentos& arguments) {
   if (side >= 0) o.composicion.alinear = static_cast<Lado>(side);
   o.acabado.recortar = arguments.Tiene("--recortar");
   o.acabado.espejo = arguments.Tiene("--espejo");
-  o.acabado.marco = static_cast<Marco>(Lugar(arguments, "--marco", kMarcos) + 1);
+  o.acabado.marco = static_cast<MarcoDeLetrero>(Lugar(arguments, "--marco", kMarcos) + 1);
   o.acabado.comentario = static_cast<Comentario>(Lugar(arguments, "--comentario", kComentarios) + 1);
   o.acabado.degradado = DegradadoPedido(arguments);
   return o;

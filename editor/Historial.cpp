@@ -1,31 +1,34 @@
 #include "editor/Historial.h"
 
+#include <utility>
+
 namespace pixmosa {
 
-Historial::Dibujo Historial::De(const BasEditor& editor) {
-  return {editor.Grid, editor.Screen, editor.Resto, editor.Abierto};
+void Historial::Empezar(BasEditor& editor) {
+  before_ = editor.Abierto;
+  editor.Grid.Anotar();
 }
 
-void Historial::Empezar(const BasEditor& editor) {
-  before_ = De(editor);
-}
-
-void Historial::Terminar(const BasEditor& editor) {
-  if (before_ == De(editor)) return;
-  if (undo_.size() == kMost) undo_.erase(undo_.begin());
-  undo_.push_back(before_);
+void Historial::Terminar(BasEditor& editor) {
+  Diario log = editor.Grid.Anotado();
+  if (log.Vacio() && before_ == editor.Abierto) return;
+  undo_.push_back({std::move(log), std::move(before_)});
   redo_.clear();
+  std::size_t bytes = 0;
+  for (const Paso& step : undo_) bytes += step.diario.Bytes();
+  while (undo_.size() > 1 && (undo_.size() > kPasos || bytes > kBytes)) {
+    bytes -= undo_.front().diario.Bytes();
+    undo_.pop_front();
+  }
 }
 
-void Historial::Mover(std::vector<Dibujo>& from, std::vector<Dibujo>& to, BasEditor& editor) {
+void Historial::Mover(std::deque<Paso>& from, std::deque<Paso>& to, BasEditor& editor) {
   if (from.empty()) return;
-  to.push_back(De(editor));
-  editor.Grid = from.back().grid;
-  editor.Screen = from.back().screen;
-  editor.Resto = from.back().rest;
-  editor.Abierto = from.back().opened;
-  editor.AllChanged = true;
+  Paso step = std::move(from.back());
   from.pop_back();
+  editor.Grid.Anotar();
+  editor.Grid.Devolver(step.diario);
+  to.push_back({editor.Grid.Anotado(), std::exchange(editor.Abierto, std::move(step.abierto))});
 }
 
 }  // namespace pixmosa

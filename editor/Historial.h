@@ -1,8 +1,8 @@
-// Undo and redo of whole actions: strokes, boxes, fills, transformations.
+// Undo and redo of whole actions: strokes, boxes, fills, transformations, sizes.
 #pragma once
 
 #include <cstddef>
-#include <vector>
+#include <deque>
 
 #include "editor/basEditor.h"
 
@@ -10,11 +10,14 @@ namespace pixmosa {
 
 class Historial {
  public:
-  // Call before an action; the drawing as it is becomes what an undo gives back.
-  void Empezar(const BasEditor& editor);
+  static constexpr std::size_t kPasos = 1000, kBytes = std::size_t{256} << 20;
 
-  // Call after it. An action that changed nothing leaves no trace; any other empties the redo.
-  void Terminar(const BasEditor& editor);
+  // Call before an action.
+  void Empezar(BasEditor& editor);
+
+  // Call after it. An action that changed nothing leaves no trace; any other empties the redo. Beyond kPasos
+  // actions, or kBytes of what they replaced, the oldest are forgotten, but never the last one.
+  void Terminar(BasEditor& editor);
 
   bool PuedeDeshacer() const { return !undo_.empty(); }
   bool PuedeRehacer() const { return !redo_.empty(); }
@@ -22,18 +25,14 @@ class Historial {
   void Rehacer(BasEditor& editor) { Mover(redo_, undo_, editor); }
 
  private:
-  struct Dibujo {
-    Characters grid, screen;
-    std::array<bool, kRows> rest;
-    std::shared_ptr<const TextoAbierto> opened;
-    bool operator==(const Dibujo&) const = default;
+  struct Paso {
+    Diario diario;
+    std::shared_ptr<const TextoAbierto> abierto;
   };
-  static Dibujo De(const BasEditor& editor);
-  static void Mover(std::vector<Dibujo>& from, std::vector<Dibujo>& to, BasEditor& editor);
+  static void Mover(std::deque<Paso>& from, std::deque<Paso>& to, BasEditor& editor);
 
-  static constexpr std::size_t kMost = 300;  // about 15 KB each
-  Dibujo before_{};
-  std::vector<Dibujo> undo_, redo_;
+  std::shared_ptr<const TextoAbierto> before_;
+  std::deque<Paso> undo_, redo_;
 };
 
 }  // namespace pixmosa

@@ -1,30 +1,69 @@
 #include "editor/basEditor.h"
 
 #include <algorithm>
-#include <string>
 #include <utility>
+#include <vector>
 
+#include "platform/CodePage.h"
 #include "platform/Rounding.h"
 
 namespace pixmosa {
 namespace {
 
-constexpr int kLastColumn = kColumns - 1, kLastRow = kRows - 1;
+struct Letra {
+  char32_t caracter;
+  Colour tinta;
+};
 
-void Show(BasEditor& editor, Cell c, char ch) {
-  if (editor.Screen.At(c) == ch) return;
-  editor.Screen.At(c) = ch;
-  editor.Changed.push_back(c);
+// Where a text is being painted.
+class Escritura {
+ public:
+  explicit Escritura(BasEditor& editor) : editor_(editor) {}
+  bool Cabe() const { return at_.row <= editor_.Grid.Filas(); }
+  void Poner(const Letra& letter) {
+    if (letter.caracter == U'\r') {
+      at_ = {1, at_.row + 1};
+    } else if (at_.column <= editor_.Grid.Columnas()) {
+      PintarCelda(editor_, at_, letter.caracter, letter.tinta);
+      ++at_.column;
+    }
+  }
+
+ private:
+  BasEditor& editor_;
+  Cell at_{1, 1};
+};
+
+// Clears and paints the text of the cells that `cell(column, row)` says for every entry of the table.
+template <typename At>
+void Repaint(BasEditor& editor, At cell) {
+  const Lienzo& grid = editor.Grid;
+  std::vector<Letra> text;
+  for (int row = 0; row <= grid.Filas() + 1; ++row) {
+    for (int column = 0; column <= grid.Columnas(); ++column) {
+      const Cell c = cell(column, row);
+      text.push_back({grid.Caracter(c), grid.Tinta(c)});
+    }
+    text.insert(text.end(), {{U'\r', kNoColour}, {U'\n', kNoColour}});
+  }
+  // Beside the drawing, so that each cell is written once.
+  BasEditor turned{grid, nullptr, {}};
+  turned.Grid.Anotado();  // what is written there is no action
+  Clear(turned);
+  Escritura write(turned);
+  for (const Letra& letter : text) write.Poner(letter);
+  editor.Grid.Igualar(turned.Grid);
 }
 
-// Clears and paints the text that `cells` yields for each row of `rows`.
-template <typename RowText>
-void Repaint(BasEditor& editor, RowText rowText) {
-  std::string text;
-  text.reserve(static_cast<std::size_t>((kColumns + 2) * kRows));
-  for (int i = 0; i < kRows; ++i) text += rowText(i) + "\r\n";
-  Clear(editor);
-  PaintText(editor, text);
+// Every cell whose character `other` changes, each in its own ink.
+template <typename Other>
+void Cambiar(BasEditor& editor, Other other) {
+  const Lienzo& grid = editor.Grid;
+  for (int row = 0; row <= grid.Filas(); ++row)
+    for (Cell c{0, row}; c.column <= grid.Columnas(); ++c.column) {
+      const char32_t before = grid.Caracter(c), after = other(before);
+      if (after != before) PintarCelda(editor, c, after, grid.Tinta(c));
+    }
 }
 
 }  // namespace
@@ -43,44 +82,48 @@ Point SnapToLattice(Point p) {
           RoundHalfEven(static_cast<double>(p.y) / CellHeight) * CellHeight};
 }
 
-bool IsValidCell(int column, int row) {
-  return column >= 0 && column < kColumns && row >= 0 && row < kPaintableRows;
+bool IsValidCell(const BasEditor& editor, int column, int row) {
+  return editor.Grid.SePinta({column, row});
 }
 
-bool IsInGrid(Cell c) {
-  return c.column >= 0 && c.column < kColumns && c.row >= 0 && c.row < kRows;
+void PintarCaracter(BasEditor& editor, int column, int row, char32_t ch) {
+  const Pincel& brush = editor.CurrentChar;
+  if (!IsValidCell(editor, column, row)) return;
+  const Cell c{column, row};
+  PintarCelda(editor, c, brush.soloTinta ? editor.Grid.Caracter(c) : ch, brush.tinta);
 }
 
-void PintarCaracter(BasEditor& editor, int column, int row, char ch) {
-  if (!IsValidCell(column, row)) return;
-  Show(editor, {column, row}, ch);
-  editor.Grid.At({column, row}) = ch;
-  if (column == kLastColumn) editor.Resto[static_cast<std::size_t>(row)] = false;
+void PintarCelda(BasEditor& editor, Cell c, char32_t ch, Colour ink) {
+  if (editor.Grid.SePinta(c)) editor.Grid.Poner(c, {ch, ink});
 }
 
 void EraseCell(BasEditor& editor, Cell c) {
-  if (IsInGrid(c)) Show(editor, c, ' ');
+  if (!editor.Grid.Tiene(c)) return;
+  Contenido content = editor.Grid.En(c);
+  content.borrada = content.caracter != U' ';
+  editor.Grid.Poner(c, content);
 }
 
 void PaintText(BasEditor& editor, std::string_view text) {
-  int column = 1, row = 1;
-  for (const char ch : text) {
-    if (row >= kPaintableRows) return;
-    if (ch == '\r') {
-      ++row;
-      column = 1;
-    } else if (column < kColumns) {
-      PintarCaracter(editor, column++, row, ch);
-    }
+  Escritura write(editor);
+  // Line by line, as the text is taken apart when it goes out: a broken sequence ends with its line.
+  while (write.Cabe()) {
+    const std::size_t end = text.find('\r');
+    for (std::string_view row = text.substr(0, end); !row.empty();) write.Poner({NextUtf8(row), kNoColour});
+    if (end == std::string_view::npos) return;
+    write.Poner({U'\r', kNoColour});
+    text.remove_prefix(end + 1);
   }
 }
 
 void Clear(BasEditor& editor) {
-  editor.Screen = Characters();
-  editor.AllChanged = true;
-  for (int row = 0; row < kPaintableRows; ++row) {
-    for (int column = 0; column < kLastColumn; ++column) editor.Grid.At({column, row}) = ' ';
-    editor.Resto[static_cast<std::size_t>(row)] = editor.Grid.At({kLastColumn, row}) != ' ';
+  Lienzo& grid = editor.Grid;
+  const int last = grid.Columnas(), rows = grid.Filas();
+  for (int row = 0; row <= rows; ++row) grid.PonerTramo({0, row}, grid.EsElNuevo() ? last : last + 1, {});
+  for (Cell c{last, 0}; c.row <= rows && grid.EsElNuevo(); ++c.row) {
+    Contenido content = grid.En(c);
+    content.resto = content.caracter != U' ';  // it stays in the grid, no longer seen
+    grid.Poner(c, content);
   }
 }
 
@@ -96,62 +139,34 @@ void DrawBox(BasEditor& editor, Point a, Point b, bool filled) {
     for (int r = RoundHalfEven(r1); r <= RoundHalfEven(r2 - 1); ++r) {
       const bool end = r == r1 || r == r2 - 1;
       if (side || end) {
-        PintarCaracter(editor, c, r, side && end ? '+' : side ? '|' : '-');
+        PintarCaracter(editor, c, r, side && end ? U'+' : side ? U'|' : U'-');
       } else if (filled) {
-        PintarCaracter(editor, c, r, editor.CurrentChar);
+        PintarCaracter(editor, c, r, editor.CurrentChar.caracter);
       }
     }
   }
 }
 
-void FloodFill(BasEditor& editor, Cell start) {
-  if (!IsInGrid(start)) return;
-  const char target = editor.Grid.At(start);
-  if (target == editor.CurrentChar) return;
-  Characters taken;  // "x" where a cell has been taken up
-  std::vector<Cell> queue = {start};
-  for (std::size_t head = 0; head < queue.size(); ++head) {
-    const Cell at = queue[head];
-    for (const Cell next : {Cell{at.column + 1, at.row},
-                            {at.column - 1, at.row},
-                            {at.column, at.row + 1},
-                            {at.column, at.row - 1}}) {
-      if (!IsInGrid(next) || editor.Grid.At(next) != target || taken.At(next) == 'x') continue;
-      taken.At(next) = 'x';
-      PintarCaracter(editor, next.column, next.row, editor.CurrentChar);
-      queue.push_back(next);
-    }
-  }
-}
-
 void FlipHorizontal(BasEditor& editor) {
-  Repaint(editor, [&](int row) {
-    std::string s;
-    for (int column = kLastColumn; column >= 0; --column) s += editor.Grid.At({column, row});
-    return s;
-  });
+  const int last = editor.Grid.Columnas();
+  Repaint(editor, [last](int column, int row) { return Cell{last - column, row}; });
 }
 
 void FlipVertical(BasEditor& editor) {
-  Repaint(editor, [&](int i) {
-    std::string s;
-    for (int column = 0; column <= kLastColumn; ++column) s += editor.Grid.At({column, kLastRow - i});
-    return s;
-  });
+  const int last = editor.Grid.Filas() + 1;
+  Repaint(editor, [last](int column, int row) { return Cell{column, last - row}; });
 }
 
 void UpperToLower(BasEditor& editor) {
-  for (char c = 'A'; c <= 'Z'; ++c) ReplaceEverywhere(editor, c, static_cast<char>(c + 32));
+  Cambiar(editor, [](char32_t c) { return c >= U'A' && c <= U'Z' ? c + 32 : c; });
 }
 
 void LowerToUpper(BasEditor& editor) {
-  for (char c = 'a'; c <= 'z'; ++c) ReplaceEverywhere(editor, c, static_cast<char>(c - 32));
+  Cambiar(editor, [](char32_t c) { return c >= U'a' && c <= U'z' ? c - 32 : c; });
 }
 
-void ReplaceEverywhere(BasEditor& editor, char find, char replacement) {
-  for (int column = 0; column < kColumns; ++column)
-    for (int row = 0; row < kRows; ++row)
-      if (editor.Grid.At({column, row}) == find) PintarCaracter(editor, column, row, replacement);
+void ReplaceEverywhere(BasEditor& editor, char32_t find, char32_t replacement) {
+  Cambiar(editor, [=](char32_t c) { return c == find ? replacement : c; });
 }
 
 }  // namespace pixmosa

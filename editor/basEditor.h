@@ -1,51 +1,34 @@
-// The character-cell drawing: its grid, the tools that paint into it and the transformations of the whole.
+// The character-cell drawing: its grid, the specified tools that paint into it and the transformations of the
+// whole. On a canvas of another size than the new one, the last column and row take the places of 100 and 75.
 #pragma once
 
-#include <array>
 #include <memory>
-#include <optional>
 #include <string_view>
-#include <vector>
+
+#include "editor/Lienzo.h"
 
 namespace pixmosa {
 
 inline constexpr int CellWidth = 8, CellHeight = 12;  // pixels
-inline constexpr int kColumns = 101, kRows = 76;      // entries 0..100 and 0..75; visible ones start at 1
-inline constexpr int kPaintableRows = 75;             // row 75 is visible but can never be painted
-
-struct Cell {
-  int column, row;
-  bool operator==(const Cell&) const = default;
-};
 
 struct Point {
   int x, y;  // pixels
   bool operator==(const Point&) const = default;
 };
 
-// One character a cell, in the 8-bit code page.
-class Characters {
- public:
-  Characters() { codes_.fill(' '); }
-  char& At(Cell c) { return codes_[Index(c)]; }
-  char At(Cell c) const { return codes_[Index(c)]; }
-  bool operator==(const Characters&) const = default;
-
- private:
-  static std::size_t Index(Cell c) { return static_cast<std::size_t>(c.row * kColumns + c.column); }
-  std::array<char, static_cast<std::size_t>(kColumns* kRows)> codes_;
-};
-
 struct TextoAbierto;
 
-// The state of the editor. `Grid` is the drawing; `Screen` is what is seen, which the eraser changes alone.
+// What the tools paint with.
+struct Pincel {
+  char32_t caracter = U'#';
+  Colour tinta = kNoColour;
+  bool soloTinta = false;  // the characters stay as they are
+};
+
 struct BasEditor {
-  Characters Grid, Screen;
-  std::array<bool, kRows> Resto{};              // rows whose last column holds what Clear left there, unseen
+  Lienzo Grid;
   std::shared_ptr<const TextoAbierto> Abierto;  // what was opened; none for a new drawing
-  char CurrentChar = '#';
-  std::vector<Cell> Changed;  // cells whose screen changed since somebody last cleared this list
-  bool AllChanged = false;    // the whole screen did
+  Pincel CurrentChar;
 };
 
 // The cell under a pointer position, half to even: the exact left (upper) edge of every odd cell counts to
@@ -58,33 +41,29 @@ Point PointFromCell(Cell c);
 // A point on the lattice of cell corners, half to even.
 Point SnapToLattice(Point p);
 
-// Whether a cell can be painted: columns 0..100, rows 0..74.
-bool IsValidCell(int column, int row);
+// Whether a cell can be painted: columns 0..100, rows 0..74 of the new canvas.
+bool IsValidCell(const BasEditor& editor, int column, int row);
 
-// Whether `Grid` holds the cell at all: columns 0..100, rows 0..75.
-bool IsInGrid(Cell c);
+// Paints one cell on screen and in the grid, in the brush's ink. Nothing happens outside the valid cells.
+void PintarCaracter(BasEditor& editor, int column, int row, char32_t ch);
 
-// Paints one cell on screen and in the grid. Nothing happens outside the valid cells.
-void PintarCaracter(BasEditor& editor, int column, int row, char ch);
+// The same in an ink of its own.
+void PintarCelda(BasEditor& editor, Cell c, char32_t ch, Colour ink);
 
 // Removes a character from the screen; the grid keeps it.
 void EraseCell(BasEditor& editor, Cell c);
 
-// Paints a text from column 1, row 1. CR begins the next row; LF is a character like any other.
+// Paints a text (UTF-8) from column 1, row 1, without ink. CR begins the next row; LF is a character like any
+// other.
 void PaintText(BasEditor& editor, std::string_view text);
 
-// Clears the screen and the grid's columns 0..99 and rows 0..74.
+// Clears the screen and the grid but for the last row, and the last column of the new canvas's size.
 void Clear(BasEditor& editor);
 
 // A box between two corners in pixels: "+" corners, "|" and "-" sides, CurrentChar inside when filled.
 void DrawBox(BasEditor& editor, Point a, Point b, bool filled);
 
-// Fills the 4-connected region of cells equal to the start's character with CurrentChar, breadth first. Each
-// matching cell is taken up at most once. The start is painted only when it is reached again from a
-// neighbour.
-void FloodFill(BasEditor& editor, Cell start);
-
-// Turn the drawing through its text; both shift it as PaintText does.
+// Turn the drawing through its text; both shift it as PaintText does. Inks go with their characters.
 void FlipHorizontal(BasEditor& editor);
 void FlipVertical(BasEditor& editor);
 
@@ -92,7 +71,7 @@ void FlipVertical(BasEditor& editor);
 void UpperToLower(BasEditor& editor);
 void LowerToUpper(BasEditor& editor);
 
-// Repaints every cell that holds `find`.
-void ReplaceEverywhere(BasEditor& editor, char find, char replacement);
+// Repaints every cell that holds `find`, each in its own ink.
+void ReplaceEverywhere(BasEditor& editor, char32_t find, char32_t replacement);
 
 }  // namespace pixmosa

@@ -145,6 +145,11 @@ void frmExportar::MostrarTamano() {
                           .arg(qint64{text_.height} * ascii.CellHeight * scale));
 }
 
+void frmExportar::LlamarColores(const QString& text, const QString& help) {
+  chkColor_->setText(text);
+  chkColor_->setToolTip(help);
+}
+
 void frmExportar::accept() {
   chosen_.titulo = txtTitulo_->text().toStdString();
   chosen_.color = chkColor_->isChecked();

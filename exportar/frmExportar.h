@@ -25,6 +25,9 @@ class frmExportar final : public QDialog {
   // `text` is the drawing's size in characters; `picture` whether it has colours to take.
   frmExportar(Programa& program, Dialogs& dialogs, Extent text, bool picture, QWidget* parent);
 
+  // What the colours of the drawing are called where they are not the picture's.
+  void LlamarColores(const QString& text, const QString& help);
+
  public slots:
   void accept() override;
 

@@ -151,7 +151,8 @@ void Degradar(Dibujo& drawing, const Degradado& colours) {
 Dibujo Acabar(Dibujo drawing, const Acabado& finish) {
   if (finish.recortar) Recortar(drawing.filas);
   if (finish.espejo) Reflejar(drawing);
-  if (finish.marco != Marco::Ninguno) Enmarcar(drawing, kBordes[static_cast<std::size_t>(finish.marco)]);
+  if (finish.marco != MarcoDeLetrero::Ninguno)
+    Enmarcar(drawing, kBordes[static_cast<std::size_t>(finish.marco)]);
   if (finish.degradado) Degradar(drawing, *finish.degradado);
   if (finish.comentario != Comentario::Ninguno) Comentar(drawing, finish.comentario);
   return drawing;

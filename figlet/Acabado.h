@@ -8,7 +8,7 @@
 
 namespace pixmosa {
 
-enum class Marco { Ninguno, Linea, Doble, Estrellas };
+enum class MarcoDeLetrero { Ninguno, Linea, Doble, Estrellas };
 
 // Of C and its kin "//", of shells "#", of SQL "--"; Bloque between the lines "/*" and "*/".
 enum class Comentario { Ninguno, C, Sh, Sql, Bloque };
@@ -23,7 +23,7 @@ struct Degradado {
 struct Acabado {
   bool recortar = false;  // without the blank rows and columns around
   bool espejo = false;    // left and right exchanged, brackets and strokes too
-  Marco marco = Marco::Ninguno;
+  MarcoDeLetrero marco = MarcoDeLetrero::Ninguno;
   Comentario comentario = Comentario::Ninguno;
   std::optional<Degradado> degradado{};
   bool operator==(const Acabado&) const = default;

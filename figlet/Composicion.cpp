@@ -48,7 +48,7 @@ class Renglon {
 
   std::size_t Ancho() const { return rows_.empty() ? 0 : rows_[0].size(); }
 
-  void Poner(const Letra& letter) {
+  void Poner(const Glifo& letter) {
     if (letter.empty()) return;
     const std::size_t width = AnchoDe(letter);
     Filas glyph = letter;

@@ -11,7 +11,7 @@ namespace {
 constexpr std::u32string_view kEspanol = U"ñáéíóúü¿¡«»€ÑÁÉÍÓÚÜ", kAlfabeto = U"abcdefghijklmnopqrstuvwxyz";
 constexpr std::size_t kHeaderNumbers = 6;  // where they begin: behind the signature and the hard blank
 
-bool SeVe(const Letra& letter) {
+bool SeVe(const Glifo& letter) {
   return std::ranges::any_of(letter, [](const std::u32string& row) {
     return std::ranges::any_of(row, [](char32_t c) { return c != U' ' && c != 0xA0 && c != kBlancoDuro; });
   });
@@ -31,8 +31,8 @@ std::u32string FilaDe(std::string_view bytes) {
 
 }  // namespace
 
-const Letra& FuenteFiglet::De(char32_t c) const {
-  static const Letra none;
+const Glifo& FuenteFiglet::De(char32_t c) const {
+  static const Glifo none;
   auto at = letras.find(c);
   if (at == letras.end()) at = letras.find(0);
   return at == letras.end() ? none : at->second;
@@ -73,7 +73,7 @@ FuenteFiglet FuenteLeida(const BasFigLet& font) {
   for (std::size_t code = 0; code < font.Glyphs.size(); ++code) {
     const auto& rows = font.Glyphs[code];
     if (rows.empty()) continue;
-    Letra letter(read.altura);
+    Glifo letter(read.altura);
     for (std::size_t i = 0; i < std::min(rows.size(), letter.size()); ++i) letter[i] = FilaDe(rows[i]);
     read.letras.emplace(UnicodeOfByte(static_cast<unsigned char>(code)), std::move(letter));
   }
@@ -86,7 +86,7 @@ bool CompletaParaEspanol(const FuenteFiglet& font) {
          std::ranges::all_of(kAlfabeto, [&](char32_t c) { return drawn(c) && drawn(c - U'a' + U'A'); });
 }
 
-std::size_t AnchoDe(const Letra& letter) {
+std::size_t AnchoDe(const Glifo& letter) {
   std::size_t width = 0;
   for (const std::u32string& row : letter) width = std::max(width, row.size());
   return width;

@@ -21,7 +21,7 @@ inline constexpr char32_t kBlancoDuro = 0x110000;
 inline constexpr std::size_t kMasColumnasDeLetra = 4096;
 
 // A character's rows; a shorter one is blank to the length of the longest.
-using Letra = std::vector<std::u32string>;
+using Glifo = std::vector<std::u32string>;
 
 // What the header's "full layout" is the sum of.
 enum Regla : std::int32_t {
@@ -52,11 +52,11 @@ struct Disposicion {
 struct FuenteFiglet {
   std::size_t altura = 1;
   Disposicion disposicion;
-  std::map<char32_t, Letra> letras;  // each of `altura` rows
+  std::map<char32_t, Glifo> letras;  // each of `altura` rows
   std::string comentario;            // in the 8-bit code page, each line preceded by CR LF
 
   // The character; where the font lacks it the one that it has for such, or none at all.
-  const Letra& De(char32_t c) const;
+  const Glifo& De(char32_t c) const;
 };
 
 // The numbers of a header line behind its hard blank; a wrong one ends them.
@@ -79,7 +79,7 @@ FuenteFiglet LeerFuente(std::string_view font, const std::string& name);
 bool CompletaParaEspanol(const FuenteFiglet& font);
 
 // Columns of its longest row.
-std::size_t AnchoDe(const Letra& letter);
+std::size_t AnchoDe(const Glifo& letter);
 
 // Columns of a small letter, on the average.
 std::size_t AnchoDeLetra(const FuenteFiglet& font);

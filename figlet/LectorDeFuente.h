@@ -45,7 +45,7 @@ CabeceraDeFuente LeerCabecera(LectorDeFuente& in);
 
 // A character's rows without end marks, as they are long.
 struct Dibujada {
-  Letra rows;
+  Glifo rows;
   std::string mark;      // the end mark of all rows; empty where they differ
   bool doubled = false;  // the last row has it twice
 };

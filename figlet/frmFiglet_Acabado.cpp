@@ -58,10 +58,10 @@ void frmFiglet::CrearMarcos(QMenu* menu) {
   Acabado& finish = opciones_.acabado;
   QMenu* frames = menu->addMenu(QStringLiteral("Marco"));
   auto* frame = new QActionGroup(frames);
-  for (const auto& [value, name, text] : {std::tuple{Marco::Ninguno, "mnuMarcoNinguno", "Ninguno"},
-                                          {Marco::Linea, "mnuMarcoLinea", "Línea"},
-                                          {Marco::Doble, "mnuMarcoDoble", "Doble"},
-                                          {Marco::Estrellas, "mnuMarcoEstrellas", "Estrellas"}})
+  for (const auto& [value, name, text] : {std::tuple{MarcoDeLetrero::Ninguno, "mnuMarcoNinguno", "Ninguno"},
+                                          {MarcoDeLetrero::Linea, "mnuMarcoLinea", "Línea"},
+                                          {MarcoDeLetrero::Doble, "mnuMarcoDoble", "Doble"},
+                                          {MarcoDeLetrero::Estrellas, "mnuMarcoEstrellas", "Estrellas"}})
     Opcion(frames, frame, name, text, [&finish, v = value](bool) { finish.marco = v; });
   QMenu* comments = menu->addMenu(QStringLiteral("Comentario de código"));
   auto* comment = new QActionGroup(comments);
@@ -111,8 +111,9 @@ void frmFiglet::PedirColores(QAction* none, const QAction* down) {
 
 void frmFiglet::MostrarAcabado() {
   const Acabado& f = opciones_.acabado;
-  const int set = mnuAlinearTexto_->isChecked() + f.recortar + f.espejo + (f.marco != Marco::Ninguno) +
-                  (f.comentario != Comentario::Ninguno) + f.degradado.has_value();
+  const int set = mnuAlinearTexto_->isChecked() + f.recortar + f.espejo +
+                  (f.marco != MarcoDeLetrero::Ninguno) + (f.comentario != Comentario::Ninguno) +
+                  f.degradado.has_value();
   cmdAcabado_->setText(set == 0 ? QStringLiteral("Acabado") : QStringLiteral("Acabado (%1)").arg(set));
 }
 

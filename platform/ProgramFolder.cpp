@@ -47,4 +47,9 @@ std::filesystem::path RecipeFolder() {
   return data.empty() ? data : data / "pixmosa" / "recetas";
 }
 
+std::filesystem::path DrawingFolder() {
+  const std::filesystem::path data = DataHome();
+  return data.empty() ? data : data / "pixmosa" / "dibujos";
+}
+
 }  // namespace pixmosa

@@ -18,4 +18,7 @@ std::vector<std::filesystem::path> FontFolders();
 // The folder of the user's recipes, which may not exist; empty for a user without a home.
 std::filesystem::path RecipeFolder();
 
+// The folder of drawings kept while they are edited; the same of it.
+std::filesystem::path DrawingFolder();
+
 }  // namespace pixmosa

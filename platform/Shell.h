@@ -22,6 +22,8 @@ class Shell {
   // Rich text, a fragment of HTML, with the same as plain text for programs that take no other; both UTF-8.
   virtual void CopyRichText(std::string_view html, std::string_view plain) = 0;
   virtual void CopyPicture(const Picture& picture) = 0;
+  // The text on the clipboard as UTF-8; empty where there is none.
+  virtual std::string ClipboardUtf8() = 0;
 };
 
 }  // namespace pixmosa

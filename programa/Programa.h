@@ -26,6 +26,8 @@ struct Programa {
   std::filesystem::path carpeta;  // the folder with the files that ship with the program
   // Of FIGlet fonts: the program's, then the user's own.
   std::vector<std::filesystem::path> carpetasDeFuentes{};
+  // Of drawings kept while they are edited; empty where none are.
+  std::filesystem::path carpetaDeDibujos{};
 
   Modo modo = kModoGrises;
   bool vistaPrevia = false;        // open the preview after each generation

@@ -55,9 +55,9 @@ void AreaDeTexto::PonerUtf8(std::string_view utf8) {
   if (edited) emit TextoSustituido();
 }
 
-void AreaDeTexto::RecibirTexto(std::string_view bytes) {
+void AreaDeTexto::RecibirUtf8(std::string_view utf8) {
   Conservar();
-  Mostrar(Utf8OfBytes(bytes));
+  Mostrar(utf8);
   document()->setModified(true);
 }
 

@@ -37,9 +37,9 @@ class AreaDeTexto : public QPlainTextEdit {
   // The same of UTF-8.
   void PonerUtf8(std::string_view utf8);
 
-  // The same as PonerTexto for a text that the user drew elsewhere: it counts as edited by hand, and Undo
+  // The same as PonerUtf8 for a text that the user drew elsewhere: it counts as edited by hand, and Undo
   // brings back what stood here before.
-  void RecibirTexto(std::string_view bytes);
+  void RecibirUtf8(std::string_view utf8);
 
   // The whole text with every code and line break as it was given; characters that the code page lacks read
   // as "?".

@@ -49,4 +49,8 @@ void QtShell::CopyPicture(const Picture& picture) {
   QGuiApplication::clipboard()->setImage(ImageOf(picture));
 }
 
+std::string QtShell::ClipboardUtf8() {
+  return QGuiApplication::clipboard()->text().toStdString();
+}
+
 }  // namespace pixmosa

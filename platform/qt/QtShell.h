@@ -13,6 +13,7 @@ class QtShell final : public Shell {
   void CopyUtf8(std::string_view utf8) override;
   void CopyRichText(std::string_view html, std::string_view plain) override;
   void CopyPicture(const Picture& picture) override;
+  std::string ClipboardUtf8() override;
 };
 
 }  // namespace pixmosa

@@ -16,6 +16,7 @@
 #include "app/MarcoDeImagen.h"
 #include "app/frmPreview.h"
 #include "editor/frmEditor.h"
+#include "programa/Dibujar.h"
 #include "tests/support/DrawnPicture.h"
 #include "tests/support/MainWindow.h"
 
@@ -69,6 +70,7 @@ class MainWindowTest : public QObject {
   void ScrollBarsMoveThePictureInSteps();
   void OtherWindowsOpen();
   void EditorSendsItsDrawingBack();
+  void EditorGivesBackTheTextOfEveryMethod();
   void SystemPanelShowsTheRegistry();
 };
 
@@ -416,11 +418,37 @@ void MainWindowTest::EditorSendsItsDrawingBack() {
   PintarCaracter(m.program.basEditor, 1, 3, 'x');
   Find<QAction>(editor, "mnuEnviar").trigger();
   QCOMPARE(m.Text(), "hola\r\n\r\nx");
+  m.Area().Deshacer();
+  QCOMPARE(m.Text(), "hola");
+  m.program.carpetaDeDibujos = m.folder.Path();
+  EscribirArchivo(m.folder.File("dibujo-99999999.pixmosa"), "");  // of no process
+  const frmMain next(m.program, {m.dialogs, m.shell, m.registry});
+  QVERIFY(Find<QLabel>(next, "lblEnlace").text().startsWith("El programa terminó de golpe"));
+  m.program.carpetaDeDibujos.clear();
   PintarCaracter(m.program.basEditor, 1, 4, 'y');
   QVERIFY2(!m.window.close(), "the editor's unsent changes are asked about first");
   QVERIFY(m.dialogs.log.back().starts_with("AskToSave|Editor Ascii|"));
   QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
   m.Trigger("mnuEstadisticas");
+}
+
+void MainWindowTest::EditorGivesBackTheTextOfEveryMethod() {
+  test::MainWindow m;
+  Picture shades = Picture::Filled(300, 200, kWhite);
+  for (int i = 0; i < 300 * 200; ++i)
+    shades.Writable()[i] = PixelOfColour(Rgb(i % 251, i / 240, i % 300 / 2));
+  m.Load(shades);
+  PrepararRepertorio(m.program.basAscii, m.program.ajustes, m.surface);
+  for (int method = kGrayscale; method <= kFormas; ++method) {
+    GenerarDe(m.program, OrigenDe(shades).reducida, method);
+    const std::string text = TextoEnUtf8(m.program.basAscii);
+    QVERIFY(text.size() > 2000);
+    m.Area().PonerUtf8(text);
+    m.Trigger("mnuEditor");
+    m.Area().PonerTexto("otro");
+    m.Trigger("mnuEnviar");
+    QCOMPARE(m.Area().Utf8(), text);
+  }
 }
 
 void MainWindowTest::SystemPanelShowsTheRegistry() {

@@ -88,7 +88,7 @@ void NombresTest::EveryWindowsControlsHaveNames() {
                             "mnuEstadisticas", "mnuSistema", "mnuAcercaDe"})
     QVERIFY2(SinNombreTras(m, entry).isEmpty(),
              (entry + (": " + SinNombreTras(m, entry).join(", "))).toUtf8().constData());
-  for (const char* entry : {"mnuAumentarbrillo", "mnuHistorial", "mnuPreviewAsciiArt"}) {
+  for (const char* entry : {"mnuAumentarbrillo", "mnuHistorial", "mnuEditor", "mnuPreviewAsciiArt"}) {
     m.Trigger(entry);
     for (const QWidget* window : QApplication::topLevelWidgets())
       if (window->isVisible()) QCOMPARE(SinNombre(*window).join(", "), QString());

@@ -19,6 +19,7 @@ class VentanaExportarTest : public QObject {
   void TheEndingPicksTheFormatAndOptionsAreKept();
   void CopiesWithItsLooks();
   void FilmsOfAFolder();
+  void TheInksOfTheEditor();
 
  private:
   // A picture, red at the left and blue at the right, converted into dense characters.
@@ -33,14 +34,15 @@ class VentanaExportarTest : public QObject {
 
   // Opens the dialog, lets `fill` set it, and saves as `file`.
   template <typename Fill>
-  static std::string Export(test::MainWindow& m, const std::string& file, Fill fill) {
+  static std::string Export(test::MainWindow& m, const std::string& file, Fill fill,
+                            const char* entry = "mnuExportar") {
     m.dialogs.paths.push_back(m.folder.File(file));
     QTimer::singleShot(0, &m.window, [&] {
       auto* dialog = QApplication::activeModalWidget();
       fill(*dialog);
       QTest::mouseClick(&Find<QAbstractButton>(*dialog, "cmdExportar"), Qt::LeftButton);
     });
-    m.Trigger("mnuExportar");
+    m.Trigger(entry);
     return LeerArchivo(m.folder.File(file));
   }
 
@@ -93,6 +95,20 @@ void VentanaExportarTest::CopiesWithItsLooks() {
   const std::size_t rows = DibujoDeTexto(ascii.ProducedText).filas.size();
   QCOMPARE(m.shell.log.back(), "CopyPicture|" + std::to_string(20 * ascii.CellWidth) + "x" +
                                    std::to_string(2 * rows * static_cast<std::size_t>(ascii.CellHeight)));
+}
+
+void VentanaExportarTest::TheInksOfTheEditor() {
+  test::MainWindow m;
+  m.Area().PonerTexto("ab");
+  m.Trigger("mnuEditor");
+  PintarCelda(m.program.basEditor, {2, 1}, U'─', Rgb(1, 2, 3));
+  const auto ask = [](QWidget& dialog) {
+    auto& own = Find<QCheckBox>(dialog, "chkColorDeImagen");
+    QVERIFY(own.isChecked() && own.text() == "Con los &colores del dibujo");
+    Choose(dialog, "ans");
+  };
+  QVERIFY(Export(m, "e.ans", ask, "mnuExportarDibujo").find("a\x1b[38;2;1;2;3m─") != std::string::npos);
+  QVERIFY2(!m.program.exportar.color, "the picture's colours are another choice");
 }
 
 void VentanaExportarTest::FilmsOfAFolder() {

@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "editor/Historial.h"
+#include "editor/Relleno.h"
 #include "editor/TextoDelEditor.h"
 #include "tests/support/DrawingRows.h"
 
 using namespace pixmosa;
 using test::Rows;
+using test::Seen;
 using Strings = std::vector<std::string>;
 
 class BasEditorTest : public testing::Test {
@@ -30,26 +32,25 @@ TEST_F(BasEditorTest, PointerPositionsRoundHalfToEven) {
 TEST_F(BasEditorTest, OnlyValidCellsArePainted) {
   for (const Cell c : {Cell{-1, 0}, {101, 0}, {0, -1}, {0, 75}, {5, 75}, {32767, 3}})
     PintarCaracter(e, c.column, c.row, 'x');
-  EXPECT_EQ(e.Grid, Characters());
+  EXPECT_TRUE(e.Grid == Lienzo());
   PintarCaracter(e, 0, 0, 'a');
   PintarCaracter(e, 100, 74, 'b');
-  EXPECT_EQ(e.Changed, (std::vector<Cell>{{0, 0}, {100, 74}}));
+  EXPECT_EQ(e.Grid.Cambiadas(), (std::vector<ZonaDeCeldas>{{{0, 0}, {0, 0}}, {{100, 74}, {100, 74}}}));
   PaintText(e, "abc\r\nde\rf" + std::string(70, '\r') + "y\rz\rz");
   EXPECT_EQ(Rows(e.Grid, 1, 3, 3), (Strings{"abc", "\nde", "f  "})) << "LF is a character";
   EXPECT_EQ(Rows(e.Grid, 73, 75, 1), (Strings{"y", "z", " "}));
   EraseCell(e, {1, 2});
   EraseCell(e, {101, -1});
-  EXPECT_EQ(e.Screen.At({0, 0}), 'a') << "the same place of the table";
-  EXPECT_EQ(Rows(e.Screen, 2, 2, 3), Strings{" de"});
+  EXPECT_EQ(e.Grid.Visto({0, 0}), 'a') << "the same place of the table";
+  EXPECT_EQ(Seen(e.Grid, 2, 2, 3), Strings{" de"});
   EXPECT_EQ(Rows(e.Grid, 2, 2, 3), Strings{"\nde"}) << "the eraser leaves the grid";
-  e.AllChanged = false;
   Clear(e);
-  EXPECT_TRUE(e.AllChanged);
-  EXPECT_EQ(e.Screen, Characters());
-  EXPECT_EQ(e.Grid.At({100, 74}), 'b') << "Clear leaves the last column";
-  EXPECT_EQ(e.Grid.At({0, 0}), ' ');
+  EXPECT_EQ(Seen(e.Grid, 0, 75, 100), Strings(76, std::string(100, ' ')));
+  EXPECT_EQ(e.Grid.Caracter({100, 74}), 'b') << "Clear leaves the last column";
+  EXPECT_EQ(e.Grid.Caracter({0, 0}), ' ');
   PaintText(e, std::string(1'000'000, 'x'));
-  EXPECT_EQ(std::string({e.Grid.At({100, 1}), e.Grid.At({0, 1}), e.Grid.At({1, 2})}), "x  ");
+  EXPECT_EQ(std::u32string({e.Grid.Caracter({100, 1}), e.Grid.Caracter({0, 1}), e.Grid.Caracter({1, 2})}),
+            U"x  ");
 }
 
 TEST_F(BasEditorTest, BoxesHaveCornersSidesAndInside) {
@@ -67,7 +68,7 @@ TEST_F(BasEditorTest, BoxesHaveCornersSidesAndInside) {
                        {{8, 36}, {40, 0}, true, {" +--+", " |oo|", " +--+"}},
                        {{-80, -120}, {4000, 4000}, true, {"ooooo", "ooooo", "ooooo"}}}) {
     BasEditor box;
-    box.CurrentChar = 'o';
+    box.CurrentChar.caracter = 'o';
     DrawBox(box, r.a, r.b, r.filled);
     EXPECT_EQ(Rows(box.Grid, 1, 3, 5), r.rows) << r.a.x << "," << r.a.y << " " << r.b.x << "," << r.b.y;
   }
@@ -78,7 +79,7 @@ TEST_F(BasEditorTest, FillsTheRegionAndNothingElse) {
   // From a place of the drawing with a character, and what rows 1..6 then show.
   struct Row {
     Cell from;
-    char with;
+    char32_t with;
     Strings rows;
   };
   const Strings filled{"       ", " +---+ ", " |###| ", " |###| ", " +---+ ", "       "},
@@ -90,11 +91,12 @@ TEST_F(BasEditorTest, FillsTheRegionAndNothingElse) {
         {{50, 50}, ' ', side},  // the character that is there
         {{101, 3}, 'o', side},  // outside
         {{50, 75}, '.', {".......", ".+---+.", ".o###|.", ".o###|.", ".+---+.", "......."}}}) {
-    e.CurrentChar = with;
+    e.CurrentChar.caracter = with;
     FloodFill(e, from);
     EXPECT_EQ(Rows(e.Grid, 1, 6, 7), rows) << from.column;
   }
-  EXPECT_EQ(std::string({e.Grid.At({0, 0}), e.Grid.At({100, 74}), e.Grid.At({50, 75})}), ".. ");
+  EXPECT_EQ(std::u32string({e.Grid.Caracter({0, 0}), e.Grid.Caracter({100, 74}), e.Grid.Caracter({50, 75})}),
+            U".. ");
 }
 
 TEST_F(BasEditorTest, FlipsShiftTheDrawing) {
@@ -102,27 +104,27 @@ TEST_F(BasEditorTest, FlipsShiftTheDrawing) {
   PintarCaracter(e, 1, 1, 'b');
   PintarCaracter(e, 100, 2, 'c');
   FlipHorizontal(e);
-  EXPECT_EQ(e.Grid.At({100, 1}), 'a') << "the first line keeps column c at 101 - c";
+  EXPECT_EQ(e.Grid.Caracter({100, 1}), 'a') << "the first line keeps column c at 101 - c";
   EXPECT_EQ(Rows(e.Grid, 2, 3, 3), (Strings{"\n  ", "\nc "})) << "later lines begin with the LF";
-  EXPECT_EQ(e.Grid.At({100, 2}), ' ') << "pushed past the last column";
+  EXPECT_EQ(e.Grid.Caracter({100, 2}), ' ') << "pushed past the last column";
   EraseCell(e, {2, 3});
   FlipVertical(e);
-  EXPECT_EQ(Rows(e.Screen, 72, 75, 5), (Strings{"\n \n  ", "\n \nc ", "\n \n  ", "     "}))
+  EXPECT_EQ(Seen(e.Grid, 72, 75, 5), (Strings{"\n \n  ", "\n \nc ", "\n \n  ", "     "}))
       << "row r lands on 76 - r, its first column on the third; what was erased comes back";
   BasEditor empty;
   FlipVertical(empty);
   for (int row = 1; row <= 75; ++row)
-    EXPECT_EQ(empty.Grid.At({1, row}), row >= 2 && row < 75 ? '\n' : ' ') << row;
+    EXPECT_EQ(empty.Grid.Caracter({1, row}), row >= 2 && row < 75 ? '\n' : ' ') << row;
 }
 
 TEST_F(BasEditorTest, CaseOfTheUnaccentedLetters) {
-  PaintText(e, "aZ[`{ \xF1\xD1");
-  e.Grid.At({3, 75}) = 'q';
+  PaintText(e, "aZ[`{ ñÑ");
+  e.Grid.Poner({3, 75}, {U'q'});
   UpperToLower(e);
-  EXPECT_EQ(Rows(e.Grid, 1, 1, 8), (Strings{"az[`{ \xF1\xD1"}));
+  EXPECT_EQ(Rows(e.Grid, 1, 1, 8), (Strings{"az[`{ ñÑ"}));
   LowerToUpper(e);
-  EXPECT_EQ(Rows(e.Grid, 1, 1, 8), (Strings{"AZ[`{ \xF1\xD1"}));
-  EXPECT_EQ(e.Grid.At({3, 75}), 'q');
+  EXPECT_EQ(Rows(e.Grid, 1, 1, 8), (Strings{"AZ[`{ ñÑ"}));
+  EXPECT_EQ(e.Grid.Caracter({3, 75}), 'q');
 }
 
 TEST_F(BasEditorTest, HistoryUndoesAndRedoesWholeActions) {
@@ -136,12 +138,12 @@ TEST_F(BasEditorTest, HistoryUndoesAndRedoesWholeActions) {
   AbrirTexto(e, "ab\r\n" + std::string(99, 'z'));
   const std::string opened = DrawingText(e);
   act([&] { EraseCell(e, {1, 1}); });
-  const Characters erased = e.Screen;
+  const Lienzo erased = e.Grid;
   act([&] { PintarCaracter(e, 2, 1, 'b'); });  // changes nothing
   h.Deshacer(e);
-  EXPECT_EQ(e.Screen.At({1, 1}), 'a');
+  EXPECT_EQ(e.Grid.Visto({1, 1}), 'a');
   h.Rehacer(e);
-  EXPECT_EQ(e.Screen, erased);
+  EXPECT_TRUE(e.Grid == erased);
   act([&] { BorrarTodo(e); });
   EXPECT_EQ(DrawingText(e), "");
   h.Deshacer(e);
@@ -150,4 +152,15 @@ TEST_F(BasEditorTest, HistoryUndoesAndRedoesWholeActions) {
   EXPECT_FALSE(h.PuedeDeshacer());
   act([&] { PaintText(e, "z"); });
   EXPECT_FALSE(h.PuedeRehacer()) << "a new action ends the redo";
+  for (int i = 0; i < 1010; ++i)
+    act([&] { PintarCelda(e, {1 + i % 100, 1 + i / 100}, U'*', i % 3 ? kNoColour : i); });
+  act([&] { e.Grid.Sustituir(Lienzo(4096, 4096)); });
+  act([&] { FloodFill(e, {9, 9}); });
+  int steps = 0;
+  for (; h.PuedeDeshacer(); ++steps) h.Deshacer(e);
+  EXPECT_EQ(steps, 1000);
+  EXPECT_EQ(Rows(e.Grid, 1, 1, 14), Strings{"************  "}) << "the oldest are forgotten";
+  for (; h.PuedeRehacer(); --steps) h.Rehacer(e);
+  EXPECT_EQ(steps, 0);
+  EXPECT_EQ(e.Grid.Caracter({4096, 4096}), e.CurrentChar.caracter);
 }

@@ -9,48 +9,15 @@
 #include <QTest>
 #include <QTimer>
 
-#include "editor/TextoDelEditor.h"
-#include "editor/frmEditor.h"
-#include "editor/frmEditor_Superficie.h"
 #include "platform/AtomicFile.h"
 #include "platform/qt/QtDialogs.h"
-#include "tests/support/DrawingRows.h"
-#include "tests/support/Find.h"
-#include "tests/support/RecordingDialogs.h"
-#include "tests/support/TestFolder.h"
+#include "tests/editor/Editor.h"
 
 using namespace pixmosa;
+using test::Editor;
 using test::Find;
 using test::Rows;
 using Strings = std::vector<std::string>;
-
-namespace {
-
-struct Editor {
-  BasEditor state;
-  test::RecordingDialogs dialogs;
-  test::RecordingShell shell;
-  test::TestFolder folder;
-  frmEditor window{state, Font{}, dialogs, shell, nullptr};
-  QWidget& surface = Find<Superficie>(window, "picDraw");
-
-  explicit Editor(const std::string& text = {}) { window.Abrir(text); }
-
-  void Trigger(const char* action) { Find<QAction>(window, action).trigger(); }
-
-  // Presses at the first point, moves through the others and releases at the last.
-  void Drag(std::initializer_list<QPoint> points) {
-    QTest::mousePress(&surface, Qt::LeftButton, {}, *points.begin());
-    for (const QPoint& p : points) {
-      QMouseEvent move(QEvent::MouseMove, p, surface.mapToGlobal(p), Qt::NoButton, Qt::LeftButton,
-                       Qt::NoModifier);
-      QApplication::sendEvent(&surface, &move);
-    }
-    QTest::mouseRelease(&surface, Qt::LeftButton, {}, *(points.end() - 1));
-  }
-};
-
-}  // namespace
 
 class FrmEditorTest : public QObject {
   Q_OBJECT
@@ -61,14 +28,14 @@ class FrmEditorTest : public QObject {
     auto& list = Find<QListWidget>(e.window, "lstCaracteres");
     QCOMPARE(list.count(), 96);
     list.setCurrentRow('*' - 32);
-    e.Drag({{4, 6}, {12, 6}, {20, 18}, {-30, 6}, {5000, 6}, {30, 895}});
+    e.Drag({QPoint(4, 6), {12, 6}, {20, 18}, {-30, 6}, {5000, 6}, {30, 895}});
     QCOMPARE(Rows(e.state.Grid, 1, 2, 4), (Strings{"**  ", "  * "}));
-    QCOMPARE(e.state.Grid.At({4, 75}), ' ');
+    QCOMPARE(e.state.Grid.Caracter({4, 75}), U' ');
     QCOMPARE(Find<QLabel>(e.window, "posicion").text(), "(4,75)");
     QTest::mouseClick(&e.surface, Qt::RightButton, {}, {60, 60});
-    QCOMPARE(e.state.Grid.At(CellFromPoint({60, 60})), ' ');
+    QCOMPARE(e.state.Grid.Caracter(CellFromPoint({60, 60})), U' ');
     e.Trigger("mnuDeshacer");
-    QCOMPARE(e.state.Grid, Characters());  // the whole stroke
+    QVERIFY(e.state.Grid == Lienzo());  // the whole stroke
     e.Trigger("Borrar");
     QTest::mouseMove(&e.surface, {100, 100});
     QCOMPARE(Find<QLabel>(e.window, "posicion").text(), "");
@@ -88,7 +55,7 @@ class FrmEditorTest : public QObject {
       e.Trigger(r.tool);
       e.Drag(r.gesture);
       QCOMPARE(Rows(e.state.Grid, 1, 4, 6), r.grid);
-      QCOMPARE(Rows(e.state.Screen, 1, 1, 2)[0] == "  ", std::string(r.tool) == "Borrar");
+      QCOMPARE(test::Seen(e.state.Grid, 1, 1, 2)[0] == "  ", std::string(r.tool) == "Borrar");
     }
   }
 
@@ -96,15 +63,16 @@ class FrmEditorTest : public QObject {
     Editor e("aB");
     QVERIFY(!Find<QAction>(e.window, "mnuRehacer").isEnabled());
     constexpr const char* kSteps[][2] = {
-        {"mnuMinMay", "AB"},        {"mnuMayMin", "ab"},        {"mnureemplazar", "ab"},
-        {"mnuFlipCaracterH", "ab"}, {"mnuFlipCaracterV", "ab"}, {"mnuFlipHorizontal", "  "},
-        {"mnuFlipVertical", "  "},  {"mnuCLS", "  "},           {"mnuDeshacer", "  "},
-        {"mnuDeshacer", "  "},      {"mnuDeshacer", "ab"},      {"mnuRehacer", "  "}};
+        {"mnuMinMay", "AB"},        {"mnuMayMin", "ab"},         {"mnureemplazar", "ab"},
+        {"mnuFlipCaracterV", "ap"}, {"mnuFlipCaracterH", "qa"},  {"mnuDeshacer", "ap"},
+        {"mnuDeshacer", "ab"},      {"mnuFlipHorizontal", "  "}, {"mnuFlipVertical", "  "},
+        {"mnuCLS", "  "},           {"mnuDeshacer", "  "},       {"mnuDeshacer", "  "},
+        {"mnuDeshacer", "ab"},      {"mnuRehacer", "  "}};
     for (const auto& [entry, shown] : kSteps) {
       e.Trigger(entry);
       QCOMPARE(Rows(e.state.Grid, 1, 1, 2), Strings{shown});
     }
-    QCOMPARE(e.state.Grid.At({1, 2}), '\n');
+    QCOMPARE(e.state.Grid.Caracter({1, 2}), U'\n');
   }
 
   void SendsCopiesAndSaves() {
@@ -112,7 +80,7 @@ class FrmEditorTest : public QObject {
     QSignalSpy sent(&e.window, &frmEditor::Enviado);
     e.Trigger("mnuEnviar");
     QCOMPARE(sent.takeFirst().at(0).value<std::string>(), "ab\x1F \r\nc  ");
-    e.Drag({{36, 6}});
+    e.Drag({QPoint(36, 6)});
     const std::string text = "ab\x1F #\r\nc  ";
     e.Trigger("mnuCopiar");
     QCOMPARE(e.shell.clipboard, text);
@@ -131,7 +99,7 @@ class FrmEditorTest : public QObject {
       QVERIFY(lose() && e.dialogs.log.empty());  // nothing was changed
       const auto draw = [&] {
         e.window.Abrir("ab");
-        e.Drag({{100, 100}});
+        e.Drag({QPoint(100, 100)});
         return DrawingText(e.state);
       };
       const std::string drawn = draw();
@@ -178,17 +146,25 @@ class FrmEditorTest : public QObject {
     }
   }
 
-  void SaysOnceWhatDoesNotFit() {
-    Editor e("ab\r\n" + std::string(320, 'x'));
+  void SaysWhatDoesNotFitAndAligns() {
+    Editor e("ab\r\n" + std::string(4100, 'x'));
     auto& warning = Find<QLabel>(e.window, "lblNoCabe");
     QVERIFY(warning.isVisible());
-    QVERIFY(warning.text().startsWith("El texto tiene 320 columnas y 2 líneas, y aquí caben 99 y 74."));
+    QVERIFY(warning.text().startsWith("El texto tiene 4100 columnas y 2 líneas, y aquí caben 4095 y 4096."));
     e.Trigger("mnuCLS");
     QVERIFY(!warning.isVisible());
     e.Trigger("mnuDeshacer");
     QVERIFY(warning.isVisible());
-    e.window.Abrir("ab");
+    e.window.Abrir("ab\r\ncd");
     QVERIFY(!warning.isVisible());
+    auto& shifted = Find<QLabel>(e.window, "lblDesplazado");
+    QVERIFY(shifted.isVisible());
+    emit shifted.linkActivated("alinear");
+    QVERIFY(!shifted.isVisible());
+    QCOMPARE(Rows(e.state.Grid, 1, 2, 3), (Strings{"ab ", "cd "}));
+    QCOMPARE(DrawingText(e.state), "ab\r\ncd");
+    e.Trigger("mnuDeshacer");
+    QCOMPARE(Rows(e.state.Grid, 2, 2, 3), (Strings{"\ncd"}));
     const QSize screen = e.window.screen()->availableSize();  // 800 x 800 here
     QVERIFY(e.window.frameSize().width() <= screen.width() &&
             e.window.frameSize().height() <= screen.height());
@@ -199,10 +175,10 @@ class FrmEditorTest : public QObject {
     Editor e;
     const auto cell = [&] { return e.surface.grab(QRect(16, 24, CellWidth, CellHeight)).toImage(); };
     const QImage blank = cell();
-    e.Drag({{20, 30}});
+    e.Drag({QPoint(20, 30)});
     QVERIFY(cell() != blank);
     e.Trigger("Borrar");
-    e.Drag({{20, 30}});
+    e.Drag({QPoint(20, 30)});
     QCOMPARE(cell(), blank);
   }
 };

@@ -27,7 +27,7 @@ const std::string kShapes[] = {"",
                                "\nuno\ndos\n",
                                "a\rb\r\nc\r\r",
                                "a\r\n\nb\n\r\nc",
-                               "a\tb\x1F\x01\r\n\xA0\xAD\xFF"};
+                               "a\tb\x1F\x01\r\n\u00A0\u00AD\u0081ÿ≠😀\uE0B0\xFF"};
 
 // A row with a character in the last column, and one that leaves it free.
 const std::string kWide = std::string(100, 'x') + "\r\n" + std::string(99, 'y');
@@ -69,7 +69,7 @@ TEST(TextoDelEditor, EditsReachTheirPlaceAndNoOther) {
   struct Row {
     std::string text;
     Cell cell;
-    char ch;
+    char32_t ch;
     std::string sent;
   };
   for (const Row& r : {Row{"ab\r\ncd", {3, 2}, '#', "ab\r\nc#"},
@@ -83,34 +83,76 @@ TEST(TextoDelEditor, EditsReachTheirPlaceAndNoOther) {
                        {"ab\r\ncd", {9, 9}, ' ', "ab\r\ncd"},
                        {"ab\r\ncd", {1, 2}, ' ', "ab\r\ncd"},
                        {"ab\r\ncd\r\n\r\ne", {1, 2}, '#', " ab\r\n#cd\r\n\r\n e"},
-                       {"", {2, 2}, '\x02', ""},
+                       {"", {2, 2}, 2, ""},
                        {"ab", {0, 0}, '#', "ab"}}) {
     BasEditor e;
     AbrirTexto(e, r.text);
     PintarCaracter(e, r.cell.column, r.cell.row, r.ch);
     EXPECT_EQ(DrawingText(e), r.sent) << r.text << " " << r.cell.column << "," << r.cell.row;
   }
+}
+
+TEST(TextoDelEditor, TheCanvasIsAsLargeAsItsText) {
+  // A text, its canvas, and whether it has all of it.
+  struct Row {
+    std::string text;
+    int columns, rows;
+    bool fits;
+  };
+  for (const Row& r : {Row{"", 100, 74, true},
+                       {kWide, 100, 74, true},
+                       {"a\r\n" + std::string(100, 'x'), 101, 74, true},
+                       {Large(), 320, 111, true},
+                       {std::string(74, '\r') + "\nx", 100, 75, true},
+                       {std::string(4097, 'x'), 4096, 74, false},
+                       {std::string(4099, '\r') + "\nabc", 100, 4096, false}}) {
+    BasEditor e;
+    AbrirTexto(e, r.text);
+    EXPECT_EQ(e.Grid.Columnas(), r.columns);
+    EXPECT_EQ(e.Grid.Filas(), r.rows);
+    EXPECT_EQ(e.Abierto->cabe, r.fits);
+    PintarCaracter(e, 1, r.rows, '#');
+    PintarCaracter(e, 1, r.rows, e.Abierto->lineas < r.rows || !r.fits ? U' ' : U'\n');
+    EXPECT_EQ(DrawingText(e).size(), r.text.size());
+  }
   BasEditor e;
-  AbrirTexto(e, Large());
-  PintarCaracter(e, 1, 2, '#');
-  const std::string sent = DrawingText(e);
-  EXPECT_TRUE(sent.starts_with(" aaa") && sent.ends_with("\r\n " + std::string(210, 'g')))
+  const std::string tall = "ab" + std::string(4098, '\r') + "\nabc";
+  AbrirTexto(e, tall + "\r");
+  PintarCaracter(e, 2, 1, '#');
+  EXPECT_EQ(DrawingText(e), "a#" + tall.substr(2) + "\r") << "outside as it was";
+  AbrirTexto(e, "a\r\n\r\nb" + std::string(4100, '\r') + "\nabc");
+  PintarCaracter(e, 1, 3, '#');
+  EXPECT_TRUE(DrawingText(e).starts_with(" a\r\n\r\n#b\r") && DrawingText(e).ends_with("\r\n abc"))
       << "outside as inside";
 }
 
-TEST(TextoDelEditor, WhatTheSurfaceDoesNotShowStays) {
-  BasEditor e;
-  AbrirTexto(e, Large());
-  EXPECT_EQ(e.Abierto->columnas, 320);
-  EXPECT_EQ(e.Abierto->lineas, 111);
-  for (const auto& [text, fits] : {std::pair{Large(), false},
-                                   {kWide, true},
-                                   {"a\r\n" + std::string(100, 'x'), false},
-                                   {std::string(74, '\r') + "\n\r\n", true},
-                                   {std::string(74, '\r') + "\nx", false}}) {
+TEST(TextoDelEditor, AlignedLinesAreTheSameText) {
+  for (const std::string& text : {std::string("ab\r\ncd\r\n\r\ne"), Large(), std::string("a\rb\r\nc\r\r")}) {
+    BasEditor e;
     AbrirTexto(e, text);
-    EXPECT_EQ(e.Abierto->cabe, fits) << text;
+    AlinearRenglones(e);
+    EXPECT_EQ(DrawingText(e), text);
   }
+  BasEditor e;
+  AbrirTexto(e, "ab\r\ncd");
+  AlinearRenglones(e);
+  EXPECT_EQ(test::Rows(e.Grid, 1, 2, 3), (std::vector<std::string>{"ab ", "cd "}));
+  PintarCaracter(e, 1, 2, '#');
+  PintarCaracter(e, 2, 4, 0x2588);
+  e.CurrentChar.tinta = 0xFF;
+  PintarCaracter(e, 2, 1, 'b');
+  EXPECT_EQ(DrawingText(e), "ab\r\n#d\r\n\r\n █");
+  const Dibujo cells = DrawingCells(e);
+  ASSERT_EQ(cells.filas.size(), 4U);
+  EXPECT_EQ(cells.filas[0], (Fila{{U'a'}, {U'b', 0xFF}}));
+  EXPECT_EQ(cells.filas[3], (Fila{{U' '}, {U'█'}}));
+  const TextoDePagina page = EnPagina("ñ─╬│→█≠");
+  EXPECT_EQ(page.bytes, "\xF1-+|>#?");
+  EXPECT_EQ(page.cambiados, 6U);
+}
+
+TEST(TextoDelEditor, ErasedCharactersComeBack) {
+  BasEditor e;
   AbrirTexto(e, "abc");
   EraseCell(e, {2, 1});
   EXPECT_EQ(DrawingText(e), "abc") << "erased characters are still in the grid";
@@ -120,7 +162,7 @@ TEST(TextoDelEditor, NewDrawingsHoldWhatIsSeen) {
   BasEditor e;
   AbrirTexto(e, kWide);
   BorrarTodo(e);
-  EXPECT_EQ(e.Grid.At({100, 1}), 'x') << "the last column stays in the grid, unseen";
+  EXPECT_EQ(e.Grid.Caracter({100, 1}), 'x') << "the last column stays in the grid, unseen";
   EXPECT_EQ(DrawingText(e), "");
   PaintText(e, "  a \r\nb\r\n\r\nc\037d");
   EXPECT_EQ(DrawingText(e), "  a\r\n b\r\n\r\n c d");

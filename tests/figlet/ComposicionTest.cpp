@@ -23,8 +23,8 @@ std::string Shown(const Filas& rows) {
   return s;
 }
 
-Letra Drawn(std::u32string_view rows) {
-  Letra letter(1);
+Glifo Drawn(std::u32string_view rows) {
+  Glifo letter(1);
   for (const char32_t c : rows) {
     if (c == U'!') {
       letter.emplace_back();
@@ -40,7 +40,7 @@ FuenteFiglet Font(std::u32string_view a, std::u32string_view b, std::int32_t rul
   FuenteFiglet font;
   font.letras = {{U'a', Drawn(a)}, {U'b', Drawn(b)}};
   font.altura = font.letras.at(U'a').size();
-  font.letras[U' '] = Letra(font.altura, std::u32string(1, kBlancoDuro));
+  font.letras[U' '] = Glifo(font.altura, std::u32string(1, kBlancoDuro));
   font.disposicion = {rules, leftwards};
   return font;
 }

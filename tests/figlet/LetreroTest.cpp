@@ -106,15 +106,16 @@ TEST(Letrero, Finishes) {
   const char* art = "    \n  /x \n >  \n\n";
   EXPECT_EQ(Finished(art, {.recortar = true}), " /x\n>\n");
   EXPECT_EQ(Finished(" (d\n<«/", {.espejo = true}), "b) \n\\»>\n");
-  EXPECT_EQ(Finished("ab\nc", {.marco = Marco::Linea}), "┌────┐\n│ ab │\n│ c  │\n└────┘\n");
-  EXPECT_EQ(Finished("ab", {.marco = Marco::Doble}), "╔════╗\n║ ab ║\n╚════╝\n");
-  EXPECT_EQ(Finished("ab", {.marco = Marco::Estrellas}), "******\n* ab *\n******\n");
+  EXPECT_EQ(Finished("ab\nc", {.marco = MarcoDeLetrero::Linea}), "┌────┐\n│ ab │\n│ c  │\n└────┘\n");
+  EXPECT_EQ(Finished("ab", {.marco = MarcoDeLetrero::Doble}), "╔════╗\n║ ab ║\n╚════╝\n");
+  EXPECT_EQ(Finished("ab", {.marco = MarcoDeLetrero::Estrellas}), "******\n* ab *\n******\n");
   EXPECT_EQ(Finished("a \n\nb\\", {.comentario = Comentario::C}), "// a\n//\n// b\\ //\n");
   EXPECT_EQ(Finished("a\\", {.comentario = Comentario::Sh}), "# a\\\n");
   EXPECT_EQ(Finished("a", {.comentario = Comentario::Sql}), "-- a\n");
   EXPECT_EQ(Finished("a*/ /*\n", {.comentario = Comentario::Bloque}), "/*\n * a*| /|\n *\n */\n");
-  EXPECT_EQ(Finished("", {.recortar = true, .marco = Marco::Linea}), "┌──┐\n└──┘\n");
-  EXPECT_EQ(BytesDe(Acabar(DibujoDeUtf8("a"), {.marco = Marco::Linea})), "+---+\r\n| a |\r\n+---+\r\n");
+  EXPECT_EQ(Finished("", {.recortar = true, .marco = MarcoDeLetrero::Linea}), "┌──┐\n└──┘\n");
+  EXPECT_EQ(BytesDe(Acabar(DibujoDeUtf8("a"), {.marco = MarcoDeLetrero::Linea})),
+            "+---+\r\n| a |\r\n+---+\r\n");
 }
 
 TEST(Letrero, ColoursRunAcrossOrDown) {

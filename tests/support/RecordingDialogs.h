@@ -101,6 +101,7 @@ class RecordingShell final : public Shell {
   void CopyPicture(const Picture& picture) override {
     Log("CopyPicture|" + std::to_string(picture.Width()) + "x" + std::to_string(picture.Height()));
   }
+  std::string ClipboardUtf8() override { return clipboard; }
 
  private:
   bool Log(const std::string& call) {
