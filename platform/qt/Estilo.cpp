@@ -1,6 +1,8 @@
 #include "platform/qt/Estilo.h"
 
+#include <algorithm>
 #include <optional>
+#include <span>
 #include <type_traits>
 
 #include <QPainter>
@@ -10,13 +12,18 @@
 namespace pixmosa {
 namespace {
 
+// Percent of a pixel's alpha that stays where the icon is black and where it is white: what is light in it
+// shows less, so that its parts stay apart.
+constexpr int kMasClaro = 130, kMenosClaro = 30;
+
 QIcon DeUnColor(const QIcon& icon, int side, double ratio, const QColor& colour) {
-  QPixmap shape = icon.pixmap({side, side}, ratio);
-  QPainter painter(&shape);
-  painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-  painter.fillRect(shape.rect(), colour);
-  painter.end();
-  return shape;
+  QImage shape = icon.pixmap({side, side}, ratio).toImage().convertToFormat(QImage::Format_ARGB32);
+  for (int y = 0; y < shape.height(); ++y)
+    for (QRgb& p :
+         std::span(reinterpret_cast<QRgb*>(shape.scanLine(y)), static_cast<std::size_t>(shape.width())))
+      p = qRgba(colour.red(), colour.green(), colour.blue(),
+                std::min(255, qAlpha(p) * (kMasClaro - qGray(p) * (kMasClaro - kMenosClaro) / 255) / 100));
+  return QPixmap::fromImage(shape);
 }
 
 // The option as it is drawn where its entry is chosen: with the icon in the text's colour.
