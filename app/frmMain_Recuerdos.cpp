@@ -2,6 +2,7 @@
 #include <QCheckBox>
 #include <QFileInfo>
 #include <QMenu>
+#include <QMenuBar>
 #include <QScreen>
 #include <QSplitter>
 
