@@ -14,8 +14,8 @@ void Lay(const FuenteEnUso& font, std::string_view text) {
     columns = banner.Columnas();
     rows = banner.filas.size();
   }
-  font.Dibujar(text,
-               {{Composicion::Fuente, 20, Lado::Derecha}, {true, true, Marco::Linea, Comentario::Bloque}});
+  font.Dibujar(text, {{Composicion::Fuente, 20, Lado::Derecha},
+                      {true, true, MarcoDeLetrero::Linea, Comentario::Bloque}});
 }
 
 }  // namespace
