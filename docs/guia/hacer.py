@@ -5,7 +5,7 @@ the window by really using it (tools/capturas), and the pictures of the README.
   hacer.py BIN --comprobar   runs every order again and compares the pages; says what is not so, or lost
 
 In a page, <orden>ORDER</orden> runs ORDER in the work folder and shows it with what it prints. Attributes: arte (small
-letters), filas="N" (its first N lines), calla (nothing of it). The pictures that a page shows are those that the orders
+letters), filas="N" (its first N lines). The pictures that a page shows are those that the orders
 before, or the window, have left in the work folder."""
 import filecmp
 import html
@@ -26,7 +26,7 @@ PAGES = [('index', 'Para empezar'), ('modos', 'Los seis modos'), ('conversiones'
          ('', 'Cómo se hace'), ('fotografia', 'Una fotografía'), ('logotipo', 'Un logotipo'), ('letrero', 'Un letrero'),
          ('animacion', 'Una animación'), ('pagina', 'Una página web'), ('dibujar', 'Dibujar a mano'),
          ('miles', 'Miles de imágenes'), ('', 'De consulta'), ('ordenes', 'La línea de órdenes'), ('teclas', 'Las teclas')]
-FRAMES = 20
+FRAMES = 16
 
 
 def boat(turn):
@@ -36,15 +36,15 @@ def boat(turn):
         return f'<polygon points="0,400 {points} 640,400" fill="{colour}"/>'
     tilt, rise = 7 * math.sin(2 * math.pi * turn), 8 * math.cos(2 * math.pi * turn)
     return f'''<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 640 400" width="640" height="400">
-<defs><linearGradient id="c" x2="0" y2="1"><stop stop-color="#fff"/><stop offset="1" stop-color="#ffe9c9"/></linearGradient>
-<linearGradient id="v"><stop stop-color="#b8412c"/><stop offset="1" stop-color="#f3a25f"/></linearGradient></defs>
-<rect width="640" height="400" fill="url(#c)"/><circle cx="520" cy="95" r="48" fill="#f4b740"/>
-{wave(292, 8, 320, -1, '#8fb9c9')}
+<defs><linearGradient id="c" x2="0" y2="1"><stop stop-color="#000"/><stop offset="1" stop-color="#0d1b33"/></linearGradient>
+<linearGradient id="v"><stop stop-color="#f0713a"/><stop offset="1" stop-color="#ffe0a8"/></linearGradient></defs>
+<rect width="640" height="400" fill="url(#c)"/><circle cx="520" cy="95" r="48" fill="#ffedb0"/>
+{wave(292, 8, 320, -1, '#1d5a88')}
 <g transform="translate(300 {rise:.1f}) rotate({tilt:.2f} 0 280)">
-<rect x="-5" y="50" width="10" height="220" fill="#4a2f1d"/>
-<path d="M14 62Q150 150 150 232H14z" fill="url(#v)"/><path d="M-14 92Q-110 170-110 232H-14z" fill="#d98a55"/>
-<path d="M-150 252H165Q140 322 90 326H-90Q-135 320-150 252z" fill="#5b2b18"/><path d="M-150 252H165l-5 14H-146z" fill="#e7d3b5"/></g>
-{wave(318, 10, 213.34, 1, '#4d8aa3')}{wave(350, 9, 160, -1, '#2b5f7a')}{wave(378, 8, 128, 1, '#1c4257')}</svg>'''
+<rect x="-5" y="50" width="10" height="220" fill="#c89a6a"/>
+<path d="M14 62Q150 150 150 232H14z" fill="url(#v)"/><path d="M-14 92Q-110 170-110 232H-14z" fill="#fff3df"/>
+<path d="M-150 252H165Q140 322 90 326H-90Q-135 320-150 252z" fill="#e0935a"/><path d="M-150 252H165l-5 14H-146z" fill="#ffffff"/></g>
+{wave(318, 10, 213.34, 1, '#2c86b8')}{wave(350, 9, 160, -1, '#5cb8e6')}{wave(378, 8, 128, 1, '#2f86b8')}</svg>'''
 
 
 def steps(*lines):
@@ -62,15 +62,19 @@ def scene(size, *lines):
 
 
 WINDOW = '\n'.join((
-    scene(('1120', '760'), *CAT, ('poner', 'numColumnas', '150'), *PLAY, ('elegir', 'mnuAcercar'), ('elegir', 'mnuAcercar'),
-          ('esperar', '300'), ('foto', 'ventana.png')),
-    scene(('960', '740'), ('poner', 'numColumnas', '110'), *PLAY, ('foto', 'modo-grises.png')),
-    steps(('elegir', 'AsciiArt -> Detección de bordes'), *LOGO, *PLAY, ('foto', 'modo-bordes.png')),
+    scene(('1120', '760'), *CAT, ('poner', 'numColumnas', '150'), *PLAY, ('elegir', 'mnuVerTodo'), ('esperar', '400'), ('foto', 'ventana.png')),
+    scene(('960', '700'), ('poner', 'numColumnas', '110'), *PLAY, ('foto', 'modo-grises.png')),
+    steps(('elegir', 'AsciiArt -> Detección de bordes'), *LOGO, *PLAY, ('elegir', 'mnuVerTodo'), ('esperar', '400'), ('foto', 'modo-bordes.png')),
     steps(('elegir', 'AsciiArt -> Anti-aliasing'), *PLAY, ('foto', 'modo-antialias.png')),
     steps(('elegir', 'mnuEditor'), ('esperar', '900'), ('foto', 'editor.png', 'frmEditor'), ('cerrar', 'frmEditor')),
     steps(('elegir', 'AsciiArt -> Texto'), ('elegir', 'mnuPlay'), ('esperar', '900'), ('poner', 'txtFigText', 'Hola'), ('esperar', '900'),
           ('foto', 'modo-texto.png'))))
-FILTERS = steps(*CAT, ('elegir', 'mnuComparar'), ('esperar', '2500'), ('foto', 'comparar.png', 'frmComparar'), ('cerrar', 'frmComparar'))
+COMPARISON = scene(('960', '700'), *CAT, ('elegir', 'mnuComparar'), ('medida', '960', '560', 'frmComparar'), ('esperar', '2500'),
+          ('foto', 'comparar.png', 'frmComparar'), ('cerrar', 'frmComparar'))
+WEB_ART = '\n'.join((
+    scene(('960', '700'), ('cargar', 'gato.png'), ('esperar', '1500'), ('elegir', 'WebArt -> Mosaico'), ('poner', 'cboPaletaWeb', 'Texto del usuario'), ('poner', 'txtPaletaWeb', 'gato '),
+          ('foto', 'modo-mosaico.png')),
+    steps(('elegir', 'WebArt -> Copia exacta'), ('foto', 'modo-copia.png'))))
 
 
 class Guide:
@@ -97,7 +101,7 @@ class Guide:
         rows = re.search(r'filas="(\d+)"', wishes)
         if rows and out.count('\n') > int(rows[1]):
             out = '\n'.join(out.split('\n')[:int(rows[1])]) + '\n…\n'
-        if not out or 'calla' in wishes:
+        if not out:
             return shown
         kind = 'salida arte' if 'arte' in wishes else 'salida'
         return f'{shown}\n<pre class="{kind}" tabindex="0">{html.escape(out, False)}</pre>'
@@ -121,7 +125,7 @@ class Guide:
         return made
 
     def window(self):
-        for scenes in (WINDOW, FILTERS):
+        for scenes in (WINDOW, COMPARISON, WEB_ART):
             subprocess.run([self.bin / 'capturas'], cwd=self.work, input=scenes + '\n', text=True, check=True, timeout=120,
                            stderr=subprocess.DEVNULL)
 
@@ -141,8 +145,7 @@ def pictures(pages):
 def make(guide):
     made = guide.pages()
     guide.window()
-    for page, picture in (('mosaico.html', 'modo-mosaico.png'), ('copia.html', 'modo-copia.png')):
-        guide.browser(page, picture, 900, 640)
+    guide.browser('gato-web.html', 'pagina.png', 900, 760)
     shutil.rmtree(GUIDE, ignore_errors=True)
     (GUIDE / 'imagenes').mkdir(parents=True)
     shutil.copy(HERE / 'style.css', GUIDE)

@@ -2,12 +2,11 @@
 // needed. Run by docs/guia/hacer.py:
 //   capturas < STEPS
 // A step a line, its words between tabs:
-//   medida WIDTH HEIGHT      cargar FILE      elegir ACTION      pulsar BUTTON      poner CONTROL VALUE
-//   esperar MILLISECONDS     cerrar CLASS     raton CONTROL X Y X Y      foto FILE [CLASS of the window]
-//   reducir FILE
+//   medida WIDTH HEIGHT [CLASS of the window]      foto FILE [CLASS]      cerrar CLASS      esperar
+//   MILLISECONDS cargar FILE      elegir ACTION      pulsar BUTTON      poner CONTROL VALUE      reducir FILE
 #include <algorithm>
 #include <iostream>
-#include <stdexcept>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -15,7 +14,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
@@ -80,20 +78,27 @@ void Poner(QWidget& control, const QString& value) {
   }
 }
 
-// The at most 256 colours that stand for those of a picture: boxes of colours, cut where they are widest.
+using Cuenta = std::pair<QRgb, int>;  // a colour, and of how many points
+
+// The at most 256 colours that stand for those of a picture: boxes of colours, cut where they are widest,
+// each with the most frequent one, so that the greys of a window stay as they are.
 QList<QRgb> Colores(const QImage& image) {
-  std::vector<std::vector<QRgb>> boxes(1);
+  std::map<QRgb, int> counts;
   for (int y = 0; y < image.height(); ++y)
-    for (int x = 0; x < image.width(); ++x) boxes[0].push_back(image.pixel(x, y) & 0xFCFCFC);
-  std::sort(boxes[0].begin(), boxes[0].end());
-  boxes[0].erase(std::unique(boxes[0].begin(), boxes[0].end()), boxes[0].end());
-  const auto part = [](QRgb c, int shift) { return static_cast<int>(c >> shift & 0xFF); };
-  const auto widest = [&](const std::vector<QRgb>& box) {
+    for (int x = 0; x < image.width(); ++x) ++counts[image.pixel(x, y)];
+  std::vector<std::vector<Cuenta>> boxes = {{counts.begin(), counts.end()}};
+  const auto below = [](int shift) {
+    return [shift](const Cuenta& a, const Cuenta& b) {
+      return (a.first >> shift & 0xFF) < (b.first >> shift & 0xFF);
+    };
+  };
+  const auto widest = [&](const std::vector<Cuenta>& box) {
     std::pair<int, int> best{-1, 0};  // how wide, of which part
     for (const int shift : {0, 8, 16}) {
-      const auto [least, most] = std::minmax_element(
-          box.begin(), box.end(), [&](QRgb a, QRgb b) { return part(a, shift) < part(b, shift); });
-      best = std::max(best, {part(*most, shift) - part(*least, shift), shift});
+      const auto [least, most] = std::minmax_element(box.begin(), box.end(), below(shift));
+      best = std::max(best, {static_cast<int>(most->first >> shift & 0xFF) -
+                                 static_cast<int>(least->first >> shift & 0xFF),
+                             shift});
     }
     return best;
   };
@@ -102,16 +107,17 @@ QList<QRgb> Colores(const QImage& image) {
                                 [&](const auto& a, const auto& b) { return widest(a) < widest(b); });
     const auto [width, shift] = widest(*box);
     if (width == 0) break;
-    std::sort(box->begin(), box->end(),
-              [&, of = shift](QRgb a, QRgb b) { return part(a, of) < part(b, of); });
+    std::sort(box->begin(), box->end(), below(shift));
     const auto half = box->begin() + static_cast<std::ptrdiff_t>(box->size() / 2);
-    std::vector<QRgb> rest(half, box->end());
+    std::vector<Cuenta> rest(half, box->end());
     box->erase(half, box->end());
     boxes.push_back(std::move(rest));
   }
   QList<QRgb> colours;
-  for (const auto& box : boxes) colours.append(box[box.size() / 2] | 0xFF000000);
-  colours.back() = 0xFFFFFFFF;
+  for (const auto& box : boxes)
+    colours.append(std::max_element(box.begin(), box.end(), [](const Cuenta& a, const Cuenta& b) {
+                     return a.second < b.second;
+                   })->first);
   return colours;
 }
 
@@ -122,26 +128,13 @@ void Guardar(const QImage& image, const QString& file) {
   if (!few.save(file, "png", 0)) Fallar("no file " + file);
 }
 
-void Mover(QWidget& control, QPoint from, QPoint to) {
-  const auto send = [&](QEvent::Type kind, QPoint at, Qt::MouseButton button) {
-    const Qt::MouseButtons held = kind == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(kind, at, control.mapToGlobal(at), button, held, Qt::NoModifier);
-    QApplication::sendEvent(&control, &event);
-  };
-  send(QEvent::MouseButtonPress, from, Qt::LeftButton);
-  for (int k = 1; k <= 40; ++k) send(QEvent::MouseMove, from + (to - from) * k / 40, Qt::NoButton);
-  send(QEvent::MouseButtonRelease, to, Qt::LeftButton);
-}
-
 void Dar(frmMain& window, const QStringList& w) {
-  if (w[0] == "medida") window.resize(w[1].toInt(), w[2].toInt());
+  if (w[0] == "medida") Ventana(w.value(3, "frmMain")).resize(w[1].toInt(), w[2].toInt());
   if (w[0] == "cargar" && !window.AbrirImagen(w[1].toStdString())) Fallar("no picture " + w[1]);
   if (w[0] == "elegir") Hallar<QAction>(w[1]).trigger();
   if (w[0] == "pulsar") Hallar<QAbstractButton>(w[1]).click();
   if (w[0] == "poner") Poner(Hallar<QWidget>(w[1]), w[2]);
   if (w[0] == "cerrar") Ventana(w[1]).close();
-  if (w[0] == "raton")
-    Mover(Hallar<QWidget>(w[1]), {w[2].toInt(), w[3].toInt()}, {w[4].toInt(), w[5].toInt()});
   if (w[0] == "reducir") Guardar(QImage(w[1]), w[1]);
   if (w[0] == "foto") Guardar(Ventana(w.value(2, "frmMain")).grab().toImage(), w[1]);
 }
