@@ -97,7 +97,8 @@ class Guide:
     def quote(self, found):
         wishes, order = found[1], html.unescape(found[2]).strip()
         out = self.run(order)
-        shown = f'<pre class="orden">{html.escape(order, False)}</pre>'
+        words = re.sub(r'(?<= )(-[^\s]+)', r'<span>\1</span>', html.escape(order, False))  # kept from breaking at a hyphen
+        shown = f'<pre class="orden">{words}</pre>'
         rows = re.search(r'filas="(\d+)"', wishes)
         if rows and out.count('\n') > int(rows[1]):
             out = '\n'.join(out.split('\n')[:int(rows[1])]) + '\n…\n'
