@@ -27,6 +27,7 @@ class EntradaTest : public QObject {
 
  private slots:
   void TheSampleIsOneClickAway();
+  void TheGuideIsOneKeyAway();
   void PicturesFilesAndAddressesArePasted();
   void TextIsPastedIntoTheText();
 };
@@ -40,6 +41,15 @@ void EntradaTest::TheSampleIsOneClickAway() {
   QCOMPARE(NombreDeImagen(m.program), "muestra");
   QVERIFY(!m.Text().empty() && m.Text() == m.program.basAscii.ProducedText);
   QVERIFY(Find<QCheckBox>(m.window, "chkAlMomento").isChecked() && !button.isVisible());
+}
+
+void EntradaTest::TheGuideIsOneKeyAway() {
+  test::MainWindow m;
+  m.window.activateWindow();
+  QTest::keyClick(&m.window, Qt::Key_F1);
+  const auto page = ProgramFolder() / "guia" / "index.html";
+  QVERIFY(std::filesystem::exists(page));
+  QCOMPARE(m.shell.log, std::vector<std::string>{"Open|" + page.string()});
 }
 
 void EntradaTest::PicturesFilesAndAddressesArePasted() {

@@ -54,7 +54,12 @@ class Instalado(unittest.TestCase):
     def test_the_files_are_all_there_and_no_others(self):
         found = {os.path.relpath(os.path.join(folder, f), self.usr) for folder, _, files in os.walk(self.usr) for f in files}
         fonts = {f for f in found if f.startswith('share/pixmosa/Fonts/')}
-        self.assertEqual(found - fonts, EXPECTED)
+        guide = {f for f in found if f.startswith('share/pixmosa/guia/')}
+        self.assertEqual(found - fonts - guide, EXPECTED)
+        shipped = os.path.join(os.path.dirname(__file__), '../../data/guia')
+        self.assertEqual(guide, {'share/pixmosa/guia/' + os.path.relpath(os.path.join(folder, f), shipped)
+                                 for folder, _, files in os.walk(shipped) for f in files})
+        self.assertIn('share/pixmosa/guia/index.html', guide)
         self.assertIn('share/pixmosa/Fonts/categoriestree.txt', fonts)
         self.assertEqual(os.listdir(self.stage), ['usr'])
         for name in ('bin/pixmosa', 'bin/pixmosa-cli', 'libexec/pixmosa/pixmosa-decodificador'):

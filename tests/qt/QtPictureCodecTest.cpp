@@ -145,7 +145,7 @@ TEST_F(QtPictureCodecTest, VectorPicturesReachNoFileButFonts) {
     return R"(<image width="20" height="10" xlink:href=")" + href + R"("/>)";
   };
   // So large that the library draws it by threads.
-  EXPECT_EQ(codec.Read(PIXMOSA_SOURCE_DIR "/data/muestra.svg").Size(), (Extent{960, 720}));
+  EXPECT_EQ(codec.Read(PIXMOSA_SOURCE_DIR "/tests/qt/faro.svg").Size(), (Extent{960, 720}));
   EXPECT_TRUE(inked(R"(<text y="9">M</text>)"));
   EXPECT_TRUE(
       inked(image("data:image/png;base64," + QByteArray::fromStdString(png).toBase64().toStdString())));
