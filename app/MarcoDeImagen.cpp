@@ -63,6 +63,7 @@ MarcoDeImagen::MarcoDeImagen(QWidget* parent) : QWidget(parent) {
       tr("Imagen de trabajo: arrastre aquí una imagen para cargarla; "
          "doble clic para verla entera o a tamaño natural"));
   marco_ = frame;
+  frame->installEventFilter(this);
   vista_ = named<VistaDeImagen>("picMain", frame);
   vista_->hide();
   horizontal_ = named<QScrollBar>("HScroll1", Qt::Horizontal, this);
@@ -129,6 +130,7 @@ void MarcoDeImagen::Recortar() {
     if (!whole) emit RecorteElegido(zone);
   });
   static_cast<QGridLayout*>(layout())->addWidget(barra_, 2, 0, 1, 2);
+  barra_->show();
   Recolocar();
 }
 
@@ -202,6 +204,11 @@ void MarcoDeImagen::Mover() {
 void MarcoDeImagen::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   Recolocar();
+}
+
+bool MarcoDeImagen::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == marco_ && event->type() == QEvent::Resize) Colocar();
+  return QWidget::eventFilter(watched, event);
 }
 
 void MarcoDeImagen::wheelEvent(QWheelEvent* event) {

@@ -12,7 +12,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "platform/qt/Named.h"
 
@@ -231,28 +230,26 @@ BarraDeRecorte::BarraDeRecorte(RecorteConRaton* crop, QSize natural) : recorte_(
   connect(proportion, &QComboBox::currentIndexChanged, crop,
           [crop, proportion] { crop->PonerProporcion(proportion->currentData().toDouble()); });
   lblRecorte_ = named<QLabel>("lblRecorte");
+  lblRecorte_->setToolTip(QStringLiteral("Píxeles de ancho y de alto de la parte que queda"));
   auto* accept = named<QPushButton>("cmdRecortar", QStringLiteral("&Recortar"));
   auto* leave = named<QPushButton>("cmdDejarRecorte", QStringLiteral("Dejarlo"));
   connect(accept, &QAbstractButton::clicked, crop, &RecorteConRaton::Aceptada);
   connect(leave, &QAbstractButton::clicked, crop, &RecorteConRaton::Dejada);
   connect(crop, &RecorteConRaton::Cambiada, this, &BarraDeRecorte::Mostrar);
-  auto* first = new QHBoxLayout;
-  first->addWidget(proportion, 1);
-  first->addWidget(lblRecorte_);
-  auto* second = new QHBoxLayout;
-  second->addStretch(1);
-  second->addWidget(accept);
-  second->addWidget(leave);
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 4, 0, 4);
-  layout->addLayout(first);
-  layout->addLayout(second);
+  proportion->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  proportion->setMinimumContentsLength(5);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 4, 0, 4);
+  row->addWidget(proportion, 1);
+  row->addWidget(lblRecorte_);
+  row->addWidget(accept);
+  row->addWidget(leave);
   Mostrar();
 }
 
 void BarraDeRecorte::Mostrar() {
   const Zona zone = recorte_->Marcada();
-  lblRecorte_->setText(QStringLiteral("%1 x %2 píxeles").arg(zone.ancho).arg(zone.alto));
+  lblRecorte_->setText(QStringLiteral("%1 x %2").arg(zone.ancho).arg(zone.alto));
 }
 
 }  // namespace pixmosa

@@ -68,7 +68,8 @@ void frmMain::EscribirDibujo(const std::function<Dibujo()>& drawing) {
       desktop_.dialogos,
       [&] {
         const auto made = std::make_shared<Dibujo>(drawing());
-        EscribirArchivo(file, Esperar([made, format, options = p_.exportar, means = MediosDeExportar()] {
+        EscribirArchivo(file,
+                        Esperar([made, format, options = OpcionesDeVentana(p_), means = MediosDeExportar()] {
                           return format->escribir(*made, options, means);
                         }));
         NombrarArchivo(QStringLiteral("Dibujo exportado"), file);

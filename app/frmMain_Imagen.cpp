@@ -46,6 +46,7 @@ void frmMain::CrearEntradasDeHistorial() {
 
 void frmMain::PasoDado(const QString& name, const std::vector<std::string>& words) {
   AnotarPaso(p_, name.toStdString(), words);
+  Decir({});
   MostrarPasos();
   MostrarImagen();
 }

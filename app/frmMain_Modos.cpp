@@ -78,6 +78,7 @@ void frmMain::PresentarModo() {
 
 void frmMain::ElegirModo(Modo mode) {
   p_.modo = mode;
+  Decir({});
   lblModo_->setText(QString::fromUtf8(kModos[mode]));
   PresentarModo();
   if (!PicAlgoritmos_->isHidden()) opciones_->MostrarPaneles();

@@ -23,6 +23,16 @@ void frmMain::CrearRecetas() {
                            menu);
   acciones_["mnuGuardarReceta"] = keep;
   menu->addAction(keep);
+  QAction* folder =
+      AccionDe({"mnuCarpetaDeRecetas", "&Abrir la carpeta de las recetas", "folder-open", nullptr,
+                "Las recetas son archivos de texto: se pueden leer, cambiar, copiar y borrar"},
+               menu);
+  menu->addAction(folder);
+  connect(folder, &QAction::triggered, this, Con(desktop_.dialogos, [this](bool) {
+            std::error_code none;
+            std::filesystem::create_directories(RecipeFolder(), none);
+            AbrirPagina(RecipeFolder().string());
+          }));
   menu->addSeparator();
   connect(keep, &QAction::triggered, this, Con(desktop_.dialogos, [this](bool) { GuardarReceta(); }));
   connect(menu, &QMenu::aboutToShow, this, &frmMain::ListarRecetas);
@@ -32,7 +42,7 @@ void frmMain::CrearRecetas() {
 void frmMain::ListarRecetas() {
   auto* menu = imagen_->Menu()->findChild<QMenu*>("mnuRecetas");
   const QList<QAction*> entries = menu->actions();
-  for (QAction* old : entries.mid(2)) delete old;
+  for (QAction* old : entries.mid(3)) delete old;
   for (const std::string& name : RecetasGuardadas(RecipeFolder())) {
     QAction* entry = menu->addAction(Q(name).replace("&", "&&"));
     entry->setObjectName("receta:" + Q(name));

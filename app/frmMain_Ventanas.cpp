@@ -58,6 +58,7 @@ void frmMain::Comparar() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
+  if (p_.mFiltros.EffectBusy) progreso_.Cancelar();
   if (ocupada_) {
     cerrarDespues_ = true;
     progreso_.Cancelar();
@@ -71,9 +72,13 @@ void frmMain::closeEvent(QCloseEvent* event) {
 }
 
 bool frmMain::PuedePerderseElTexto() {
-  if (!txtAscii_->SinGuardar()) return true;
-  switch (desktop_.dialogos.AskToSave("El texto editado a mano no se ha guardado.", "Pixmosa")) {
+  const bool now = txtAscii_->SinGuardar();
+  if (!now && !txtAscii_->HayApartada()) return true;
+  switch (desktop_.dialogos.AskToSave(now ? "El texto editado a mano no se ha guardado."
+                                          : "Un texto editado a mano, que otro sustituyó, no se ha guardado.",
+                                      "Pixmosa")) {
     case Respuesta::Guardar:
+      if (!now) txtAscii_->RecuperarApartada();
       return Guardar();
     case Respuesta::Descartar:
       return true;

@@ -43,8 +43,8 @@ Repertorio MedirRepertorio(TextSurface& surface, const Font& font, Extent cell,
 }
 
 std::u32string ConvertFormas(const Repertorio& from, const AjustesDeFormas& settings, int luminosity,
-                             const Picture& picture, Extent size) {
-  const auto tones = TonosDePagina(from, settings, luminosity, picture, size, kSubAncho, kSubAlto);
+                             const Picture& picture, Extent size, ClaridadHecha* made) {
+  const auto tones = TonosDePagina(from, settings, luminosity, picture, size, kSubAncho, kSubAlto, made);
   const EleccionDeForma choice(from.caracteres, settings.nitidez);
   std::u32string text;
   text.reserve(static_cast<std::size_t>(size.width) * size.height);
@@ -60,10 +60,10 @@ std::u32string ConvertFormas(const Repertorio& from, const AjustesDeFormas& sett
 }
 
 std::u32string ConvertTono(const Repertorio& from, const AjustesDeFormas& settings, int luminosity,
-                           const Picture& picture, Extent size) {
+                           const Picture& picture, Extent size, ClaridadHecha* made) {
   const std::vector<char32_t> nearest = MasCercanos(from.caracteres);
   std::u32string text;
-  for (const std::int16_t x : TonosDePagina(from, settings, luminosity, picture, size, 1, 1))
+  for (const std::int16_t x : TonosDePagina(from, settings, luminosity, picture, size, 1, 1, made))
     text += nearest[x];
   return text;
 }

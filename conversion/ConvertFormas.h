@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "conversion/Caracteres.h"
+#include "conversion/Malla.h"
 #include "platform/Picture.h"
 
 namespace pixmosa {
@@ -29,11 +30,17 @@ struct Repertorio {
 Repertorio MedirRepertorio(TextSurface& surface, const Font& font, Extent cell,
                            std::u32string_view characters, bool negative);
 
+// The lightness of a picture's parts as it was last made: a dragged slider need not read the picture again.
+struct ClaridadHecha {
+  Picture imagen{};
+  Malla partes{};
+};
+
 // The text's rows of size.width characters, one after another, without line ends; none is dropped.
-// `luminosity` is -100..100.
+// `luminosity` is -100..100. `made` is used where it is of this picture and size, and follows them.
 std::u32string ConvertFormas(const Repertorio& from, const AjustesDeFormas& settings, int luminosity,
-                             const Picture& picture, Extent size);
+                             const Picture& picture, Extent size, ClaridadHecha* made = nullptr);
 std::u32string ConvertTono(const Repertorio& from, const AjustesDeFormas& settings, int luminosity,
-                           const Picture& picture, Extent size);
+                           const Picture& picture, Extent size, ClaridadHecha* made = nullptr);
 
 }  // namespace pixmosa

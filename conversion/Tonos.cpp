@@ -71,14 +71,26 @@ std::array<std::int16_t, kLuzDePagina + 1> LucesDePagina(const Repertorio& from)
   return page;
 }
 
+// The pixels of a picture never change while the copy here holds them.
+const Malla& Claridades(const Picture& picture, Extent size, ClaridadHecha& made) {
+  static const TablaDeClaridad lightness;
+  const Extent before{static_cast<int>(made.partes.ancho), static_cast<int>(made.partes.alto)};
+  if (made.imagen.Pixels() == picture.Pixels() && made.imagen.Size() == picture.Size() && before == size)
+    return made.partes;
+  made = {};
+  made.partes = LuzMedia(picture, size);
+  for (float& v : made.partes.valores) v = lightness.De(v);
+  made.imagen = picture;
+  return made.partes;
+}
+
 }  // namespace
 
 std::vector<std::int16_t> TonosDePagina(const Repertorio& from, const AjustesDeFormas& settings,
                                         int luminosity, const Picture& picture, Extent size, int across,
-                                        int down) {
-  static const TablaDeClaridad lightness;
-  Malla l = LuzMedia(picture, {size.width * across, size.height * down});
-  for (float& v : l.valores) v = lightness.De(v);
+                                        int down, ClaridadHecha* made) {
+  ClaridadHecha own;
+  const Malla& l = Claridades(picture, {size.width * across, size.height * down}, made ? *made : own);
   Malla c = DeCeldas(l, across, down);
 
   const float k = static_cast<float>(settings.contrasteLocal) / 100;

@@ -14,6 +14,6 @@ namespace pixmosa {
 // cell has across x down of them.
 std::vector<std::int16_t> TonosDePagina(const Repertorio& from, const AjustesDeFormas& settings,
                                         int luminosity, const Picture& picture, Extent size, int across,
-                                        int down);
+                                        int down, ClaridadHecha* made = nullptr);
 
 }  // namespace pixmosa

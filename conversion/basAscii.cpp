@@ -139,7 +139,9 @@ bool ConvertResized(BasAscii& ascii, const AsciiSettings& settings, const Pictur
 void ConvertirFormas(BasAscii& ascii, const AsciiSettings& settings, const Picture& picture, Extent size,
                      int method) {
   const auto convert = method == kTono ? ConvertTono : ConvertFormas;
-  const std::u32string text = convert(ascii.Medidos, settings.formas, settings.luminosity, picture, size);
+  // A picture that nobody else holds is not needed again.
+  const std::u32string text = convert(ascii.Medidos, settings.formas, settings.luminosity, picture, size,
+                                      picture.EsUnica() ? nullptr : &ascii.Claridades);
   std::string bytes, utf8;
   bool unicode = false;
   bytes.reserve(text.size() + 2 * static_cast<std::size_t>(size.height));

@@ -58,6 +58,7 @@ struct BasAscii {
   pixmosa::Palette3x2 Palette3x2;              // loaded once at start-up
   double Proporcion = 0;                       // height by width of the reader's cell; 0: the font's own
   Repertorio Medidos{};                        // for kTono and kFormas; empty: stale, see PrepararRepertorio
+  ClaridadHecha Claridades{};                  // of kTono and kFormas
   std::string ProducedText;                    // 8-bit code page, rows separated by CR LF
   std::string ProducedUtf8;  // the same where it has characters that the code page lacks; else empty
 };

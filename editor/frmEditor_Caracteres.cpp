@@ -152,8 +152,9 @@ void PanelDeCaracteres::Poner(const Pincel& brush) {
   lblActual_->setText(Mostrado(brush.caracter));
   QPalette colours = lblActual_->palette();
   colours.setColor(QPalette::Base, Qt::white);
-  colours.setColor(QPalette::WindowText,
-                   brush.tinta == kNoColour ? QColor(Qt::black) : QColorOf(brush.tinta));
+  // Text is what stands on Base.
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text})
+    colours.setColor(role, brush.tinta == kNoColour ? QColor(Qt::black) : QColorOf(brush.tinta));
   lblActual_->setPalette(colours);
   lblCodigo_->setText(Codigo(brush.caracter));
   PintarMuestra(lblTinta_, brush.tinta == kNoColour ? kBlack : brush.tinta);

@@ -148,7 +148,9 @@ bool frmEditor::PuedePerderse() {
   if (DrawingText(editor_) == saved_) return true;
   raise();
   activateWindow();
+#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
   QApplication::setActiveWindow(this);  // at once: the question opens over it
+#endif
   switch (dialogs_.AskToSave(
       "El dibujo tiene cambios que no se han guardado ni enviado a la ventana principal.\r\n"
       "¿Desea guardarlo en un archivo?",

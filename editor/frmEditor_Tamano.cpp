@@ -62,6 +62,8 @@ void frmEditor::PedirTamano() {
 
 void frmEditor::CambiarTamano() {
   const int columns = numColumnas_->value(), rows = numFilas_->value();
+  size_->hide();
+  picDraw_->setFocus();
   if (columns == editor_.Grid.Columnas() && rows == editor_.Grid.Filas()) return;
   picDraw_->Hacer([&] { Redimensionar(editor_, columns, rows); });
 }

@@ -77,10 +77,14 @@ if [ -z "$column" ]; then
   exit 0  # they may all be there; the build says which is not
 fi
 
+# Debian 12 has the plug-in in the library's package, newer systems in one of its own.
+svg_of_debian() { [ "$column" = 0 ] && apt-cache show qt6-svg-plugins >/dev/null 2>&1; }
+
 missing=()
 for row in "${wanted[@]}"; do
   read -ra names <<<"${row%%|*}"
   package=${names[column]}
+  if [ "$package" = libqt6svg6 ] && svg_of_debian; then package=qt6-svg-plugins; fi
   if [[ " ${missing[*]} " != *" $package "* ]] && ! is_there "$package"; then
     missing+=("$package")
     echo "Pixmosa necesita $package (${row#*|}); se instala ahora."

@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <functional>
+#include <memory>
 #include <type_traits>
 #include <vector>
 
@@ -171,9 +172,9 @@ void LeerOpciones(Programa& p, std::string_view text) {
 }
 
 void PonerOpcionesDeFabrica(Programa& p) {
-  const Programa fresh{p.superficie, p.codec, p.carpeta};
-  LeerOpciones(p, TextoDeOpciones(fresh));
-  PonerConversion(p, fresh.ajustes.conversion);
+  const std::unique_ptr<const Programa> fresh(new Programa{p.superficie, p.codec, p.carpeta});
+  LeerOpciones(p, TextoDeOpciones(*fresh));
+  PonerConversion(p, fresh->ajustes.conversion);
 }
 
 }  // namespace pixmosa

@@ -49,6 +49,7 @@ void AreaDeTexto::PonerTexto(std::string_view bytes) {
 
 void AreaDeTexto::PonerUtf8(std::string_view utf8) {
   const bool edited = EditadaAMano();
+  if (SinGuardar()) apartada_ = Utf8();
   if (edited) Conservar();
   puesta_ = utf8;
   Mostrar(utf8);
@@ -85,6 +86,11 @@ bool AreaDeTexto::SinGuardar() const {
 
 void AreaDeTexto::DarPorGuardada() {
   guardada_ = Utf8();
+  if (guardada_ == apartada_) apartada_.clear();
+}
+
+void AreaDeTexto::RecuperarApartada() {
+  RecibirUtf8(std::exchange(apartada_, {}));
 }
 
 bool AreaDeTexto::PuedeDeshacer() const {
@@ -99,6 +105,7 @@ void AreaDeTexto::Deshacer() {
     editadas_.pop_back();
     Mostrar(text);
     document()->setModified(true);
+    if (text == apartada_) apartada_.clear();
   }
 }
 

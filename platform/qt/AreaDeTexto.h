@@ -57,6 +57,10 @@ class AreaDeTexto : public QPlainTextEdit {
   bool SinGuardar() const;
   void DarPorGuardada();
 
+  // A text edited by hand gave way to another and was neither saved nor brought back; brings it back.
+  bool HayApartada() const { return !apartada_.empty(); }
+  void RecuperarApartada();
+
   // There is something that Undo takes back: an edit by hand, or a replaced text that was edited.
   bool PuedeDeshacer() const;
   void Deshacer();
@@ -122,7 +126,8 @@ class AreaDeTexto : public QPlainTextEdit {
   std::unique_ptr<FormatoDeCeldas> celdas_;  // where there are characters that need it
   std::string puesta_;                       // the text that was put last, UTF-8 as those below
   std::string guardada_;                     // the text that was saved last
-  std::vector<std::string> editadas_;        // texts that gave way to others, the last one last
+  std::string apartada_;
+  std::vector<std::string> editadas_;  // texts that gave way to others, the last one last
   QString pista_;
   Qt::Alignment alineacion_ = Qt::AlignLeft;
 };

@@ -120,7 +120,8 @@ QSize AreaDeTexto::Medidas() const {
   int columns = 0;
   for (QTextBlock line = document()->begin(); line.isValid(); line = line.next())
     if (line.length() > columns) columns = std::max(columns, Letras(line.text()));
-  return {columns, blockCount()};
+  // The end of the last line begins no other.
+  return {columns, blockCount() - (blockCount() > 1 && document()->lastBlock().length() == 1)};
 }
 
 int AreaDeTexto::ColumnasVisibles() const {

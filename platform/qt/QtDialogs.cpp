@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
@@ -48,8 +49,9 @@ QWidget* QtDialogs::Encima() const {
 }
 
 QString QtDialogs::Donde() const {
-  return QFileInfo(carpeta_).isDir() ? carpeta_
-                                     : QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+  if (QFileInfo(carpeta_).isDir()) return carpeta_;
+  const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+  return QFileInfo(pictures).isDir() ? pictures : QDir::homePath();
 }
 
 std::string QtDialogs::Elegido(const QString& file) {

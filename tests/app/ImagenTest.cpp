@@ -72,7 +72,7 @@ void ImagenTest::APartIsMarkedMovedSizedAndCut() {
   QTest::keyClick(&m.Crop(), Qt::Key_Left);
   QTest::keyClick(&m.Crop(), Qt::Key_Down, Qt::ShiftModifier);
   QCOMPARE(m.Marked(), (std::array{69, 25, 110, 51}));
-  QCOMPARE(Find<QLabel>(m.window, "lblRecorte").text(), "110 x 51 píxeles");
+  QCOMPARE(Find<QLabel>(m.window, "lblRecorte").text(), "110 x 51");
   QTest::mouseClick(&Find<QPushButton>(m.window, "cmdRecortar"), Qt::LeftButton);
   QCOMPARE(m.Now().Size(), (Extent{110, 51}));
   QCOMPARE(Levels(m.Now())[0][0], 69);

@@ -139,7 +139,7 @@ void VerTest::TheLineMeasuresAndPointsAt() {
   const auto line = [&] { return Find<QLabel>(m.window, "lblMedidas").text(); };
   QCOMPARE(line(), "");
   m.Area().PonerUtf8("abc\r\n≠≠█de😀\r\n");
-  QCOMPARE(line(), "6 columnas x 3 filas");
+  QCOMPARE(line(), "6 columnas x 2 filas");
   for (const char* way : {"mnuTamanoReal", "mnuAcercar"}) {
     m.Trigger(way);
     const Trozo cell = CellOf(m.Area());
@@ -149,9 +149,9 @@ void VerTest::TheLineMeasuresAndPointsAt() {
       QApplication::sendEvent(m.Area().viewport(), &move);
       return line();
     };
-    QCOMPARE(point(1, 1), "6 columnas x 3 filas · columna 1, fila 1");
-    QCOMPARE(point(5, 2), "6 columnas x 3 filas · columna 5, fila 2");
-    QCOMPARE(point(5, 1), "6 columnas x 3 filas");
+    QCOMPARE(point(1, 1), "6 columnas x 2 filas · columna 1, fila 1");
+    QCOMPARE(point(5, 2), "6 columnas x 2 filas · columna 5, fila 2");
+    QCOMPARE(point(5, 1), "6 columnas x 2 filas");
   }
 }
 

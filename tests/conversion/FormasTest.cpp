@@ -106,6 +106,17 @@ TEST_F(Formas, TonoTakesTheNearestLightness) {
   EXPECT_EQ(ConvertTono(r, plain, 100, p, {6, 1}), U"     b") << "200 / 255 lighter";
 }
 
+TEST_F(Formas, WhatWasMadeOfAPictureServesThatPictureAlone) {
+  const Repertorio r = Medir(U" #bl");
+  Picture p = Grays({{255, 225, 215, 100, 80, 0}});
+  ClaridadHecha made;
+  ConvertTono(r, plain, 0, p, {6, 1}, &made);
+  EXPECT_EQ(ConvertTono(r, plain, 100, p, {6, 1}, &made), U"     b");
+  EXPECT_EQ(ConvertTono(r, plain, 0, p, {3, 1}, &made), ConvertTono(r, plain, 0, p, {3, 1}));
+  p.Writable()[0] = PixelOfColour(kBlack);
+  EXPECT_EQ(ConvertTono(r, plain, 0, p, {6, 1}, &made), U"# bb##");
+}
+
 // The least of m^2 + w mean(d^2) - sum (2 m + 2 w G d) / 8 x, in plain numbers.
 TEST_F(Formas, AgreesWithTheFormula) {
   surface.smooth = [](char32_t c, int x, int y) {
@@ -168,7 +179,8 @@ TEST_F(Formas, FlatAndTinyPicturesGiveOneCharacter) {
   for (const int level : {0, 70, 128, 255})
     for (const Extent size : {Extent{1, 1}, Extent{1, 9}, Extent{7, 3}})
       for (const auto convert : {ConvertTono, ConvertFormas}) {
-        const std::u32string text = convert(r, {}, 0, Picture::Filled(1, 1, Rgb(level, level, level)), size);
+        const std::u32string text =
+            convert(r, {}, 0, Picture::Filled(1, 1, Rgb(level, level, level)), size, nullptr);
         EXPECT_EQ(text, std::u32string(static_cast<std::size_t>(size.width) * size.height, text[0]));
       }
   // One character alone, and a set without any range.
